@@ -1,0 +1,45 @@
+# How every target of this project is compiled: warnings as errors, sanitizers, and the flags of the Windows programs.
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(vexa_compile INTERFACE)
+target_include_directories(vexa_compile INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(vexa_compile INTERFACE
+  -Wall -Wextra -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(vexa_compile INTERFACE -Wduplicated-branches -Wlogical-op -Wsuggest-override)
+else()
+  target_compile_options(vexa_compile INTERFACE -Winconsistent-missing-override -Wsuggest-override)
+endif()
+
+# The product's text is that of the ANSI code page: plain char is a byte, and no wide entry point is called, because
+# Windows 98 has none.
+if(WIN32)
+  add_compile_definitions(WINVER=0x0500 _WIN32_WINNT=0x0500 _WIN32_IE=0x0600 NOMINMAX WIN32_LEAN_AND_MEAN STRICT)
+  add_link_options(-static -Wl,--nxcompat -Wl,--dynamicbase)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    add_link_options(-Wl,--major-subsystem-version,4 -Wl,--minor-subsystem-version,0
+                     -Wl,--major-os-version,4 -Wl,--minor-os-version,0)
+  else()
+    add_link_options(-Wl,--high-entropy-va)
+  endif()
+endif()
+
+if(VEXA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(VEXA_FUZZ)
+  # The fuzzer steers by the coverage of the code under test.
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+# One library a folder of src/. The libraries named after DEPENDS are the folders below it, the only ones it may include.
+function(vexa_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC vexa_compile ${ARG_DEPENDS})
+endfunction()

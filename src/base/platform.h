@@ -1,0 +1,95 @@
+// The operating system as the editor needs it: a link-time contract with one implementation a platform
+// (platform/win32 and platform/host), held to the same behaviour by one test suite.
+//
+// Paths are DOS paths in the ANSI code page: C:\DIR\NAME.EXT, "\" between parts, letter case kept but not told apart.
+// The host maps each drive to a folder of a sandbox root, so that native tests run in a disk of their own.
+// A full path holds at most 259 bytes; a longer one names nothing. No name here is a macro of the Windows headers.
+// No function throws; failures are values, and what a failure leaves behind is said at each.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexa::platform {
+
+// ---- files -------------------------------------------------------------------------------------------------------
+
+enum class OpenMode {
+    Read,          // the file must exist; others may read and write it meanwhile
+    ReadWrite,     // the file must exist; opened at its start, nothing truncated, attributes kept; others may only read
+    CreateAlways,  // made, or emptied if it exists; for writing; others may only read
+    CreateNew,     // as CreateAlways, but fails if anything of that name exists
+};
+
+// An open file. What the operating system calls a handle, and -1 for none.
+using FileHandle = std::intptr_t;
+inline constexpr FileHandle kNoFile = -1;
+
+// kNoFile on any failure (missing, locked, protected, a directory, a name that is no path); nothing is changed then.
+FileHandle OpenFile(const std::string& path, OpenMode mode);
+// Reads size bytes, fewer only at the end of the file; the count read, or none on an error.
+std::optional<std::size_t> ReadFile(FileHandle file, char* data, std::size_t size);
+// Writes all of data at the file's position; false if any byte was not taken (some may have been).
+bool WriteFile(FileHandle file, std::string_view data);
+// Moves the position to an offset in bytes from the start.
+bool SeekFile(FileHandle file, std::uint64_t offset);
+// Ends the file at its present position.
+bool EndFileHere(FileHandle file);
+// Hands everything written to the device.
+bool FlushFile(FileHandle file);
+std::optional<std::uint64_t> FileSize(FileHandle file);
+// Closes in every case; false if the operating system reports that something written was lost.
+bool CloseFile(FileHandle file);
+
+// Whether anything (a file or a directory) of that name exists.
+bool PathExists(const std::string& path);
+bool DirectoryExists(const std::string& path);
+// Takes a file away, also a read-only or hidden one; its absence is success. False when something of that name still
+// exists afterwards (a file in use, a directory).
+bool RemoveFile(const std::string& path);
+// Renames a file to a new name or over an existing file, in one step where the system can. A read-only file is not
+// replaced. False leaves both as they were.
+bool RenameFile(const std::string& from, const std::string& to);
+// Makes one directory; true also when it exists already.
+bool MakeDirectory(const std::string& path);
+// The names (without directory) of the normal files that match the wildcards in the pattern's last part: no
+// directories, hidden or system files. "*.*" matches every name. Sorted by name, letter case ignored.
+std::vector<std::string> FindFiles(const std::string& pattern);
+
+// ---- places ------------------------------------------------------------------------------------------------------
+
+// The path made full against the current directory, with "." and ".." parts resolved; empty when it is no path.
+std::string FullPath(const std::string& path);
+// Without a trailing "\" except for a drive's root.
+std::string CurrentDirectory();
+bool ChangeDirectory(const std::string& path);
+// Changes to a drive (0 is A) and to the current directory it had.
+bool ChangeDrive(int drive);
+// The full path of the executable.
+std::string ProgramPath();
+
+// ---- settings files (INI) ----------------------------------------------------------------------------------------
+
+// The value of a key, without the blanks around it and without one pair of enclosing quotes, at most size - 1 bytes;
+// the fallback when the file, section or key is missing.
+std::string ReadSetting(const std::string& file, const std::string& section, const std::string& key,
+                        const std::string& fallback, std::size_t size);
+// The value's leading decimal number, with or without a sign (0 for other text); the fallback when the key is missing
+// or empty.
+std::int32_t ReadIntSetting(const std::string& file, const std::string& section, const std::string& key,
+                            std::int32_t fallback);
+// Stores a value of one line, adding file, section and key as needed, other lines untouched. False for a read-only file
+// or a missing directory, which stay as they were. The host replaces the file in one step; Windows writes it in place.
+bool WriteSetting(const std::string& file, const std::string& section, const std::string& key,
+                  const std::string& value);
+
+// ---- the rest ----------------------------------------------------------------------------------------------------
+
+// A line for whoever debugs the program; never seen by its user.
+void DebugOutput(std::string_view text);
+
+}  // namespace vexa::platform

@@ -1,0 +1,92 @@
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "base/ascii.h"
+#include "base/platform.h"
+#include "base/platform/host/sandbox.h"
+
+namespace vexa::platform {
+
+namespace {
+
+constexpr std::size_t kLongestPath = 259;
+
+bool IsLetter(char c) {
+    return LowerAscii(c) >= 'a' && LowerAscii(c) <= 'z';
+}
+
+bool NamesDrive(std::string_view path) {
+    return path.size() >= 2 && IsLetter(path[0]) && path[1] == ':';
+}
+
+void AddParts(std::vector<std::string_view>& parts, std::string_view path) {
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find('\\'), path.size());
+        const std::string_view part = path.substr(0, end);
+        path.remove_prefix(std::min(end + 1, path.size()));
+        if (part.empty() || part == ".") continue;
+        if (part != "..")
+            parts.push_back(part);
+        else if (!parts.empty())
+            parts.pop_back();
+    }
+}
+
+// Windows drops these from the end of a path.
+std::string_view WithoutTrailingDotsAndBlanks(std::string_view name) {
+    return name.substr(0, name.find_last_not_of(". ") + 1);
+}
+
+}  // namespace
+
+std::string FullPath(const std::string& path) {
+    if (path.find_first_not_of(' ') == std::string::npos || path.find('\0') != std::string::npos) return {};
+    std::string rest = path;
+    std::ranges::replace(rest, '/', '\\');
+    if (rest.starts_with("\\\\")) return rest;  // a network path; no host drive
+    const host::Places& places = host::ThePlaces();
+    std::string full(1, static_cast<char>('A' + places.drive));
+    if (NamesDrive(rest)) {
+        full[0] = rest[0];
+        rest.erase(0, 2);
+    }
+    full += ':';
+    std::vector<std::string_view> parts;
+    if (!rest.starts_with('\\'))
+        AddParts(parts, places.directories[static_cast<std::size_t>(LowerAscii(full[0]) - 'a')]);
+    AddParts(parts, rest);
+    if (!parts.empty()) parts.back() = WithoutTrailingDotsAndBlanks(parts.back());
+    for (const std::string_view part : parts)
+        full.append("\\").append(part);
+    if (parts.empty() || (rest.ends_with('\\') && !full.ends_with('\\'))) full += '\\';
+    return full.size() <= kLongestPath ? full : std::string();
+}
+
+std::string CurrentDirectory() {
+    return FullPath(".");
+}
+
+bool ChangeDirectory(const std::string& path) {
+    if (!DirectoryExists(path)) return false;
+    std::string full = FullPath(path);
+    if (full.ends_with('\\')) full.pop_back();
+    host::Places& places = host::ThePlaces();
+    places.drive = LowerAscii(full[0]) - 'a';
+    places.directories[static_cast<std::size_t>(places.drive)] = full.substr(2);
+    return true;
+}
+
+bool ChangeDrive(int drive) {
+    if (drive < 0 || drive > 25) return false;
+    if (!DirectoryExists(std::string(1, static_cast<char>('A' + drive)) + ":\\")) return false;
+    host::ThePlaces().drive = drive;
+    return true;
+}
+
+std::string ProgramPath() {
+    return host::ThePlaces().programPath;
+}
+
+}  // namespace vexa::platform

@@ -1,0 +1,45 @@
+#include <direct.h>
+#include <windows.h>
+
+#include <array>
+
+#include "base/platform.h"
+
+namespace vexa::platform {
+
+namespace {
+
+// Calls a function that fills a path buffer and returns the length; empty when it fails or the buffer is too small.
+template <class Fill>
+std::string FilledPath(Fill fill) {
+    std::array<char, MAX_PATH> buffer{};
+    const DWORD length = fill(static_cast<DWORD>(buffer.size()), buffer.data());
+    return length < buffer.size() ? std::string(buffer.data(), length) : std::string();
+}
+
+}  // namespace
+
+std::string FullPath(const std::string& path) {
+    // A byte 0 would end the name early and so make it another's.
+    if (path.find('\0') != std::string::npos) return {};
+    return FilledPath([&](DWORD size, char* buffer) { return GetFullPathNameA(path.c_str(), size, buffer, nullptr); });
+}
+
+std::string CurrentDirectory() {
+    return FilledPath([](DWORD size, char* buffer) { return GetCurrentDirectoryA(size, buffer); });
+}
+
+// The run-time library's functions also note the directory of each drive, which the system's own do not.
+bool ChangeDirectory(const std::string& path) {
+    return _chdir(path.c_str()) == 0;
+}
+
+bool ChangeDrive(int drive) {
+    return drive >= 0 && drive < 26 && _chdrive(drive + 1) == 0;
+}
+
+std::string ProgramPath() {
+    return FilledPath([](DWORD size, char* buffer) { return GetModuleFileNameA(nullptr, buffer, size); });
+}
+
+}  // namespace vexa::platform

@@ -1,0 +1,42 @@
+#include "base/strings.h"
+
+#include <gtest/gtest.h>
+
+#include "base/ascii.h"
+
+namespace vexa {
+namespace {
+
+TEST(Strings, AreFoundByNumber) {
+    EXPECT_EQ(LoadText(4117), "The tab size must be a number 1 to 9.");
+    EXPECT_EQ(LoadText(3100), "The file '%s' has been changed.\n Do you wish to save the changes?");
+    for (const int none : {0, 3101, 65535})
+        EXPECT_EQ(LoadText(static_cast<std::uint16_t>(none)), "") << none;
+}
+
+TEST(Strings, PlacesAreFilledInTurn) {
+    EXPECT_EQ(FillText("%s at %d", {"x", "7"}), "x at 7");
+    EXPECT_EQ(FillText("%s%s", {"%s", "2"}), "%s2") << "what fills a place is not filled again";
+    EXPECT_EQ(FillText("%s-%s", {"1"}), "1-");
+    EXPECT_EQ(FillText("none", {"1", "2"}), "none");
+    EXPECT_EQ(FillText("100%% %x %%s 5%", {"z"}), "100%% %x %%s 5%");
+    EXPECT_EQ(FillText(4130, {"VEXA", "12"}), "Unexpected Vexa error at File: VEXA Line: 12");
+}
+
+TEST(Ascii, LeadingIntegersStopAtTheNearestNumber) {
+    EXPECT_EQ(LeadingInteger("99999999999999999999999"), INT32_MAX);
+    EXPECT_EQ(LeadingInteger("-99999999999999999999999"), INT32_MIN);
+    EXPECT_EQ(LeadingInteger("-2147483648"), INT32_MIN);
+    EXPECT_EQ(LeadingInteger(""), 0);
+}
+
+TEST(Ascii, OnlyAsciiLettersLoseTheirCase) {
+    EXPECT_TRUE(EqualIgnoringCase("aZ[", "Az["));
+    EXPECT_FALSE(EqualIgnoringCase("[", "{"));
+    EXPECT_FALSE(EqualIgnoringCase("\xC4", "\xE4"));
+    EXPECT_TRUE(LessIgnoringCase("a.Z", "B"));
+    EXPECT_TRUE(LessIgnoringCase("z", "\xC4"));
+}
+
+}  // namespace
+}  // namespace vexa
