@@ -1,0 +1,45 @@
+// The profiles in use, and the rule that gives a file its own.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "language/extension_profile.h"
+
+namespace vexa {
+
+// The text after the last "." of a file name (a dot in the directories before it does not count); empty when there is
+// none.
+std::string_view ExtensionOf(std::string_view fileName);
+
+// Profiles stay where they are for as long as the list lives, so documents may keep references to them.
+class ProfileList {
+  public:
+    // The directory of the profile files, without a "\" at its end.
+    explicit ProfileList(std::string configDirectory) : directory_(std::move(configDirectory)) {}
+
+    // The profile for a file: a loaded one, else the one in the profile file of the extension or of its first three
+    // characters (read once a run, and used as far as it could be read), else the built-in one.
+    const ExtensionProfile& profileFor(std::string_view fileName);
+
+    // The profile file of an extension.
+    std::string profilePath(std::string_view extension) const;
+
+  private:
+    // The extension that a file was read for need not be the one that it holds.
+    struct LoadedProfile {
+        std::string readFor;
+        ExtensionProfile profile;
+    };
+
+    const ExtensionProfile* findLoaded(std::string_view extension) const;
+    const ExtensionProfile* loadFrom(std::string_view extension);
+
+    std::string directory_;
+    ExtensionProfile builtIn_;
+    std::vector<std::unique_ptr<LoadedProfile>> loaded_;
+};
+
+}  // namespace vexa
