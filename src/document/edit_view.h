@@ -1,0 +1,140 @@
+// The edit view: turns keys, mouse and commands into operations on a document, scrolls, and renders the text to a grid
+// of cells. A window only hands its events in and draws the rows that come out.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "base/editor_options.h"
+#include "base/notices.h"
+#include "base/units.h"
+#include "document/key_event.h"
+#include "document/line_editor.h"
+#include "document/marker.h"
+#include "document/row_renderer.h"
+#include "document/text_document.h"
+
+namespace vexa {
+
+// A place in the window; may lie outside it.
+struct Cell {
+    std::int32_t row = 0;
+    std::int32_t column = 0;
+
+    bool operator==(const Cell&) const = default;
+};
+
+class EditView {
+  public:
+    EditView(TextDocument& document, EditorOptions& options, Notices& notices);
+
+    TextDocument& document() { return document_; }
+    const TextDocument& document() const { return document_; }
+
+    // ---- events: each is one undo group and leaves the caret in sight ----
+
+    // Carries a keystroke out; false when the view has no use for it.
+    bool key(const KeyEvent& event);
+    // A mouse button pressed at a cell; with extend the marked stream grows from the caret to the cell.
+    void press(Cell cell, bool extend);
+    // The mouse moved with its button held: marks from the pressed place to the cell, scrolling when it lies outside.
+    // All moves up to the release are one undo group.
+    void drag(Cell cell);
+    void release();
+
+    // Both tell the user when there is nothing to do and are false then.
+    bool undo();
+    bool redo();
+    void clear();  // deletes the marked area, or without one the character at the caret
+    void selectAll();
+    void goTo(LineIndex line, CharColumn column);
+    void toWindowStart();
+    void toWindowEnd();
+    void toDocumentStart();
+    void toDocumentEnd();
+
+    // ---- window ----
+
+    // The number of whole rows and columns that the window shows, each taken as at least 1.
+    void resize(std::int32_t rows, std::int32_t columns);
+    void scrollToLine(LineIndex top);
+    void scrollToColumn(DisplayColumn left);
+    void scrollBy(std::int32_t lines);
+    void centreCursorLine();
+    LineIndex topLine() const { return top_; }
+    DisplayColumn leftColumn() const { return left_; }
+    std::int32_t rows() const { return rows_; }
+    std::int32_t columns() const { return columns_; }
+    // The last line and the widest column that scrolling must be able to reach.
+    LineIndex lastLine() const;
+    DisplayColumn widestColumn() const;
+
+    // ---- what is seen ----
+
+    // The row, also one below the last whole one.
+    ViewRow render(std::int32_t row) const { return RenderRow(document_, top_ + row, left_, columns_); }
+    // Where the caret stands in the window; none while it is out of sight.
+    std::optional<Cell> caret() const;
+    bool overwrites() const { return !options_.InsertMode; }
+    std::string positionText() const;  // " L:%5.5d C:%3.3d", both counted from 1
+    const char* modeText() const { return overwrites() ? "OVR" : "INS"; }
+
+  private:
+    friend struct ViewKeys;  // the table of keys and what they do
+    using Movement = void (EditView::*)();
+
+    bool typedCharacter(const KeyEvent& event);
+    void move(Movement movement, bool extending);
+    void finish();
+    void bringCaretIntoSight(bool centre);
+    void place(Cell cell);
+    bool takeBack(bool (UndoHistory::*step)(), const char* refusal);
+
+    void charLeft() { editor_.moveLeft(1); }
+    void charRight() { editor_.moveRight(1); }
+    void wordLeft();
+    void wordRight();
+    void lineUp() { editor_.cursorUp(); }
+    void lineDown() { editor_.cursorDown(); }
+    void pageUp() { turnPage(-1); }
+    void pageDown() { turnPage(+1); }
+    void turnPage(std::int32_t direction);
+    void home();
+    void end();
+    void windowStart();
+    void windowEnd();
+    void documentStart();
+    void documentEnd();
+
+    void typeCharacter(char c);
+    void enter();
+    void tab();
+    void backTab();
+    void backspace();
+    void deleteKey();
+    void deleteWord();
+    void deleteLine() { editor_.deleteLine(); }
+    void deleteToEnd() { editor_.deleteToEnd(); }
+    void deleteToStart() { editor_.deleteToStart(); }
+    void toggleInsert() { options_.InsertMode = !options_.InsertMode; }
+    void markStream() { marker_.toggle(MarkMode::Stream); }
+    void markLines() { marker_.toggle(MarkMode::Lines); }
+    void markColumn() { marker_.toggle(MarkMode::Column); }
+    void clearMark() { marker_.clear(); }
+
+    TextDocument& document_;
+    EditorOptions& options_;
+    Notices& notices_;
+    LineEditor editor_;
+    Marker marker_;
+    LineIndex top_;
+    DisplayColumn left_;
+    std::int32_t rows_ = 1;
+    std::int32_t columns_ = 1;
+    // How often in a row the last key was pressed: Home and End go further each time.
+    KeyEvent lastKey_;
+    int pressesInARow_ = 0;
+};
+
+}  // namespace vexa

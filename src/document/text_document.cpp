@@ -1,0 +1,119 @@
+#include "document/text_document.h"
+
+#include "base/file.h"
+#include "document/columns.h"
+#include "document/text_loader.h"
+#include "document/text_writer.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr const char* kNoName = "name.bad";
+
+}  // namespace
+
+TextDocument::TextDocument(const EditorOptions& options, Notices& notices)
+    : options_(options), notices_(notices), path_(kNoName), baseName_(kNoName), undo_(notices) {}
+
+// The history and the lines go before the arena that holds their text.
+TextDocument::~TextDocument() {
+    discardText();
+}
+
+void TextDocument::discardText() {
+    undo_.clear();
+    lines_.clear();
+    arena_.clear();
+    marked_ = {};
+    currentLine_ = LineIndex(0);
+    modifiedCount_ = 0;
+    linesWrapped_ = false;
+    truncated_ = false;
+}
+
+void TextDocument::setName(const std::optional<std::string>& path) {
+    named_ = path.has_value();
+    path_ = path.value_or(kNoName);
+    const std::size_t slash = path_.rfind('\\');
+    baseName_ = slash == std::string::npos ? path_ : path_.substr(slash + 1);
+}
+
+bool TextDocument::newEmpty() {
+    loaded_ = true;
+    named_ = false;
+    lines_.putIfVacant(makeLine({}), kNewDocumentLine);
+    return true;
+}
+
+bool TextDocument::load() {
+    discardText();
+    File file;
+    if (!path_.empty()) file = File(path_, platform::OpenMode::Read);
+    if (!file.isOpen() || !TextLoader(*this, arena_, options_.FileWrite).read(file)) {
+        discardText();
+        newEmpty();
+        return false;
+    }
+    lines_.takeGrown();
+    loaded_ = true;
+    return true;
+}
+
+bool TextDocument::write() {
+    if (!named_ || !WriteText(*this, path_, options_.FileWrite)) return false;
+    undo_.clear();
+    modifiedCount_ = 0;
+    linesWrapped_ = false;
+    truncated_ = false;
+    return true;
+}
+
+// ---- lines -------------------------------------------------------------------------------------------------------
+
+std::int32_t TextDocument::lineCount(LastUsed mode) const {
+    return loaded_ ? lines_.lastUsed(mode) : kNewDocumentLine;
+}
+
+const TextLine* TextDocument::line(LineIndex index) const {
+    return lines_.at(index.value);
+}
+
+std::string_view TextDocument::text(LineIndex index) const {
+    const TextLine* found = line(index);
+    return found ? found->text() : std::string_view();
+}
+
+TextLine& TextDocument::editableLine(LineIndex index) {
+    if (lines_.occupied(index.value) == nullptr) lines_.put(makeLine({}), index.value);
+    return *lines_.occupied(index.value);
+}
+
+LinePtr TextDocument::makeLine(std::string_view text) const {
+    return LinePtr(new TextLine(this, text));
+}
+
+// ---- cursor ------------------------------------------------------------------------------------------------------
+
+CharColumn TextDocument::column() const {
+    const TextLine* here = line(currentLine_);
+    return here ? here->column() : CharColumn(0);
+}
+
+std::int32_t TextDocument::tabSize() const {
+    return UsableTabSize(options_.TabSize);
+}
+
+DisplayColumn TextDocument::displayColumn() const {
+    return toDisplay(currentLine_, column());
+}
+
+DisplayColumn TextDocument::toDisplay(LineIndex index, CharColumn column) const {
+    return ToDisplay(text(index), column, tabSize());
+}
+
+CharColumn TextDocument::toCharacter(LineIndex index, DisplayColumn column) const {
+    return ToCharacter(text(index), column, tabSize());
+}
+
+}  // namespace vexa

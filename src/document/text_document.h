@@ -1,0 +1,121 @@
+// The text of one open file in memory, with its name, its history and its marked area.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/editor_options.h"
+#include "base/notices.h"
+#include "base/units.h"
+#include "document/dyn_array.h"
+#include "document/line_arena.h"
+#include "document/marked_area.h"
+#include "document/undo_history.h"
+#include "language/extension_profile.h"
+
+namespace vexa {
+
+// Limits of a load, all deliberate.
+inline constexpr std::int32_t kLineReadLimit = 299;     // characters read for one line, its line end counted
+inline constexpr std::int32_t kLastLoadedLine = 90000;  // index of the last line that one load keeps
+inline constexpr std::int32_t kLoadGrowth = 500;        // slots by which the lines grow during a load
+inline constexpr std::int32_t kNewDocumentLine = 200;   // where a new document's only line stands
+inline constexpr std::int32_t kLastColumn = 300;        // the cursor goes no further right
+
+class TextDocument {
+  public:
+    TextDocument(const EditorOptions& options, Notices& notices);
+    ~TextDocument();
+    TextDocument(const TextDocument&) = delete;
+    TextDocument& operator=(const TextDocument&) = delete;
+
+    // ---- name and file ----
+
+    // Reads the file at the path in the place of the present text and history. False when it cannot be opened or read
+    // to its end, or the path is empty; the document is then empty and not named, so that it cannot be saved over the
+    // file.
+    bool load();
+    // Writes the text to the path and forgets the history. False when the document is not named or the file could not
+    // be written whole; the file's old contents are then as they were, and the document stays modified with its
+    // history.
+    bool write();
+    bool newEmpty();
+    void setName(const std::optional<std::string>& path);
+    // There is no file of the document's name that is its own, so that the first save asks for one.
+    void forgetFile() { named_ = false; }
+    void setProfile(const ExtensionProfile& profile) { profile_ = &profile; }
+    const ExtensionProfile* profile() const { return profile_; }
+
+    const std::string& fullPath() const { return path_; }
+    const std::string& baseName() const { return baseName_; }
+    bool isNamed() const { return named_; }
+    bool isLoaded() const { return loaded_; }
+    bool isTruncated() const { return truncated_; }
+    bool areLinesWrapped() const { return linesWrapped_; }
+    bool isModified() const { return modifiedCount_ != 0; }
+    void clearModified() { modifiedCount_ = 0; }
+    std::int32_t modifiedCount() const { return modifiedCount_; }
+    void countChange(std::int32_t step) { modifiedCount_ += step; }
+
+    // ---- lines ----
+
+    // The index of the last line in use; that of a new document's line before the first load.
+    std::int32_t lineCount(LastUsed mode) const;
+    // The line at an index; none beyond the capacity of the line store. Vacant slots read as an empty line.
+    const TextLine* line(LineIndex index) const;
+    std::string_view text(LineIndex index) const;
+    // The line at an index, to be changed or to keep a cursor column; a vacant slot gets a line of its own first.
+    TextLine& editableLine(LineIndex index);
+    LinePtr makeLine(std::string_view text) const;
+    DynArray& lines() { return lines_; }
+    const DynArray& lines() const { return lines_; }
+
+    // ---- cursor ----
+
+    LineIndex currentLine() const { return currentLine_; }
+    void setCurrentLine(LineIndex line) { currentLine_ = line; }
+    TextLine& current() { return editableLine(currentLine_); }
+    CharColumn column() const;
+    DisplayColumn displayColumn() const;
+    std::int32_t tabSize() const;
+    DisplayColumn toDisplay(LineIndex line, CharColumn column) const;
+    CharColumn toCharacter(LineIndex line, DisplayColumn column) const;
+
+    // ---- marking and history ----
+
+    MarkedArea& marked() { return marked_; }
+    const MarkedArea& marked() const { return marked_; }
+    UndoHistory& undo() { return undo_; }
+    const UndoHistory& undo() const { return undo_; }
+    bool inUndo() const { return inUndo_; }
+    void setInUndo(bool inUndo) { inUndo_ = inUndo; }
+
+    const EditorOptions& options() const { return options_; }
+    Notices& notices() const { return notices_; }
+
+  private:
+    friend class TextLoader;
+    void discardText();
+
+    const EditorOptions& options_;
+    Notices& notices_;
+    const ExtensionProfile* profile_ = nullptr;
+    std::string path_;
+    std::string baseName_;
+    LineArena arena_;
+    DynArray lines_;
+    UndoHistory undo_;
+    MarkedArea marked_;
+    LineIndex currentLine_;
+    std::int32_t modifiedCount_ = 0;
+    bool loaded_ = false;
+    bool named_ = false;
+    bool inUndo_ = false;
+    bool linesWrapped_ = false;
+    bool truncated_ = false;
+};
+
+}  // namespace vexa

@@ -1,0 +1,79 @@
+// One line of text with the place of the cursor in it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "base/units.h"
+
+namespace vexa {
+
+class TextDocument;
+
+// A line's text is either borrowed from the block that its file was read into, or, from its first change on, its own
+// with room to type into. Most lines are never changed, and a reserve that is never made costs neither time nor memory.
+// The text may hold any bytes and is always followed by a NUL.
+class TextLine {
+  public:
+    // Says that the text and the record belong to a LineArena.
+    struct InArena {};
+
+    // The room that a line's own text has beyond its first contents, in bytes.
+    static constexpr std::size_t kReserve = 302;
+
+    TextLine() = default;
+    TextLine(const TextDocument* document, std::string_view text);
+    TextLine(const TextDocument* document, const char* text, std::size_t length, InArena)
+        : text_(text), document_(document), length_(static_cast<std::uint32_t>(length)), recordInArena_(true) {}
+    ~TextLine();
+    TextLine(const TextLine&) = delete;
+    TextLine& operator=(const TextLine&) = delete;
+
+    std::string_view text() const { return {text_, length_}; }
+    const char* c_str() const { return text_; }
+    std::int32_t length() const { return static_cast<std::int32_t>(length_); }
+    bool isEmpty() const { return length_ == 0; }
+
+    // Changes. Columns must not lie beyond the text's end. On std::bad_alloc the line is as it was.
+    void insert(CharColumn column, char c);
+    char erase(CharColumn column);
+    char replace(CharColumn column, char c);
+    void append(std::string_view text);
+    void truncate(CharColumn column);
+
+    CharColumn column() const { return CharColumn(column_); }
+    // Takes a column within the limits of the cursor (0 to kLastColumn).
+    void setColumn(CharColumn column) { column_ = static_cast<std::uint16_t>(column.value); }
+
+    const TextDocument* document() const { return document_; }
+    // The comment markers of the document's profile; empty without a document or profile.
+    std::string_view commentStart() const;
+    std::string_view commentEnd() const;
+
+    // The state that syntax colouring keeps with a line; all clear at first.
+    bool opensComment = false;
+    bool closesComment = false;
+    bool needsRepaint = false;
+
+  private:
+    friend struct LineDeleter;
+    char* makeRoom(std::size_t length);
+    std::size_t capacity() const;
+
+    const char* text_ = "";
+    const TextDocument* document_ = nullptr;
+    std::uint32_t length_ = 0;
+    std::uint16_t column_ = 0;
+    bool ownsText_ : 1 = false;
+    bool recordInArena_ : 1 = false;
+};
+
+// Ends a line's life; the memory of a record in an arena stays with the arena.
+struct LineDeleter {
+    void operator()(TextLine* line) const;
+};
+using LinePtr = std::unique_ptr<TextLine, LineDeleter>;
+
+}  // namespace vexa

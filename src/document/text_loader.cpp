@@ -1,0 +1,121 @@
+#include "document/text_loader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+#include "base/strings.h"
+#include "document/text_document.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr std::size_t kBlock = std::size_t{1} << 20;
+// What must be in the block to cut a line: the characters of one read, a CR LF, and room for a NUL.
+constexpr std::size_t kLookAhead = kLineReadLimit + 3;
+// A line is not split behind a blank that leaves only this many characters or fewer, the blank counted.
+constexpr std::size_t kShortestRest = 2;
+constexpr std::size_t kRestWithoutBlank = 5;
+
+// Where a line that is too long is split.
+std::size_t SplitPoint(std::string_view text) {
+    const std::size_t blank = text.rfind(' ');
+    if (blank != std::string_view::npos && text.size() - blank > kShortestRest) return blank + 1;
+    return text.size() - kRestWithoutBlank;
+}
+
+}  // namespace
+
+struct TextLoader::Cut {
+    std::size_t length;   // characters of the line
+    std::size_t lineEnd;  // bytes of the line end behind them; 0 when it was not read or there is none
+    bool tooLong;
+};
+
+bool TextLoader::read(File& file) {
+    file_ = &file;
+    const std::int32_t growBy = document_.lines().growBy();
+    document_.lines().setGrowBy(kLoadGrowth);
+    const bool complete = readLines();
+    document_.lines().setGrowBy(growBy);
+    if (complete && document_.linesWrapped_) document_.notices().box(LoadText(3113), kProgramCaption, BoxButtons::Ok);
+    return complete;
+}
+
+bool TextLoader::readLines() try {
+    for (;;) {
+        if (!endOfFile_ && available() < kLookAhead && !refill()) return false;
+        if (available() == 0) return true;
+        if (lines_ > kLastLoadedLine) {
+            document_.notices().box(LoadText(3106), kProgramCaption, BoxButtons::Ok);
+            document_.truncated_ = true;
+            return true;
+        }
+        storeLine();
+    }
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
+// Moves the unread rest of the block to a new one and fills that from the file.
+bool TextLoader::refill() {
+    const std::size_t rest = available();
+    const std::size_t unread =
+        static_cast<std::size_t>(std::min<std::uint64_t>(file_->size().value_or(kBlock), kBlock));
+    const std::size_t size = rest + std::max<std::size_t>(unread, kLookAhead);
+    char* block = arena_.allocateText(size + 1);
+    if (rest > 0) std::memcpy(block, next_, rest);
+    next_ = block;
+    end_ = block + rest;
+    while (end_ < block + size) {
+        const std::optional<std::size_t> count = file_->read(end_, static_cast<std::size_t>(block + size - end_));
+        if (!count) return false;
+        endOfFile_ = *count == 0;
+        if (endOfFile_) break;
+        end_ += *count;
+    }
+    return true;
+}
+
+TextLoader::Cut TextLoader::nextCut() const {
+    const std::size_t window = std::min<std::size_t>(available(), kLineReadLimit + 1);
+    const char* feed = static_cast<const char*>(std::memchr(next_, '\n', window));
+    std::size_t length = feed ? static_cast<std::size_t>(feed - next_) : available();
+    const bool crBefore = feed && !bytes_ && length > 0 && next_[length - 1] == '\r';
+    if (crBefore) --length;
+    if (length >= kLineReadLimit) return {kLineReadLimit, 0, true};
+    const std::size_t lineEnd = feed ? (crBefore ? 2 : 1) : 0;
+    return {length, lineEnd, length + (feed ? 1 : 0) >= kLineReadLimit};
+}
+
+void TextLoader::storeLine() {
+    const Cut cut = nextCut();
+    if (cut.tooLong) {
+        storeSplit(cut);
+        return;
+    }
+    char* text = next_;
+    next_ += cut.length + cut.lineEnd;
+    text[cut.length] = '\0';
+    store(text, cut.length);
+}
+
+// The first part is copied, as its last character has no line end behind it whose place a NUL could take. The rest is
+// moved up over a line end that was read with it.
+void TextLoader::storeSplit(const Cut& cut) {
+    document_.linesWrapped_ = true;
+    const std::size_t split = SplitPoint({next_, cut.length});
+    char* copy = arena_.allocateText(split + 1);
+    std::memcpy(copy, next_, split);
+    copy[split] = '\0';
+    std::memmove(next_ + split + cut.lineEnd, next_ + split, cut.length - split);
+    next_ += split + cut.lineEnd;
+    store(copy, split);
+}
+
+void TextLoader::store(const char* text, std::size_t length) {
+    document_.lines().put(LinePtr(arena_.makeLine(&document_, text, length)), lines_++);
+}
+
+}  // namespace vexa

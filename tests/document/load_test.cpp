@@ -1,0 +1,184 @@
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "base/strings.h"
+#include "document/text_document.h"
+#include "support/recording_notices.h"
+#include "support/test_disk.h"
+
+namespace vexa {
+namespace {
+
+using test::BoxNotice;
+
+class Load : public testing::Test {
+  protected:
+    bool load(std::string_view bytes) {
+        disk_.put("A.TXT", bytes);
+        document_.setName(disk_.path("A.TXT"));
+        return document_.load();
+    }
+    std::vector<std::string> lines() const {
+        std::vector<std::string> all;
+        for (std::int32_t i = 0; i <= document_.lineCount(LastUsed::Plain); ++i) {
+            all.emplace_back(document_.text(LineIndex(i)));
+        }
+        return all;
+    }
+    std::string text(std::int32_t line) const { return std::string(document_.text(LineIndex(line))); }
+
+    using Lines = std::vector<std::string>;
+    test::TestDisk disk_;
+    test::RecordingNotices notices_;
+    EditorOptions options_;
+    TextDocument document_{options_, notices_};
+};
+
+TEST_F(Load, LineEndsOfTextAreLfAndCrLf) {
+    ASSERT_TRUE(load("one\r\ntwo\nthree"));
+    EXPECT_EQ(lines(), (Lines{"one", "two", "three"}));
+    ASSERT_TRUE(load("one\r\n\r\n"));
+    EXPECT_EQ(lines(), (Lines{"one", ""}));
+    ASSERT_TRUE(load(""));
+    EXPECT_EQ(lines(), (Lines{""}));
+    EXPECT_TRUE(document_.lines().isVacant(0));
+}
+
+TEST_F(Load, EveryOtherByteIsKept) {
+    const std::string odd(
+        "a\0b\rc\x1A"
+        "d\xFF\r",
+        9);
+    ASSERT_TRUE(load(odd + "\r\n" + odd));
+    EXPECT_EQ(lines(), (Lines{odd, odd}));
+}
+
+TEST_F(Load, AsBytesOnlyLfEndsALine) {
+    options_.FileWrite = true;
+    ASSERT_TRUE(load("one\r\ntwo\n\x1A"));
+    EXPECT_EQ(lines(), (Lines{"one\r", "two", "\x1A"}));
+}
+
+TEST_F(Load, ReadingAsUnixChangesNothing) {
+    options_.FileRead = true;
+    ASSERT_TRUE(load("one\r\ntwo"));
+    EXPECT_EQ(lines(), (Lines{"one", "two"}));
+}
+
+TEST_F(Load, ALongLineWithoutABlankIsSplitFiveCharactersBeforeTheReadsEnd) {
+    ASSERT_TRUE(load(std::string(294, 'a') + std::string(106, 'b') + "\nnext"));
+    EXPECT_EQ(lines(), (Lines{std::string(294, 'a'), std::string(106, 'b'), "next"}));
+    EXPECT_TRUE(document_.areLinesWrapped());
+    ASSERT_EQ(notices_.boxes.size(), 1u);
+    EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(3113)), "Vexa 95", BoxButtons::Ok}));
+}
+
+TEST_F(Load, ALongLineIsSplitBehindItsLastBlank) {
+    const std::string head = std::string(100, 'a') + " ";
+    ASSERT_TRUE(load(head + std::string(299, 'b')));
+    EXPECT_EQ(text(0), head);
+    EXPECT_EQ(text(1), std::string(294, 'b'));
+    EXPECT_EQ(text(2), std::string(5, 'b'));
+}
+
+TEST_F(Load, ABlankThatLeavesNoMoreThanOneCharacterIsNoSplitPoint) {
+    ASSERT_TRUE(load(std::string(297, 'a') + " b" + std::string(101, 'c')));
+    EXPECT_EQ(text(0), std::string(294, 'a'));
+    ASSERT_TRUE(load(std::string(296, 'a') + " bc" + std::string(101, 'c')));
+    EXPECT_EQ(text(0), std::string(296, 'a') + " ");
+}
+
+TEST_F(Load, WhatIsTooLong) {
+    ASSERT_TRUE(load(std::string(297, 'a') + "\nnext"));
+    EXPECT_FALSE(document_.areLinesWrapped());
+    // The line end is read with the 298 characters, so the rest runs on into the next line.
+    for (const char* lineEnd : {"\n", "\r\n"}) {
+        ASSERT_TRUE(load(std::string(293, 'a') + "12345" + lineEnd + "next\nlast"));
+        EXPECT_TRUE(document_.areLinesWrapped());
+        EXPECT_EQ(lines(), (Lines{std::string(293, 'a'), "12345next", "last"}));
+    }
+    ASSERT_TRUE(load(std::string(293, 'a') + "12345"));
+    EXPECT_FALSE(document_.areLinesWrapped()) << "298 characters at the end of the file are no line too long";
+    // With 299 the line end is not read any more and stays.
+    ASSERT_TRUE(load(std::string(294, 'a') + "12345" + "\r\nnext"));
+    EXPECT_EQ(lines(), (Lines{std::string(294, 'a'), "12345", "next"}));
+}
+
+TEST_F(Load, LinesAcrossTheBlocksOfTheReaderAreWhole) {
+    std::mt19937 random(3);
+    std::string file;
+    Lines expected;
+    while (file.size() < 3'500'000) {
+        expected.push_back(std::string(random() % 297, static_cast<char>('a' + random() % 26)));
+        file += expected.back() + (random() % 2 ? "\r\n" : "\n");
+    }
+    ASSERT_TRUE(load(file + "x"));
+    expected.emplace_back("x");
+    EXPECT_EQ(lines(), expected);
+}
+
+TEST_F(Load, ExactlyTheLimitOfLinesIsWhole) {
+    std::string file;
+    for (int i = 0; i < 90001; ++i)
+        file += "x\n";
+    ASSERT_TRUE(load(file));
+    EXPECT_FALSE(document_.isTruncated());
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 90000);
+    EXPECT_TRUE(notices_.boxes.empty());
+
+    ASSERT_TRUE(load(file + "y"));
+    EXPECT_TRUE(document_.isTruncated());
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 90000);
+    ASSERT_EQ(notices_.boxes.size(), 1u);
+    EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(3106)), "Vexa 95", BoxButtons::Ok}));
+}
+
+TEST_F(Load, TheStoreGrowsInLargeStepsDuringALoadOnly) {
+    std::string file;
+    for (int i = 0; i < 11; ++i)
+        file += "x\n";
+    ASSERT_TRUE(load(file));
+    EXPECT_EQ(document_.lines().capacity(), 510);
+    EXPECT_EQ(document_.lines().growBy(), 10);
+}
+
+TEST_F(Load, WhatCannotBeOpenedLeavesAnEmptyDocumentThatIsNotSavedOverIt) {
+    ASSERT_TRUE(load("old text"));
+    disk_.makeDirectory("SUB");
+    for (const char* name : {"MISSING.TXT", "SUB"}) {
+        document_.setName(disk_.path(name));
+        EXPECT_FALSE(document_.load()) << name;
+        EXPECT_FALSE(document_.isNamed());
+        EXPECT_FALSE(document_.write());
+        EXPECT_EQ(document_.lineCount(LastUsed::Plain), 200);
+        EXPECT_EQ(text(0), "");
+    }
+    document_.setName("");
+    EXPECT_FALSE(document_.load());
+}
+
+TEST_F(Load, ALoadForgetsHistoryAndMarking) {
+    ASSERT_TRUE(load("abc"));
+    document_.marked() = {MarkMode::Lines, true, {}, {}};
+    document_.countChange(1);
+    document_.setCurrentLine(LineIndex(5));
+    ASSERT_TRUE(document_.load());
+    EXPECT_FALSE(document_.isModified());
+    EXPECT_FALSE(document_.marked().active);
+    EXPECT_EQ(document_.currentLine(), LineIndex(0));
+}
+
+TEST_F(Load, ANewDocumentHasItsOnlyLineFarDown) {
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 200) << "before any text";
+    document_.newEmpty();
+    EXPECT_FALSE(document_.isNamed());
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 200);
+    EXPECT_TRUE(document_.lines().isVacant(0));
+    EXPECT_FALSE(document_.lines().isVacant(200));
+}
+
+}  // namespace
+}  // namespace vexa

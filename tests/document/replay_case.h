@@ -1,0 +1,40 @@
+// Key-replay cases: a text with the caret in it, keys, and the text with the caret and the marking as they then are.
+//
+//   # Enter splits a line                      the case's name
+//   SmartIndent=0 TabSize=8                    options of the editor, where they differ from the defaults
+//   < ab|cd                                    the text before: "|" is the caret, "~" a column beyond the line's end
+//   Enter                                      keys and commands, with any modifiers and a count: Shift+Right*3 "typed
+//   text" > ab                                       the text after; "{" and "}" enclose what is marked: once for a
+//   stream, on > |cd                                      each line for whole lines ("{" first, "}" last) and for a
+//   column ! Nothing to undo!                         the last text on the status line, where a case is about that
+//
+// In texts \t is a tab, \\ a backslash, \xNN any byte. Keys and ">" blocks may go on by turns. After the last block
+// everything is undone, which must bring back the text before, unmodified, and done again, which must bring back the
+// last.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vexa::test {
+
+struct ReplayStep {
+    std::string keys;
+    std::vector<std::string> expected;
+    std::string status;
+};
+
+struct ReplayCase {
+    std::string topic;
+    std::string name;
+    std::string options;
+    std::vector<std::string> before;
+    std::vector<ReplayStep> steps;
+};
+
+std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::string& content);
+
+// Runs a case and reports its failures to GoogleTest.
+void RunReplayCase(const ReplayCase& replayCase);
+
+}  // namespace vexa::test

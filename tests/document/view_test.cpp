@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "document/edit_view.h"
+#include "support/recording_notices.h"
+
+namespace vexa {
+namespace {
+
+class View : public testing::Test {
+  protected:
+    View() {
+        document_.newEmpty();
+        for (int i = 0; i < 300; ++i)
+            document_.lines().put(document_.makeLine("line " + std::to_string(i)), i);
+        view_.resize(10, 40);
+    }
+    void press(std::uint16_t key, int times = 1, bool shift = false) {
+        for (; times > 0; --times) {
+            KeyEvent event;
+            event.key = key;
+            event.shift = shift;
+            view_.key(event);
+        }
+    }
+    int top() const { return view_.topLine().value; }
+    int line() const { return document_.currentLine().value; }
+
+    test::RecordingNotices notices_;
+    EditorOptions options_;
+    TextDocument document_{options_, notices_};
+    EditView view_{document_, options_, notices_};
+};
+
+TEST_F(View, TheWindowFollowsTheCaretAndNoFurther) {
+    press(kKeyDown, 9);
+    EXPECT_EQ(top(), 0);
+    press(kKeyDown);
+    EXPECT_EQ(top(), 1);
+    press(kKeyUp, 9);
+    EXPECT_EQ(top(), 1);
+    press(kKeyUp);
+    EXPECT_EQ(top(), 0);
+    EXPECT_EQ(view_.caret(), (Cell{0, 0}));
+}
+
+TEST_F(View, PagesTurnTheWindowAndStopAtTheEnds) {
+    press(kKeyPageDown);
+    EXPECT_EQ(top(), 9);
+    EXPECT_EQ(line(), 9);
+    press(kKeyPageUp, 3);
+    EXPECT_EQ(line(), 0);
+    press(kKeyPageDown, 100);
+    EXPECT_EQ(line(), 299);
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 299) << "a page makes no new lines";
+}
+
+TEST_F(View, HomeAndEndReachTheWindowThenTheDocument) {
+    view_.goTo(LineIndex(100), CharColumn(3));
+    const int shown = top();
+    press(kKeyHome, 2);
+    EXPECT_EQ(line(), shown);
+    press(kKeyHome);
+    EXPECT_EQ(line(), 0);
+    press(kKeyEnd, 2);
+    EXPECT_EQ(line(), 9);
+    press(kKeyEnd);
+    EXPECT_EQ(line(), 299);
+}
+
+TEST_F(View, SidewaysScrollingKeepsTheCaretInSight) {
+    press(kKeyRight, 39);
+    EXPECT_EQ(view_.leftColumn(), DisplayColumn(0));
+    press(kKeyRight);
+    EXPECT_GT(view_.leftColumn(), DisplayColumn(0));
+    EXPECT_LT(view_.caret()->column, 40);
+    press(kKeyHome);
+    EXPECT_EQ(view_.leftColumn(), DisplayColumn(0));
+}
+
+TEST_F(View, UndoOutOfSightIsShownInTheMiddle) {
+    view_.goTo(LineIndex(100), CharColumn(0));
+    KeyEvent x;
+    x.character = 'x';
+    view_.key(x);
+    view_.scrollToLine(LineIndex(0));
+    EXPECT_EQ(view_.caret(), std::nullopt);
+    view_.undo();
+    EXPECT_EQ(top(), 95);
+}
+
+TEST_F(View, TheMousePlacesTheCaretAndMarks) {
+    view_.scrollToLine(LineIndex(50));
+    view_.press({2, 3}, false);
+    view_.drag({2, 3});
+    EXPECT_EQ(line(), 52);
+    EXPECT_FALSE(document_.marked().active) << "a click is not a drag";
+    view_.drag({4, 1});
+    view_.drag({4, 2});
+    view_.release();
+    EXPECT_EQ(
+        document_.marked(),
+        (MarkedArea{MarkMode::Stream, true, {LineIndex(52), DisplayColumn(3)}, {LineIndex(54), DisplayColumn(2)}}));
+    view_.press({0, 0}, true);
+    view_.release();
+    EXPECT_EQ(document_.marked().start.line, LineIndex(50));
+    EXPECT_EQ(document_.marked().end, (MarkPoint{LineIndex(52), DisplayColumn(3)}));
+    view_.press({0, 0}, false);
+    view_.release();
+    EXPECT_FALSE(document_.marked().active);
+}
+
+TEST_F(View, DraggingOutsideScrolls) {
+    view_.scrollToLine(LineIndex(50));
+    view_.press({5, 0}, false);
+    view_.drag({-3, -5});
+    EXPECT_EQ(top(), 47);
+    view_.drag({12, 0});
+    EXPECT_EQ(top(), 50);
+    view_.release();
+}
+
+TEST_F(View, OneDragIsOneUndoStep) {
+    view_.press({1, 1}, false);
+    for (int column = 2; column < 30; ++column)
+        view_.drag({3, column});
+    view_.release();
+    view_.undo();
+    EXPECT_EQ(line(), 0);
+    EXPECT_TRUE(document_.undo().isEmpty());
+}
+
+TEST_F(View, KeysWithoutAMeaningAreLeftToTheWindow) {
+    KeyEvent event;
+    for (const std::uint16_t key : {std::uint16_t{'Q'}, std::uint16_t{0x70}}) {
+        event.key = key;
+        event.alt = true;
+        EXPECT_FALSE(view_.key(event));
+    }
+    event = {};
+    event.key = 'D';
+    event.alt = event.control = true;
+    EXPECT_FALSE(view_.key(event)) << "a key with AltGr";
+    EXPECT_FALSE(document_.isModified());
+}
+
+TEST_F(View, TheStatusFieldsCountFromOne) {
+    view_.goTo(LineIndex(41), CharColumn(6));
+    EXPECT_EQ(view_.positionText(), " L:00042 C:007");
+    EXPECT_STREQ(view_.modeText(), "INS");
+    options_.InsertMode = false;
+    EXPECT_STREQ(view_.modeText(), "OVR");
+}
+
+TEST_F(View, AbsurdTabSizesDoNoHarm) {
+    document_.current().append("\t\tx");
+    for (const std::int32_t size : {0, -7, 0x7FFFFFFF}) {
+        options_.TabSize = size;
+        press(kKeyEnd);
+        press(kKeyTab);
+        EXPECT_FALSE(view_.render(0).cells.empty());
+        view_.undo();
+    }
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,197 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <tuple>
+
+#include "base/file.h"
+#include "document/edit_view.h"
+#include "document/text_document.h"
+#include "document/text_writer.h"
+#include "support/recording_notices.h"
+#include "support/test_disk.h"
+
+namespace vexa {
+namespace {
+
+class Write : public testing::Test {
+  protected:
+    ~Write() override { SetFileFault(nullptr); }
+
+    void load(std::string_view bytes) {
+        disk_.put("A.TXT", bytes);
+        document_.setName(disk_.path("A.TXT"));
+        ASSERT_TRUE(document_.load());
+    }
+    void type(std::string_view text) {
+        EditView view(document_, options_, notices_);
+        for (const char c : text) {
+            KeyEvent event;
+            event.character = static_cast<unsigned char>(c);
+            view.key(event);
+        }
+    }
+    std::string copyName() const { return "A.TXT.vx0"; }
+
+    test::TestDisk disk_;
+    test::RecordingNotices notices_;
+    EditorOptions options_;
+    TextDocument document_{options_, notices_};
+};
+
+TEST_F(Write, TextHasCrLfAndNoEmptyLinesAtTheEnd) {
+    load("one\n\ntwo\n  \n\n\n");
+    type("x");
+    ASSERT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "xone\r\n\r\ntwo\r\n  \r\n");
+    EXPECT_FALSE(disk_.has(copyName()));
+}
+
+TEST_F(Write, BytesHaveLfAndAFinalCtrlZ) {
+    options_.FileWrite = true;
+    load("one\ntwo");
+    ASSERT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "one\ntwo\n\x1A");
+}
+
+TEST_F(Write, ADocumentWithoutTextIsOneEmptyLine) {
+    document_.newEmpty();
+    document_.setName(disk_.path("NEW.TXT"));
+    ASSERT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("NEW.TXT"), "\r\n");
+}
+
+TEST_F(Write, AShorterTextLeavesNothingOfTheLongerOne) {
+    load("a long old text\r\n");
+    document_.current().truncate(CharColumn(1));
+    ASSERT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "a\r\n");
+}
+
+TEST_F(Write, AWriteForgetsHistoryAndChanges) {
+    load("abc");
+    type("x");
+    ASSERT_TRUE(document_.isModified());
+    ASSERT_TRUE(document_.write());
+    EXPECT_FALSE(document_.isModified());
+    EXPECT_FALSE(document_.undo().undo());
+    EXPECT_EQ(document_.undo().group(), 0u);
+}
+
+TEST_F(Write, EveryByteSurvivesLoadingAndWriting) {
+    std::string all;
+    for (int c = 0; c < 256; ++c) {
+        if (c != '\n') all += static_cast<char>(c);
+    }
+    load(all + "\r\n" + all + "\r\n");
+    ASSERT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), all + "\r\n" + all + "\r\n");
+}
+
+TEST_F(Write, WhatMayNotBeWrittenIsLeftAlone) {
+    load("old");
+    type("x");
+    disk_.setReadOnly("A.TXT", true);
+    EXPECT_FALSE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "old");
+    EXPECT_TRUE(document_.isModified());
+    EXPECT_FALSE(document_.undo().isEmpty());
+    EXPECT_FALSE(disk_.has(copyName()));
+    disk_.setReadOnly("A.TXT", false);
+
+    document_.forgetFile();
+    EXPECT_FALSE(document_.write()) << "a document without a name of its own";
+}
+
+// ---- a disk that fails ---------------------------------------------------------------------------------------------
+
+struct FaultPlan {
+    FileStep step;
+    int countdown;  // this many of these steps pass before failures begin
+    int failures;   // how many fail
+    bool struck;
+};
+FaultPlan plan;
+
+bool Strike(FileStep step) {
+    if (step != plan.step) return false;
+    if (plan.countdown-- > 0) return false;
+    if (plan.failures-- <= 0) return false;
+    plan.struck = true;
+    return true;
+}
+
+std::string LargeText(char c) {
+    std::string text;
+    while (text.size() < 700'000)
+        text += std::string(60, c) + "\r\n";
+    return text;
+}
+
+TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
+    const std::string old = LargeText('o');
+    const FileStep steps[] = {FileStep::Open, FileStep::Write, FileStep::End, FileStep::Flush, FileStep::Close};
+    int struck = 0;
+    for (const FileStep step : steps) {
+        for (int countdown = 0; countdown < 12; ++countdown) {
+            load(old);
+            type("x");
+            plan = {step, countdown, 1, false};
+            SetFileFault(Strike);
+            const bool written = document_.write();
+            SetFileFault(nullptr);
+            SCOPED_TRACE("step " + std::to_string(static_cast<int>(step)) + " after " + std::to_string(countdown));
+            EXPECT_FALSE(disk_.has(copyName()));
+            EXPECT_EQ(disk_.get("A.TXT"), written ? "x" + old : old);
+            EXPECT_EQ(document_.isModified(), !written);
+            EXPECT_EQ(document_.undo().isEmpty(), written);
+            if (plan.struck) ++struck;
+        }
+    }
+    EXPECT_GT(struck, 12) << "the steps of a save were not reached";
+}
+
+TEST_F(Write, ANewFileThatCannotBeWrittenIsTakenAway) {
+    load(LargeText('o'));
+    document_.setName(disk_.path("NEW.TXT"));
+    for (const FileStep step : {FileStep::Write, FileStep::Flush, FileStep::Close}) {
+        plan = {step, 0, 1, false};
+        SetFileFault(Strike);
+        EXPECT_FALSE(document_.write());
+        SetFileFault(nullptr);
+        EXPECT_TRUE(plan.struck);
+        EXPECT_FALSE(disk_.has("NEW.TXT"));
+    }
+}
+
+TEST_F(Write, WhenPuttingBackFailsTooTheOldTextStaysInItsCopyAndTheUserIsTold) {
+    const std::string old = LargeText('o');
+    load(old);
+    type("x");
+    plan = {FileStep::Write, 4, 1000, false};
+    SetFileFault(Strike);
+    EXPECT_FALSE(document_.write());
+    SetFileFault(nullptr);
+    EXPECT_TRUE(document_.isModified());
+    EXPECT_EQ(disk_.get(copyName()), old);
+    ASSERT_EQ(notices_.boxes.size(), 1u);
+    EXPECT_NE(notices_.boxes[0].text.find(disk_.path(copyName())), std::string::npos);
+    EXPECT_EQ(LeftSafetyCopy(disk_.path("A.TXT")), disk_.path(copyName()));
+
+    // The copy of an interrupted save is not overwritten by the next one.
+    ASSERT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get(copyName()), old);
+    EXPECT_FALSE(disk_.has("A.TXT.vx1"));
+}
+
+TEST_F(Write, ASaveWithoutAFreeNameForTheCopyDoesNotTouchTheFile) {
+    load("old");
+    type("x");
+    for (char digit = '0'; digit <= '9'; ++digit)
+        disk_.put(std::string("A.TXT.vx") + digit, "kept");
+    EXPECT_FALSE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "old");
+    EXPECT_EQ(disk_.get("A.TXT.vx9"), "kept");
+}
+
+}  // namespace
+}  // namespace vexa
