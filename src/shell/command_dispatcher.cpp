@@ -1,0 +1,52 @@
+#include "shell/command_dispatcher.h"
+
+#include "base/strings.h"
+
+namespace vexa {
+namespace {
+
+constexpr std::uint16_t kTextNoOpenFile = 4141;
+
+bool AsksForFile(CommandNeed need) {
+    return need == CommandNeed::Document || need == CommandNeed::EditArea;
+}
+
+}  // namespace
+
+void CommandDispatcher::RegisterCommand(CommandId id, Handler handler) {
+    RegisterToggle(id, std::move(handler), nullptr);
+}
+
+void CommandDispatcher::RegisterToggle(CommandId id, Handler handler, CheckQuery isChecked) {
+    registrations_[id] = {std::move(handler), std::move(isChecked)};
+}
+
+const CommandDispatcher::Registration* CommandDispatcher::registrationOf(CommandId id) const {
+    const auto found = registrations_.find(id);
+    return found == registrations_.end() ? nullptr : &found->second;
+}
+
+bool CommandDispatcher::CanRun(CommandId id) const {
+    const CommandRow* row = FindCommand(id);
+    return row && registrationOf(id) && meetsNeed(row->need);
+}
+
+bool CommandDispatcher::IsChecked(CommandId id) const {
+    const Registration* registration = registrationOf(id);
+    return registration && registration->isChecked && registration->isChecked();
+}
+
+bool CommandDispatcher::Dispatch(CommandId id) {
+    if (CanRun(id)) {
+        // A copy: the handler may register others, or bring about its own end.
+        const Handler handler = registrationOf(id)->handler;
+        handler(id);
+        return true;
+    }
+    const CommandRow* row = FindCommand(id);
+    const bool fileIsMissing = row && registrationOf(id) && AsksForFile(row->need) && !isMet_(CommandNeed::Window);
+    if (fileIsMissing) notices_.status(LoadText(kTextNoOpenFile), true, true);
+    return false;
+}
+
+}  // namespace vexa

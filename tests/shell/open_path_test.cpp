@@ -1,0 +1,24 @@
+#include "shell/open_path.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_disk.h"
+
+namespace vexa {
+namespace {
+
+TEST(OpenPath, NameWithADriveIsFullAndEveryOtherNameIsInTheCurrentDirectory) {
+    const test::TestDisk disk;
+    std::string here = disk.path();
+    if (!here.ends_with('\\')) here += '\\';
+    const std::pair<std::string, std::string> cases[] = {
+        {"C:\\TEXT\\A.C", "C:\\TEXT\\A.C"}, {"c:a.c", "c:a.c"},  {"a.c", here + "a.c"},
+        {"sub\\a.c", here + "a.c"},  // the directory is dropped
+        {"\\text\\a.c", here + "a.c"},      {"C:", here + "C:"},
+    };
+    for (const auto& [name, path] : cases)
+        EXPECT_EQ(OpenPathOf(name), path);
+}
+
+}  // namespace
+}  // namespace vexa
