@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/file.h"
 #include "base/strings.h"
 #include "document/text_document.h"
 #include "support/recording_notices.h"
@@ -158,6 +159,24 @@ TEST_F(Load, WhatCannotBeOpenedLeavesAnEmptyDocumentThatIsNotSavedOverIt) {
     }
     document_.setName("");
     EXPECT_FALSE(document_.load());
+}
+
+TEST_F(Load, AFileThatAnotherProgramHoldsIsNotLoaded) {
+    disk_.put("A.TXT", "abc");
+    document_.setName(disk_.path("A.TXT"));
+    const test::LockedFile held(disk_.path("A.TXT"));
+    EXPECT_FALSE(document_.load());
+    EXPECT_FALSE(document_.isNamed());
+}
+
+TEST_F(Load, OfAHugeFileOnlyTheLinesThatAreKeptAreRead) {
+    File huge(disk_.path("HUGE.BIN"), platform::OpenMode::CreateAlways);
+    ASSERT_TRUE(huge.seek(std::uint64_t{1} << 30) && huge.endHere() && huge.close());
+    document_.setName(disk_.path("HUGE.BIN"));
+    ASSERT_TRUE(document_.load());
+    EXPECT_TRUE(document_.isTruncated());
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 90000);
+    EXPECT_EQ(text(90000), std::string(294, '\0'));
 }
 
 TEST_F(Load, ALoadForgetsHistoryAndMarking) {

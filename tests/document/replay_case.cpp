@@ -221,7 +221,8 @@ void PressAll(EditView& view, const std::string& keys) {
 // The number of commands that were undone.
 int UndoAll(EditView& view) {
     int commands = 0;
-    for (; !view.document().undo().isEmpty(); ++commands) view.undo();
+    for (; !view.document().undo().isEmpty(); ++commands)
+        view.undo();
     return commands;
 }
 
@@ -274,7 +275,8 @@ void RunReplayCase(const ReplayCase& replayCase) {
     int commands = UndoAll(view);
     EXPECT_EQ(Joined(Show(document)), Joined(before)) << "when everything is undone";
     EXPECT_FALSE(document.isModified()) << "when everything is undone";
-    for (; commands > 0; --commands) view.redo();
+    for (; commands > 0; --commands)
+        view.redo();
     EXPECT_EQ(Joined(Show(document)), Joined(after)) << "when everything is done again";
 }
 

@@ -6,7 +6,9 @@
 namespace vexa::test {
 
 // How GoogleTest names a case in its messages.
-void PrintTo(const ReplayCase& replayCase, std::ostream* out) { *out << replayCase.name; }
+void PrintTo(const ReplayCase& replayCase, std::ostream* out) {
+    *out << replayCase.name;
+}
 
 namespace {
 

@@ -7,6 +7,9 @@
 #include "document/edit_view.h"
 #include "document/text_document.h"
 #include "document/text_writer.h"
+#ifndef _WIN32
+#include "support/full_disk.h"
+#endif
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 
@@ -102,6 +105,18 @@ TEST_F(Write, WhatMayNotBeWrittenIsLeftAlone) {
     EXPECT_FALSE(document_.write()) << "a document without a name of its own";
 }
 
+TEST_F(Write, AFileThatAnotherProgramHoldsIsLeftAlone) {
+    load("old");
+    type("x");
+    {
+        const test::LockedFile held(disk_.path("A.TXT"));
+        EXPECT_FALSE(document_.write());
+    }
+    EXPECT_EQ(disk_.get("A.TXT"), "old");
+    EXPECT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "xold\r\n");
+}
+
 // ---- a disk that fails ---------------------------------------------------------------------------------------------
 
 struct FaultPlan {
@@ -149,6 +164,26 @@ TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
     }
     EXPECT_GT(struck, 12) << "the steps of a save were not reached";
 }
+
+#ifndef _WIN32
+TEST_F(Write, ADiskWithoutRoomKeepsTheOldFileWherePlaceRunsOut) {
+    const std::string old = LargeText('o');
+    for (const rlim_t room : {rlim_t{1000}, rlim_t{300'000}, rlim_t{old.size()}, rlim_t{old.size() + 100'000}}) {
+        load(old);
+        document_.current().append(std::string(60'000, 'x'));
+        document_.countChange(1);
+        bool written = false;
+        {
+            const test::FullDisk full(room);
+            written = document_.write();
+        }
+        EXPECT_EQ(written, room > old.size() + 60'000) << room;
+        EXPECT_EQ(disk_.get("A.TXT").size(), written ? old.size() + 60'000 : old.size()) << room;
+        EXPECT_FALSE(disk_.has(copyName())) << room;
+        EXPECT_EQ(document_.isModified(), !written) << room;
+    }
+}
+#endif
 
 TEST_F(Write, ANewFileThatCannotBeWrittenIsTakenAway) {
     load(LargeText('o'));
