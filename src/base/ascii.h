@@ -20,6 +20,10 @@ constexpr char LowerAscii(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+constexpr char UpperAscii(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
 constexpr bool EqualIgnoringCase(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, {}, LowerAscii, LowerAscii);
 }

@@ -103,10 +103,14 @@ std::string NewFileBeside(const std::string& path, File& file) {
 }  // namespace
 
 bool WriteWholeFile(const std::string& path, std::string_view data) {
+    return RewriteFile(path, [data](File& file) { return file.write(data); });
+}
+
+bool RewriteFile(const std::string& path, const std::function<bool(File&)>& write) {
     File file;
     const std::string temporary = NewFileBeside(path, file);
     if (temporary.empty()) return false;
-    bool done = file.write(data) && file.flush();
+    bool done = write(file) && file.flush();
     done = file.close() && done;
     done = done && platform::RenameFile(temporary, path);
     if (!done) platform::RemoveFile(temporary);

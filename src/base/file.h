@@ -1,6 +1,7 @@
 // An open file that closes itself, over the platform's file functions.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,6 +41,8 @@ class File {
 // Makes the file hold data, in one step: a reader sees the old contents or the new ones, never a part. False leaves the
 // old file, or its absence, as it was. Read-only files are not replaced.
 bool WriteWholeFile(const std::string& path, std::string_view data);
+// The same for what a function writes into the new file; its false leaves the old file too.
+bool RewriteFile(const std::string& path, const std::function<bool(File&)>& write);
 
 // The steps of writing a file that a full or failing disk can refuse.
 enum class FileStep { Open, Write, End, Flush, Close };

@@ -87,8 +87,28 @@ std::int32_t ReadIntSetting(const std::string& file, const std::string& section,
 bool WriteSetting(const std::string& file, const std::string& section, const std::string& key,
                   const std::string& value);
 
+// ---- other instances of the program ------------------------------------------------------------------------------
+
+// A marker is a name that every running program sees. It stays until it has been deleted, also when the program that
+// added it is no more.
+bool AddGlobalMarker(const std::string& name);
+bool GlobalMarkerExists(const std::string& name);
+// Several programs may each have added it: deletes it until it is gone, at most six times.
+void DeleteGlobalMarker(const std::string& name);
+
+// The number of the window message of that name, the same in every program; 0 when the system has none to give.
+std::uint32_t RegisterBroadcast(const std::string& name);
+// Posts the message, without parameters, to the top-level windows of all programs; does not wait for them.
+bool PostBroadcast(std::uint32_t message);
+
+// The full path of a file that a command line names, in the ANSI code page; no file is opened. Empty when the text is
+// no path, or one of more than 127 bytes.
+std::string ParseFileName(const std::string& text);
+
 // ---- the rest ----------------------------------------------------------------------------------------------------
 
+// Seconds since the beginning of 1970, as the system's clock has it; it may be set back.
+std::int64_t CurrentSeconds();
 // A line for whoever debugs the program; never seen by its user.
 void DebugOutput(std::string_view text);
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexa::platform::host {
 
@@ -14,6 +15,10 @@ struct Places {
     std::string programPath = "C:\\VEXA.EXE";
     int drive = 2;                            // 0 is A
     std::array<std::string, 26> directories;  // of each drive, as "\DIR\SUB"; empty for its root
+    std::vector<std::string> markers;         // global markers, one entry an adding
+    std::vector<std::string> messages;        // registered names of broadcasts
+    std::vector<std::string> broadcasts;      // the names of what has been posted
+    bool refusesBroadcasts = false;
 };
 
 Places& ThePlaces();

@@ -1,0 +1,34 @@
+// The fields of the "Color Setup" dialog and what its controls do.
+#pragma once
+
+#include "language/colour_table.h"
+
+namespace vexa {
+
+// Works on a copy of the colours; only update() takes it into effect.
+class ColourSetupModel {
+  public:
+    explicit ColourSetupModel(const ColourTable& current) : current_(current), working_(current) {}
+
+    // The preset that the list shows: the one whose colours the working set has, else "User Defined".
+    ColourPreset preset() const;
+    void choosePreset(ColourPreset preset);
+    ColourElement element() const { return element_; }
+    void chooseElement(ColourElement element) { element_ = element; }
+    // The palette entry that the colour list selects for the chosen element.
+    std::int32_t colour() const { return working_.indexOf(element_) & (kPaletteSize - 1); }
+    void chooseColour(std::int32_t index) { working_.setElementColour(element_, index); }
+    bool isHighlightingOn() const { return working_.isHighlightingOn(); }
+    void setHighlighting(bool on) { working_.setHighlighting(on); }
+
+    // What the sample is painted with.
+    const ColourTable& working() const { return working_; }
+    void update(ColourTable& table) const { table = working_; }
+
+  private:
+    const ColourTable current_;
+    ColourTable working_;
+    ColourElement element_ = ColourElement::Background;
+};
+
+}  // namespace vexa
