@@ -123,6 +123,13 @@ void DynArray::trim() {
         slots_.remove(slots_.size() - 1);
 }
 
+// A line that comes from the history may come from a time with other rules of colouring.
+TextLine* DynArray::keep(LinePtr line) {
+    if (line == nullptr) return &vacant_;
+    line->commentEffectKnown = false;
+    return line.release();
+}
+
 bool DynArray::put(LinePtr line, std::int32_t i) {
     if (i < 0) return false;
     if (!makeRoom(i)) {
@@ -130,8 +137,9 @@ bool DynArray::put(LinePtr line, std::int32_t i) {
         return false;
     }
     if (!reach(i + 1)) return false;
+    noteMovedFrom(i);
     TextLine* const old = occupied(i);
-    slots_[i] = line ? line.release() : &vacant_;
+    slots_[i] = keep(std::move(line));
     if (old) LineDeleter()(old);
     trim();
     return true;
@@ -160,12 +168,14 @@ bool DynArray::insertAt(LinePtr line, std::int32_t i) {
     const std::int32_t last = lastUsed(LastUsed::Plain);
     if (last + 1 >= capacity_ && !makeRoom(last + 1)) return false;
     if (i >= slots_.size()) return put(std::move(line), i);
-    slots_.insert(i, line ? line.release() : &vacant_);
+    noteMovedFrom(i);
+    slots_.insert(i, keep(std::move(line)));
     return true;
 }
 
 LinePtr DynArray::take(std::int32_t i) {
     TextLine* const line = occupied(i);
+    noteMovedFrom(i);
     if (i < slots_.size()) slots_.remove(i);
     trim();
     return LinePtr(line);
@@ -191,7 +201,12 @@ bool DynArray::takeGrown() {
     return std::exchange(grown_, false);
 }
 
+std::int32_t DynArray::takeMovedFrom() {
+    return std::exchange(movedFrom_, INT32_MAX);
+}
+
 void DynArray::clear() {
+    noteMovedFrom(0);
     for (std::int32_t i = 0; i < slots_.size(); ++i) {
         if (TextLine* line = occupied(i)) LineDeleter()(line);
     }

@@ -1,6 +1,7 @@
 // The growable array of lines.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -72,6 +73,8 @@ class DynArray {
 
     // Whether the array has grown since this was last asked.
     bool takeGrown();
+    // The first slot of those whose lines have changed places since this was last asked; INT32_MAX when none have.
+    std::int32_t takeMovedFrom();
     // Destroys every line and makes the array as new.
     void clear();
 
@@ -80,13 +83,16 @@ class DynArray {
     bool grow(std::int32_t capacity);
     bool reach(std::int32_t count);
     LinePtr take(std::int32_t i);
+    TextLine* keep(LinePtr line);
     void trim();
+    void noteMovedFrom(std::int32_t i) { movedFrom_ = std::min(movedFrom_, i); }
 
     TextLine vacant_;
     GapVector slots_;
     std::int32_t capacity_ = 0;
     std::int32_t growBy_;
     bool grown_ = false;
+    std::int32_t movedFrom_ = INT32_MAX;
 };
 
 }  // namespace vexa

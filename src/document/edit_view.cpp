@@ -3,9 +3,18 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "base/strings.h"
+#include "document/clipboard_block.h"
+#include "document/matching_bracket.h"
 #include "document/word_motion.h"
 
 namespace vexa {
+
+namespace {
+
+constexpr std::uint16_t kTextBadBookmark = 4148;
+
+}  // namespace
 
 EditView::EditView(TextDocument& document, EditorOptions& options, Notices& notices)
     : document_(document), options_(options), notices_(notices), editor_(document), marker_(document, editor_) {}
@@ -158,7 +167,41 @@ bool EditView::redo() {
     return takeBack(&UndoHistory::redo, "Nothing to redo!");
 }
 
+bool EditView::changeCase(CaseChange change) {
+    const bool changed = ChangeCase(document_, editor_, change);
+    finish();
+    return changed;
+}
+
+void EditView::cutBlock() {
+    if (clipboard_) ClipboardBlock(document_, editor_, marker_, *clipboard_).cut();
+}
+
+void EditView::copyBlock() {
+    if (clipboard_) ClipboardBlock(document_, editor_, marker_, *clipboard_).copy();
+}
+
+void EditView::pasteBlock() {
+    if (clipboard_) ClipboardBlock(document_, editor_, marker_, *clipboard_).paste();
+}
+
+void EditView::cut() {
+    cutBlock();
+    finish();
+}
+
+void EditView::copy() {
+    copyBlock();
+    finish();
+}
+
+void EditView::paste() {
+    pasteBlock();
+    finish();
+}
+
 void EditView::clear() {
+    const BusyCursor busy(notices_);
     deleteKey();
     finish();
 }
@@ -168,11 +211,48 @@ void EditView::selectAll() {
     finish();
 }
 
-void EditView::goTo(LineIndex line, CharColumn column) {
+void EditView::moveTo(LineIndex line, std::optional<CharColumn> column) {
     const LineIndex last(document_.lines().capacity() - 1);
     editor_.moveToLine(std::clamp(line, LineIndex(0), last));
-    editor_.moveToColumn(column);
+    if (column) editor_.moveToColumn(*column);
+    marker_.cursorMoved(false);
     finish();
+}
+
+void EditView::goTo(LineIndex line, CharColumn column) {
+    moveTo(line, column);
+}
+
+std::int32_t EditView::goToLine(std::int32_t number) {
+    moveTo(LineIndex(std::max(number, 1) - 1), std::nullopt);
+    return document_.currentLine().value + 1;
+}
+
+BookmarkResult EditView::jumpToBookmark(std::int32_t n) {
+    if (!Bookmarks::hasNumber(n)) return BookmarkResult::BadNumber;
+    const std::optional<LineIndex> line = document_.bookmarks().line(n);
+    if (!line) return BookmarkResult::NotSet;
+    moveTo(*line, CharColumn(0));
+    return BookmarkResult::Done;
+}
+
+void EditView::dropBookmark(std::int32_t n) {
+    if (document_.dropBookmark(n) == BookmarkResult::Done) {
+        notices_.status(FillText("Bookmark '%d' dropped", {std::to_string(n)}), true, false);
+    } else {
+        notices_.status(LoadText(kTextBadBookmark), true, true);
+    }
+}
+
+bool EditView::toMatchingBracket() {
+    const auto bracket = BracketAt(document_, {document_.currentLine(), document_.column()});
+    const auto partner = bracket ? MatchingBracket(document_, *bracket) : std::nullopt;
+    if (partner) {
+        moveTo(partner->line, partner->column);
+    } else {
+        notices_.status(bracket ? "No matching bracket found." : "The cursor is not at a bracket.", true, true);
+    }
+    return partner.has_value();
 }
 
 void EditView::toWindowStart() {

@@ -9,6 +9,8 @@
 #include "base/editor_options.h"
 #include "base/notices.h"
 #include "base/units.h"
+#include "document/case_change.h"
+#include "document/clipboard_store.h"
 #include "document/key_event.h"
 #include "document/line_editor.h"
 #include "document/marker.h"
@@ -47,12 +49,34 @@ class EditView {
     bool undo();
     bool redo();
     void clear();  // deletes the marked area, or without one the character at the caret
+    // Changes the case of the marked text or of the word at the caret; tells the user and is false when there is none.
+    bool changeCase(CaseChange change);
+    // The clipboard, without which the three commands do nothing.
+    void setClipboard(ClipboardStore& clipboard) { clipboard_ = &clipboard; }
+    void cut();
+    void copy();
+    void paste();
     void selectAll();
     void goTo(LineIndex line, CharColumn column);
+    // Goes to a line by its number, counted from 1 and limited to the lines that there is room for, used or not; any
+    // number below 1 means the first. The cursor takes the place it had in that line. Returns the number reached.
+    std::int32_t goToLine(std::int32_t number);
+    // Sets a bookmark to the caret's line, and tells the user.
+    void dropBookmark(std::int32_t n);
+    // Goes to the start of a bookmark's line.
+    BookmarkResult jumpToBookmark(std::int32_t n);
+    // Goes to the partner of the bracket at or before the caret; tells the user and is false when there is none.
+    bool toMatchingBracket();
     void toWindowStart();
     void toWindowEnd();
     void toDocumentStart();
     void toDocumentEnd();
+
+    // For commands that live outside the view: what they work with, and how each of them ends. The caller of finish()
+    // closes one undo group and has the caret in sight.
+    LineEditor& editor() { return editor_; }
+    Marker& marker() { return marker_; }
+    void finish();
 
     // ---- window ----
 
@@ -73,7 +97,9 @@ class EditView {
     // ---- what is seen ----
 
     // The row, also one below the last whole one.
-    ViewRow render(std::int32_t row) const { return RenderRow(document_, top_ + row, left_, columns_); }
+    ViewRow render(std::int32_t row) const { return RenderRow(document_, top_ + row, left_, columns_, highlighting_); }
+    // Whether the text is shown in the colours of its tokens.
+    void setHighlighting(bool on) { highlighting_ = on; }
     // Where the caret stands in the window; none while it is out of sight.
     std::optional<Cell> caret() const;
     bool overwrites() const { return !options_.InsertMode; }
@@ -86,9 +112,9 @@ class EditView {
 
     bool typedCharacter(const KeyEvent& event);
     void move(Movement movement, bool extending);
-    void finish();
     void bringCaretIntoSight(bool centre);
     void place(Cell cell);
+    void moveTo(LineIndex line, std::optional<CharColumn> column);
     bool takeBack(bool (UndoHistory::*step)(), const char* refusal);
 
     void charLeft() { editor_.moveLeft(1); }
@@ -122,6 +148,10 @@ class EditView {
     void markLines() { marker_.toggle(MarkMode::Lines); }
     void markColumn() { marker_.toggle(MarkMode::Column); }
     void clearMark() { marker_.clear(); }
+    void cutBlock();
+    void copyBlock();
+    void pasteBlock();
+    void dropBookmarkOfKey() { dropBookmark(lastKey_.key - '0'); }
 
     TextDocument& document_;
     EditorOptions& options_;
@@ -132,6 +162,8 @@ class EditView {
     DisplayColumn left_;
     std::int32_t rows_ = 1;
     std::int32_t columns_ = 1;
+    bool highlighting_ = true;
+    ClipboardStore* clipboard_ = nullptr;
     // How often in a row the last key was pressed: Home and End go further each time.
     KeyEvent lastKey_;
     int pressesInARow_ = 0;

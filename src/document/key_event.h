@@ -23,6 +23,8 @@ enum VirtualKey : std::uint16_t {
     kKeyDown = 0x28,
     kKeyInsert = 0x2D,
     kKeyDelete = 0x2E,
+    kKeyAdd = 0x6B,  // plus and minus of the numeric keypad
+    kKeySubtract = 0x6D,
 };
 
 // Either a key (key set, character 0) or a typed character (key kKeyNone).

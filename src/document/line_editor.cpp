@@ -5,6 +5,7 @@
 #include "document/columns.h"
 #include "document/cursor_actions.h"
 #include "document/line_actions.h"
+#include "document/run_actions.h"
 #include "document/text_actions.h"
 
 namespace vexa {
@@ -68,8 +69,20 @@ void LineEditor::pad() {
 }
 
 void LineEditor::typeBlanks(char blank, std::int32_t n) {
-    for (; n > 0; --n) {
-        run<InsertChar>(blank);
+    if (n > 0) insertText(std::string(static_cast<std::size_t>(n), blank));
+}
+
+// One step for the whole text, except where the cursor would run into the last column: there each character goes to
+// where the one before it has left the cursor.
+void LineEditor::insertText(std::string_view text) {
+    const auto length = static_cast<std::int32_t>(text.size());
+    if (length > 1 && document_.column() + length <= CharColumn(kLastColumn)) {
+        run<ReplaceRun>(0, text);
+        moveRight(length);
+        return;
+    }
+    for (const char c : text) {
+        run<InsertChar>(c);
         moveRight(1);
     }
 }
@@ -83,21 +96,25 @@ void LineEditor::insertIndent() {
 }
 
 void LineEditor::type(char c, std::int32_t n) {
-    pad();
-    for (; n > 0; --n) {
-        if (options_.InsertMode) {
-            run<InsertChar>(c);
-        } else {
-            if (document_.column() == textEnd()) run<InsertChar>(' ');
-            run<OverwriteChar>(c);
-        }
-        moveRight(1);
-    }
+    if (n > 0) typeText(std::string(static_cast<std::size_t>(n), c));
 }
 
 void LineEditor::typeText(std::string_view text) {
-    for (const char c : text)
-        type(c, 1);
+    if (text.empty()) return;
+    pad();
+    if (options_.InsertMode) {
+        insertText(text);
+    } else {
+        overwriteText(text);
+    }
+}
+
+void LineEditor::overwriteText(std::string_view text) {
+    for (const char c : text) {
+        if (document_.column() == textEnd()) run<InsertChar>(' ');
+        run<OverwriteChar>(c);
+        moveRight(1);
+    }
 }
 
 // ---- deleting ----------------------------------------------------------------------------------------------------
@@ -120,8 +137,19 @@ void LineEditor::backspace(std::int32_t n) {
 }
 
 void LineEditor::deleteInLine(std::int32_t n) {
-    for (n = std::min(n, textEnd() - document_.column()); n > 0; --n)
+    n = std::min(n, textEnd() - document_.column());
+    if (n > 1) {
+        run<ReplaceRun>(n, std::string_view());
+    } else if (n == 1) {
         run<DeleteChar>();
+    }
+}
+
+void LineEditor::deleteBetween(CharColumn from, CharColumn to) {
+    moveToColumn(from);
+    if (document_.column() == from) return deleteInLine(to - from);
+    to = std::min(to, textEnd());
+    if (from < to) run<ReplaceRun>(document_.currentLine(), from, to - from, std::string_view());
 }
 
 void LineEditor::deleteToStart() {
@@ -138,8 +166,7 @@ void LineEditor::deleteColumns(DisplayColumn from, DisplayColumn to) {
     const std::string_view text = document_.text(document_.currentLine());
     const CharColumn first = FirstCharacterFrom(text, from, document_.tabSize());
     const CharColumn last = FirstCharacterFrom(text, to, document_.tabSize());
-    moveToColumn(first);
-    deleteInLine(last - first);
+    deleteBetween(first, last);
 }
 
 void LineEditor::deleteLine() {

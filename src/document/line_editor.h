@@ -45,6 +45,9 @@ class LineEditor {
     void deleteCurrentLine();  // the same, the cursor where that line had it
     // Deletes from the cursor a number of characters, no further than the text's end.
     void deleteInLine(std::int32_t n);
+    // Deletes the characters between two columns, also beyond the last that the cursor reaches; it goes to from or as
+    // near as it can.
+    void deleteBetween(CharColumn from, CharColumn to);
     void joinNextLine();
     void splitLine();
 
@@ -59,7 +62,6 @@ class LineEditor {
     // Moves the last word before the cursor to a line of its own; called when the cursor has reached the wrap column.
     void wordWrap();
 
-    bool cursorIsBeyondEnd() const { return document_.column() > textEnd(); }
     CharColumn textEnd() const;
 
     // Carries a step out and records it.
@@ -72,6 +74,8 @@ class LineEditor {
 
   private:
     void typeBlanks(char blank, std::int32_t n);
+    void insertText(std::string_view text);
+    void overwriteText(std::string_view text);
     void takeOverIndent(std::string_view indent);
     std::int32_t wrapPoint() const;
 

@@ -108,22 +108,19 @@ void Marker::deleteStreamInLine() {
     editor_.moveToLine(area.start.line);
     const CharColumn from = document_.toCharacter(area.start.line, area.start.column);
     const CharColumn to = document_.toCharacter(area.start.line, area.end.column);
-    editor_.moveToColumn(from);
-    editor_.deleteInLine(to - from);
+    editor_.deleteBetween(from, to);
 }
 
 // The end line goes up to the start line with what it has behind the area.
 void Marker::deleteStream() {
     const MarkedArea area = document_.marked();
     editor_.moveToLine(area.start.line);
-    editor_.moveToDisplayColumn(area.start.column);
-    if (editor_.cursorIsBeyondEnd()) editor_.moveToLineEnd();
-    editor_.deleteToEnd();
+    const CharColumn end = editor_.textEnd();
+    editor_.deleteBetween(std::min(document_.toCharacter(area.start.line, area.start.column), end), end);
     editor_.moveToLine(area.start.line + 1);
     for (std::int32_t n = lastMarkedLine() - area.start.line - 1; n > 0; --n)
         editor_.deleteCurrentLine();
-    editor_.moveToDisplayColumn(area.end.column);
-    editor_.deleteToStart();
+    editor_.deleteBetween(CharColumn(0), document_.toCharacter(document_.currentLine(), area.end.column));
     editor_.moveToLine(area.start.line);
     editor_.joinNextLine();
 }

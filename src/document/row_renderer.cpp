@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "document/columns.h"
+#include "language/line_tokenizer.h"
 
 namespace vexa {
 
@@ -58,15 +59,21 @@ std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayCol
     return cells;
 }
 
-// Lays runs over the window's cells from left to right; an empty one is left out.
+// Lays runs over the window's cells from left to right, each up to an end; an empty one is left out and equal ones are
+// joined.
 class RunList {
   public:
     explicit RunList(std::int32_t columns) : columns_(columns) {}
 
+    bool isFull() const { return next_ == columns_; }
     void upTo(std::int64_t end, ColourElement text, ColourElement background) {
         const auto stop = static_cast<std::int32_t>(std::clamp<std::int64_t>(end, 0, columns_));
         if (stop <= next_) return;
-        runs_.push_back({next_, stop - next_, text, background});
+        if (!runs_.empty() && runs_.back().text == text && runs_.back().background == background) {
+            runs_.back().length += stop - next_;
+        } else {
+            runs_.push_back({next_, stop - next_, text, background});
+        }
         next_ = stop;
     }
     std::vector<CellRun> take() { return std::move(runs_); }
@@ -77,18 +84,63 @@ class RunList {
     std::int32_t columns_;
 };
 
+// Lays the colours of tokens over a row, except where it is marked.
+class RowColours {
+  public:
+    RowColours(std::int32_t columns, std::int64_t markBegin, std::int64_t markEnd)
+        : runs_(columns), markBegin_(markBegin), markEnd_(markEnd) {}
+
+    bool isFull() const { return runs_.isFull(); }
+    void upTo(std::int64_t end, ColourElement text) {
+        if (markBegin_ < markEnd_ && end > markBegin_) {
+            runs_.upTo(markBegin_, text, ColourElement::Background);
+            runs_.upTo(std::min(end, markEnd_), ColourElement::MarkingText, ColourElement::MarkingBackground);
+        }
+        runs_.upTo(end, text, ColourElement::Background);
+    }
+    std::vector<CellRun> take() { return runs_.take(); }
+
+  private:
+    RunList runs_;
+    std::int64_t markBegin_;
+    std::int64_t markEnd_;
+};
+
+// Follows the display column through a text that is read from left to right.
+class ColumnCounter {
+  public:
+    explicit ColumnCounter(std::int32_t tabSize) : tabSize_(tabSize) {}
+    std::int64_t past(std::string_view text) {
+        for (const char c : text)
+            column_ = c == '\t' ? (column_ / tabSize_ + 1) * tabSize_ : column_ + 1;
+        return column_;
+    }
+
+  private:
+    std::int64_t column_ = 0;
+    std::int32_t tabSize_;
+};
+
+void LayTokens(const TextDocument& document, LineIndex line, DisplayColumn left, RowColours& colours) {
+    ColumnCounter columns(document.tabSize());
+    LineTokenizer tokens(*document.tokenRules(), document.text(line), document.startsInComment(line));
+    while (!colours.isFull()) {
+        const Token token = tokens.NextToken();
+        if (token.kind == TokenKind::EndOfLine) return;
+        colours.upTo(columns.past(token.text) - left.value, tokens.ColourOfKind());
+    }
+}
+
 }  // namespace
 
-ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns) {
+ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
+                  bool highlighting) {
     const Span marked = MarkedIn(document, line);
     const auto cell = [left](DisplayColumn column) { return std::int64_t{column.value} - left.value; };
-    RunList runs(columns);
-    if (marked.begin < marked.end) {
-        runs.upTo(cell(marked.begin), ColourElement::DefaultText, ColourElement::Background);
-        runs.upTo(cell(marked.end), ColourElement::MarkingText, ColourElement::MarkingBackground);
-    }
-    runs.upTo(columns, ColourElement::DefaultText, ColourElement::Background);
-    return {VisibleCells(document.text(line), document.tabSize(), left, columns), runs.take()};
+    RowColours colours(columns, cell(marked.begin), cell(marked.end));
+    if (highlighting && document.tokenRules()) LayTokens(document, line, left, colours);
+    colours.upTo(columns, ColourElement::DefaultText);
+    return {VisibleCells(document.text(line), document.tabSize(), left, columns), colours.take()};
 }
 
 }  // namespace vexa

@@ -29,7 +29,9 @@ struct ViewRow {
     bool operator==(const ViewRow&) const = default;
 };
 
-// The row of a line in a window that shows that many columns from left on. A line beyond the document is empty.
-ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns);
+// The row of a line in a window that shows that many columns from left on. A line beyond the document is empty. Text
+// has the colours of its tokens, or without highlighting that of default text; what is marked has those of the marking.
+ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
+                  bool highlighting = true);
 
 }  // namespace vexa

@@ -25,7 +25,9 @@ void TextDocument::discardText() {
     undo_.clear();
     lines_.clear();
     arena_.clear();
+    comments_.reset();
     marked_ = {};
+    bookmarks_ = {};
     currentLine_ = LineIndex(0);
     modifiedCount_ = 0;
     linesWrapped_ = false;
@@ -37,6 +39,14 @@ void TextDocument::setName(const std::optional<std::string>& path) {
     path_ = path.value_or(kNoName);
     const std::size_t slash = path_.rfind('\\');
     baseName_ = slash == std::string::npos ? path_ : path_.substr(slash + 1);
+}
+
+void TextDocument::setProfile(const ExtensionProfile& profile) {
+    profile_ = &profile;
+    // The old rules are in use until the new ones are.
+    auto rules = std::make_unique<const TokenRules>(profile);
+    comments_.setRules(rules.get());
+    tokenRules_ = std::move(rules);
 }
 
 bool TextDocument::newEmpty() {
@@ -85,6 +95,7 @@ std::string_view TextDocument::text(LineIndex index) const {
 }
 
 TextLine& TextDocument::editableLine(LineIndex index) {
+    comments_.touch(index);
     if (lines_.occupied(index.value) == nullptr) lines_.put(makeLine({}), index.value);
     return *lines_.occupied(index.value);
 }

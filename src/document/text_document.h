@@ -10,11 +10,14 @@
 #include "base/editor_options.h"
 #include "base/notices.h"
 #include "base/units.h"
+#include "document/bookmarks.h"
+#include "document/comment_state.h"
 #include "document/dyn_array.h"
 #include "document/line_arena.h"
 #include "document/marked_area.h"
 #include "document/undo_history.h"
 #include "language/extension_profile.h"
+#include "language/token_rules.h"
 
 namespace vexa {
 
@@ -24,6 +27,12 @@ inline constexpr std::int32_t kLastLoadedLine = 90000;  // index of the last lin
 inline constexpr std::int32_t kLoadGrowth = 500;        // slots by which the lines grow during a load
 inline constexpr std::int32_t kNewDocumentLine = 200;   // where a new document's only line stands
 inline constexpr std::int32_t kLastColumn = 300;        // the cursor goes no further right
+
+// What the automatic backup remembers of a document.
+struct BackupState {
+    std::int64_t time = 0;   // seconds since 1970 from which the interval is counted; 0 until first asked
+    bool isWriting = false;  // a backup of the document is being written
+};
 
 class TextDocument {
   public:
@@ -46,7 +55,8 @@ class TextDocument {
     void setName(const std::optional<std::string>& path);
     // There is no file of the document's name that is its own, so that the first save asks for one.
     void forgetFile() { named_ = false; }
-    void setProfile(const ExtensionProfile& profile) { profile_ = &profile; }
+    // Takes a profile, which must stay where it is, and its rules of colouring as they now are.
+    void setProfile(const ExtensionProfile& profile);
     const ExtensionProfile* profile() const { return profile_; }
 
     const std::string& fullPath() const { return path_; }
@@ -67,11 +77,21 @@ class TextDocument {
     // The line at an index; none beyond the capacity of the line store. Vacant slots read as an empty line.
     const TextLine* line(LineIndex index) const;
     std::string_view text(LineIndex index) const;
-    // The line at an index, to be changed or to keep a cursor column; a vacant slot gets a line of its own first.
+    // The line at an index, to be changed (before another one is asked for) or to keep a cursor column; a vacant slot
+    // gets a line of its own first.
     TextLine& editableLine(LineIndex index);
     LinePtr makeLine(std::string_view text) const;
     DynArray& lines() { return lines_; }
     const DynArray& lines() const { return lines_; }
+
+    // ---- colouring ----
+
+    // None without a profile.
+    const TokenRules* tokenRules() const { return tokenRules_.get(); }
+    bool startsInComment(LineIndex line) const { return comments_.startsInside(line); }
+    // Finds out about the comments of lines that are not shown yet, at most that many; false when all are known. To be
+    // called while the user does nothing.
+    bool lookAheadForComments(std::int32_t lines) { return comments_.advance(lines); }
 
     // ---- cursor ----
 
@@ -93,6 +113,13 @@ class TextDocument {
     bool inUndo() const { return inUndo_; }
     void setInUndo(bool inUndo) { inUndo_ = inUndo; }
 
+    // ---- bookmarks and backup ----
+
+    // Sets a bookmark to the current line.
+    BookmarkResult dropBookmark(std::int32_t n) { return bookmarks_.drop(n, currentLine_); }
+    const Bookmarks& bookmarks() const { return bookmarks_; }
+    BackupState& backup() { return backup_; }
+
     const EditorOptions& options() const { return options_; }
     Notices& notices() const { return notices_; }
 
@@ -107,8 +134,12 @@ class TextDocument {
     std::string baseName_;
     LineArena arena_;
     DynArray lines_;
+    std::unique_ptr<const TokenRules> tokenRules_;
+    mutable CommentState comments_{lines_};  // fills itself in when it is asked
     UndoHistory undo_;
     MarkedArea marked_;
+    Bookmarks bookmarks_;
+    BackupState backup_;
     LineIndex currentLine_;
     std::int32_t modifiedCount_ = 0;
     bool loaded_ = false;

@@ -32,7 +32,14 @@ std::size_t Offset(CharColumn column) {
 }  // namespace
 
 TextLine::TextLine(const TextDocument* document, std::string_view text) : document_(document) {
-    if (!text.empty()) append(text);
+    if (text.empty()) return;
+    // No room to type into until someone does: a pasted block may have many lines.
+    char* own = NewText(text.size());
+    std::memcpy(own, text.data(), text.size());
+    own[text.size()] = '\0';
+    text_ = own;
+    length_ = static_cast<std::uint32_t>(text.size());
+    ownsText_ = true;
 }
 
 TextLine::~TextLine() {
@@ -48,6 +55,7 @@ std::size_t TextLine::capacity() const {
 
 // The text, to be written to, with room for that many characters and a NUL.
 char* TextLine::makeRoom(std::size_t length) {
+    commentEffectKnown = false;
     if (ownsText_ && length <= capacity()) return const_cast<char*>(text_);
     const std::size_t first = std::max<std::size_t>(length, length_) + kReserve;
     char* text = NewText(ownsText_ ? std::max(first, capacity() * 2) : first);
@@ -85,6 +93,16 @@ void TextLine::append(std::string_view added) {
     std::memcpy(text + length_, added.data(), added.size());
     length_ += static_cast<std::uint32_t>(added.size());
     text[length_] = '\0';
+}
+
+void TextLine::replaceRun(CharColumn column, std::int32_t count, std::string_view inserted) {
+    const std::size_t at = Offset(column);
+    const std::size_t behind = at + static_cast<std::size_t>(count);
+    const std::size_t length = length_ - static_cast<std::size_t>(count) + inserted.size();
+    char* text = makeRoom(length);
+    std::memmove(text + at + inserted.size(), text + behind, length_ + 1 - behind);
+    std::memcpy(text + at, inserted.data(), inserted.size());
+    length_ = static_cast<std::uint32_t>(length);
 }
 
 void TextLine::truncate(CharColumn column) {

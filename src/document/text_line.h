@@ -41,6 +41,8 @@ class TextLine {
     char erase(CharColumn column);
     char replace(CharColumn column, char c);
     void append(std::string_view text);
+    // Puts a text, which must not be this line's own, in the place of characters that the line has.
+    void replaceRun(CharColumn column, std::int32_t count, std::string_view text);
     void truncate(CharColumn column);
 
     CharColumn column() const { return CharColumn(column_); }
@@ -52,9 +54,11 @@ class TextLine {
     std::string_view commentStart() const;
     std::string_view commentEnd() const;
 
-    // The state that syntax colouring keeps with a line; all clear at first.
+    // The state that syntax colouring keeps with a line; all clear at first. The line opens a block comment when,
+    // starting outside, it ends inside one; it closes one when, starting inside, it ends outside.
     bool opensComment = false;
     bool closesComment = false;
+    bool commentEffectKnown = false;  // the two above are those of the present text; any change of it clears this
     bool needsRepaint = false;
 
   private:

@@ -37,6 +37,8 @@ class BufferedOutput {
     bool good_ = true;
 };
 
+}  // namespace
+
 bool WriteLines(const TextDocument& document, File& file, bool bytes) {
     BufferedOutput output(file);
     const std::string_view lineEnd = bytes ? "\n" : "\r\n";
@@ -48,6 +50,8 @@ bool WriteLines(const TextDocument& document, File& file, bool bytes) {
     if (bytes) output.put({&kCtrlZ, 1});
     return output.flush();
 }
+
+namespace {
 
 // Makes a file end where it has been written to, and brings it to the disk.
 bool Finish(File& file) {

@@ -5,10 +5,14 @@
 
 namespace vexa {
 
+class File;
 class TextDocument;
 
 // Writes the lines up to the last that is not empty, each with its line end: CR LF as text; LF as bytes, and then a
-// Ctrl-Z behind the last line.
+// Ctrl-Z behind the last line. False when the file has not taken all of it.
+bool WriteLines(const TextDocument& document, File& file, bool bytes);
+
+// Writes the lines to the file of that path.
 //
 // What the file held is first copied to its safety copy, which is on the disk before the file is touched; the file is
 // then overwritten in place, so that its attributes, links and permissions stay, and its end is set last. When any step

@@ -22,6 +22,20 @@ CharColumn Column(std::size_t i) {
 
 }  // namespace
 
+std::optional<CharSpan> WordAt(std::string_view text, CharColumn column) {
+    const auto isWord = [](char c) { return KindOf(c) == Kind::Word; };
+    const auto at = static_cast<std::size_t>(column.value);
+    if (at > text.size()) return std::nullopt;
+    std::size_t begin = at;
+    while (begin > 0 && isWord(text[begin - 1]))
+        --begin;
+    std::size_t end = at;
+    while (end < text.size() && isWord(text[end]))
+        ++end;
+    if (begin == end) return std::nullopt;
+    return CharSpan{Column(begin), Column(end)};
+}
+
 std::optional<CharColumn> NextWordStart(std::string_view text, CharColumn column) {
     auto i = static_cast<std::size_t>(column.value);
     if (i >= text.size()) return std::nullopt;

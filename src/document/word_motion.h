@@ -9,6 +9,17 @@
 
 namespace vexa {
 
+// The characters of a line from begin up to end.
+struct CharSpan {
+    CharColumn begin;
+    CharColumn end;
+
+    bool isEmpty() const { return begin >= end; }
+};
+
+// The word of letters, digits, underscores and bytes above 127 that a column stands in or just behind; none when there
+// is none.
+std::optional<CharSpan> WordAt(std::string_view text, CharColumn column);
 // The start of the next word behind a column; none when the line has no more.
 std::optional<CharColumn> NextWordStart(std::string_view text, CharColumn column);
 // The start of the word that begins before a column; none when there is none.

@@ -2,126 +2,23 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <map>
 #include <sstream>
 
-#include "document/columns.h"
 #include "document/edit_view.h"
+#include "document/memory_clipboard.h"
+#include "document/shown_document.h"
 #include "support/recording_notices.h"
 
 namespace vexa::test {
 
 namespace {
 
-// ---- texts -------------------------------------------------------------------------------------------------------
-
-std::string Unescape(const std::string& text) {
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\\') {
-            result += text[i];
-        } else if (text[++i] == 't') {
-            result += '\t';
-        } else if (text[i] == 'x') {
-            result += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
-            i += 2;
-        } else {
-            result += text[i];
-        }
-    }
-    return result;
-}
-
-std::string Escape(char c) {
-    if (c == '\t') return "\\t";
-    if (c == '\\') return "\\\\";
-    if (c >= ' ' && c < 127) return std::string(1, c);
-    char code[8];
-    std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned char>(c));
-    return code;
-}
-
-// Puts the lines into a new document, and its caret where "|" stands.
-void Fill(TextDocument& document, std::vector<std::string> lines) {
-    document.newEmpty();
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        std::string text = Unescape(lines[i]);
-        const std::size_t caret = text.find('|');
-        if (caret != std::string::npos) text.erase(caret, 1);
-        const std::size_t end = std::min(text.find('~'), text.size());
-        const auto index = static_cast<std::int32_t>(i);
-        document.lines().put(document.makeLine(text.substr(0, end)), index);
-        if (caret == std::string::npos) continue;
-        document.setCurrentLine(LineIndex(index));
-        document.current().setColumn(CharColumn(static_cast<std::int32_t>(caret)));
-    }
-}
-
-struct Inserted {
-    DisplayColumn column;
-    const char* sign;
-};
-
-// The text of a line with signs at display columns, the space up to a sign beyond its end filled with "~".
-std::string WithSigns(const TextDocument& document, LineIndex line, const std::vector<Inserted>& signs) {
-    const std::string_view text = document.text(line);
-    std::string shown;
-    DisplayColumn column;
-    const auto signsAt = [&](DisplayColumn here) {
-        for (const Inserted& sign : signs) {
-            if (sign.column == here) shown += sign.sign;
-        }
-    };
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        signsAt(column);
-        shown += Escape(text[i]);
-        column = document.toDisplay(line, CharColumn(static_cast<std::int32_t>(i + 1)));
-    }
-    DisplayColumn last = column;
-    for (const Inserted& sign : signs)
-        last = std::max(last, sign.column);
-    for (; column < last; ++column) {
-        signsAt(column);
-        shown += '~';
-    }
-    signsAt(column);
+std::string Shown(const MemoryClipboard& clipboard) {
+    std::string shown = std::to_string(static_cast<int>(clipboard.kind)) + " ";
+    for (const char c : clipboard.text.value_or("none"))
+        shown += c == '\r' ? "\\r" : c == '\n' ? "\\n" : Escape(c);
     return shown;
-}
-
-// Marks close before the caret and open behind it.
-std::vector<Inserted> SignsOf(const TextDocument& document, LineIndex line) {
-    const MarkedArea& area = document.marked();
-    const bool inside = area.active && area.start.line <= line && line <= area.end.line;
-    const DisplayColumn end =
-        document.toDisplay(line, CharColumn(static_cast<std::int32_t>(document.text(line).size())));
-    std::vector<Inserted> signs;
-    if (inside && area.mode == MarkMode::Lines) {
-        signs = {{DisplayColumn(0), "{"}, {end, "}"}};
-    } else if (inside && area.mode == MarkMode::Column) {
-        signs = {{area.start.column, "{"}, {area.end.column, "}"}};
-    } else if (inside) {
-        if (line == area.start.line) signs.push_back({area.start.column, "{"});
-        if (line == area.end.line) signs.push_back({area.end.column, "}"});
-    }
-    if (line == document.currentLine()) signs.push_back({document.displayColumn(), "|"});
-    return signs;
-}
-
-std::vector<std::string> Show(const TextDocument& document) {
-    std::int32_t last = std::max(document.lineCount(LastUsed::Text), document.currentLine().value);
-    if (document.marked().active) last = std::max(last, document.marked().end.line.value);
-    std::vector<std::string> lines;
-    for (LineIndex line; line.value <= last; ++line)
-        lines.push_back(WithSigns(document, line, SignsOf(document, line)));
-    return lines;
-}
-
-std::string Joined(const std::vector<std::string>& lines) {
-    std::string all;
-    for (const std::string& line : lines)
-        all += "> " + line + "\n";
-    return all;
 }
 
 // ---- options and keys ----------------------------------------------------------------------------------------------
@@ -148,19 +45,31 @@ EditorOptions ParseOptions(const std::string& text) {
 
 const std::map<std::string, std::uint16_t>& KeyNames() {
     static const std::map<std::string, std::uint16_t> names = {
-        {"Backspace", kKeyBackspace}, {"Tab", kKeyTab},       {"Enter", kKeyEnter}, {"Esc", kKeyEscape},
-        {"PgUp", kKeyPageUp},         {"PgDn", kKeyPageDown}, {"End", kKeyEnd},     {"Home", kKeyHome},
-        {"Left", kKeyLeft},           {"Up", kKeyUp},         {"Right", kKeyRight}, {"Down", kKeyDown},
-        {"Delete", kKeyDelete}};
+        {"Backspace", kKeyBackspace}, {"Tab", kKeyTab},       {"Enter", kKeyEnter},    {"Esc", kKeyEscape},
+        {"PgUp", kKeyPageUp},         {"PgDn", kKeyPageDown}, {"End", kKeyEnd},        {"Home", kKeyHome},
+        {"Left", kKeyLeft},           {"Up", kKeyUp},         {"Right", kKeyRight},    {"Down", kKeyDown},
+        {"Delete", kKeyDelete},       {"Ins", kKeyInsert},    {"KeypadPlus", kKeyAdd}, {"KeypadMinus", kKeySubtract}};
     return names;
 }
 
-const std::map<std::string, void (*)(EditView&)>& Commands() {
-    static const std::map<std::string, void (*)(EditView&)> commands = {
-        {"Undo", [](EditView& view) { view.undo(); }},
-        {"Redo", [](EditView& view) { view.redo(); }},
-        {"Clear", [](EditView& view) { view.clear(); }},
-        {"SelectAll", [](EditView& view) { view.selectAll(); }}};
+// A command may want a number: "Jump:3".
+using Command = void (*)(EditView& view, int number);
+
+const std::map<std::string, Command>& Commands() {
+    static const std::map<std::string, Command> commands = {
+        {"Undo", [](EditView& view, int) { view.undo(); }},
+        {"Redo", [](EditView& view, int) { view.redo(); }},
+        {"Clear", [](EditView& view, int) { view.clear(); }},
+        {"Cut", [](EditView& view, int) { view.cut(); }},
+        {"Copy", [](EditView& view, int) { view.copy(); }},
+        {"ToggleCase", [](EditView& view, int) { view.changeCase(CaseChange::Toggle); }},
+        {"LowerCase", [](EditView& view, int) { view.changeCase(CaseChange::Lower); }},
+        {"UpperCase", [](EditView& view, int) { view.changeCase(CaseChange::Upper); }},
+        {"Paste", [](EditView& view, int) { view.paste(); }},
+        {"SelectAll", [](EditView& view, int) { view.selectAll(); }},
+        {"Bracket", [](EditView& view, int) { view.toMatchingBracket(); }},
+        {"Goto", [](EditView& view, int number) { view.goToLine(number); }},
+        {"Jump", [](EditView& view, int number) { view.jumpToBookmark(number); }}};
     return commands;
 }
 
@@ -176,6 +85,11 @@ void Press(EditView& view, std::string word) {
         count = std::stoi(word.substr(star + 1));
         word.erase(star);
     }
+    int number = 0;
+    if (const std::size_t colon = word.find(':'); colon != std::string::npos) {
+        number = std::stoi(word.substr(colon + 1));
+        word.erase(colon);
+    }
     KeyEvent event;
     for (bool more = true; more;) {
         more = TakePrefix(word, "Shift+")  ? (event.shift = true)
@@ -189,7 +103,7 @@ void Press(EditView& view, std::string word) {
     ASSERT_TRUE(command != Commands().end() || name != KeyNames().end() || word.size() == 1) << "unknown key " << word;
     for (; count > 0; --count) {
         if (command != Commands().end()) {
-            command->second(view);
+            command->second(view, number);
         } else {
             EXPECT_TRUE(view.key(event)) << word << " means nothing";
         }
@@ -204,15 +118,26 @@ void Type(EditView& view, const std::string& text) {
     }
 }
 
-void PressAll(EditView& view, const std::string& keys) {
+// "Clipboard:text" is a text of another program, "Clipboard3:text" one of the editor, of that kind.
+bool FillClipboard(MemoryClipboard& clipboard, const std::string& word) {
+    const std::string name = "Clipboard";
+    const std::size_t colon = word.find(':');
+    if (word.rfind(name, 0) != 0 || colon == std::string::npos) return false;
+    const std::string kind = word.substr(name.size(), colon - name.size());
+    clipboard.text = Unescape(word.substr(colon + 1));
+    clipboard.kind = static_cast<MarkMode>(kind.empty() ? 1 : std::stoi(kind));
+    return true;
+}
+
+void PressAll(EditView& view, MemoryClipboard& clipboard, const std::string& keys) {
     std::size_t i = 0;
     while ((i = keys.find_first_not_of(' ', i)) != std::string::npos) {
         const bool quoted = keys[i] == '"';
         const std::size_t end = std::min(keys.find(quoted ? '"' : ' ', i + 1), keys.size());
         if (quoted) {
             Type(view, Unescape(keys.substr(i + 1, end - i - 1)));
-        } else {
-            Press(view, keys.substr(i, end - i));
+        } else if (const std::string word = keys.substr(i, end - i); !FillClipboard(clipboard, word)) {
+            Press(view, word);
         }
         i = end + 1;
     }
@@ -245,10 +170,12 @@ std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::st
             now.steps.back().expected.push_back(rest);
         } else if (line[0] == '!') {
             now.steps.back().status = rest;
+        } else if (line[0] == '=') {
+            now.steps.back().clipboard = rest;
         } else if (now.before.empty()) {
             now.options += line + " ";
         } else {
-            now.steps.push_back({line, {}, {}});
+            now.steps.push_back({line, {}, {}, {}});
         }
     }
     return cases;
@@ -260,24 +187,29 @@ void RunReplayCase(const ReplayCase& replayCase) {
     TextDocument document(options, notices);
     EditView view(document, options, notices);
     view.resize(10, 80);
-    Fill(document, replayCase.before);
-    const std::vector<std::string> before = Show(document);
+    MemoryClipboard clipboard;
+    view.setClipboard(clipboard);
+    FillDocument(document, replayCase.before);
+    const std::vector<std::string> before = ShowDocument(document);
     for (const ReplayStep& step : replayCase.steps) {
-        PressAll(view, step.keys);
+        PressAll(view, clipboard, step.keys);
         if (!step.expected.empty()) {
-            EXPECT_EQ(Joined(Show(document)), Joined(step.expected)) << "after: " << step.keys;
+            EXPECT_EQ(Joined(ShowDocument(document)), Joined(step.expected)) << "after: " << step.keys;
         }
         if (!step.status.empty()) {
             EXPECT_EQ(notices.lastStatus(), step.status) << "after: " << step.keys;
         }
+        if (!step.clipboard.empty()) {
+            EXPECT_EQ(Shown(clipboard), step.clipboard) << "after: " << step.keys;
+        }
     }
-    const std::vector<std::string> after = Show(document);
+    const std::vector<std::string> after = ShowDocument(document);
     int commands = UndoAll(view);
-    EXPECT_EQ(Joined(Show(document)), Joined(before)) << "when everything is undone";
+    EXPECT_EQ(Joined(ShowDocument(document)), Joined(before)) << "when everything is undone";
     EXPECT_FALSE(document.isModified()) << "when everything is undone";
     for (; commands > 0; --commands)
         view.redo();
-    EXPECT_EQ(Joined(Show(document)), Joined(after)) << "when everything is done again";
+    EXPECT_EQ(Joined(ShowDocument(document)), Joined(after)) << "when everything is done again";
 }
 
 }  // namespace vexa::test

@@ -1,16 +1,19 @@
 // Key-replay cases: a text with the caret in it, keys, and the text with the caret and the marking as they then are.
 //
-//   # Enter splits a line                      the case's name
-//   SmartIndent=0 TabSize=8                    options of the editor, where they differ from the defaults
-//   < ab|cd                                    the text before: "|" is the caret, "~" a column beyond the line's end
-//   Enter                                      keys and commands, with any modifiers and a count: Shift+Right*3 "typed
-//   text" > ab                                       the text after; "{" and "}" enclose what is marked: once for a
-//   stream, on > |cd                                      each line for whole lines ("{" first, "}" last) and for a
-//   column ! Nothing to undo!                         the last text on the status line, where a case is about that
+//   # Enter splits a line           the case's name
+//   SmartIndent=0 TabSize=8         options of the editor, where they differ from the defaults
+//   < ab|cd                         the text before: "|" is the caret, "~" a column beyond the line's end
+//   Enter                           keys and commands, with any modifiers and a count: Shift+Right*3 "typed text";
+//                                   Clipboard:text puts a text of another program on the clipboard, Clipboard2:text one
+//                                   of the editor, of that kind of block
+//   > ab                            the text after; "{" and "}" enclose what is marked: once for a stream, on each line
+//   > |cd                           for whole lines ("{" first, "}" last) and for a column
+//   ! Nothing to undo!              the last text on the status line, where a case is about that
+//   = 1 ab\r\n                      the kind and the text on the clipboard, where a case is about that
 //
-// In texts \t is a tab, \\ a backslash, \xNN any byte. Keys and ">" blocks may go on by turns. After the last block
-// everything is undone, which must bring back the text before, unmodified, and done again, which must bring back the
-// last.
+// In texts \t is a tab, \r and \n the characters of a line end, \\ a backslash, \xNN any byte. Keys and ">" blocks may
+// go on by turns. After the last block everything is undone, which must bring back the text before, unmodified, and
+// done again, which must bring back the last.
 #pragma once
 
 #include <string>
@@ -22,6 +25,7 @@ struct ReplayStep {
     std::string keys;
     std::vector<std::string> expected;
     std::string status;
+    std::string clipboard;
 };
 
 struct ReplayCase {

@@ -1,0 +1,116 @@
+// Limits, refusals and bad texts of the clipboard commands; what they do to texts is in the replay cases.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "document/edit_view.h"
+#include "document/memory_clipboard.h"
+#include "support/recording_notices.h"
+
+namespace vexa {
+namespace {
+
+class Clipboard : public testing::Test {
+  protected:
+    Clipboard() {
+        document_.newEmpty();
+        for (int i = 0; i < 1100; ++i)
+            document_.lines().put(document_.makeLine("line"), i);
+        view_.setClipboard(clipboard_);
+    }
+    void markTo(int line, MarkMode mode = MarkMode::Lines) {
+        document_.marked() = {mode, true, {LineIndex(0), DisplayColumn(0)}, {LineIndex(line), DisplayColumn(2)}};
+    }
+    std::string text(int line) const { return std::string(document_.text(LineIndex(line))); }
+
+    test::RecordingNotices notices_;
+    test::MemoryClipboard clipboard_;
+    EditorOptions options_;
+    TextDocument document_{options_, notices_};
+    EditView view_{document_, options_, notices_};
+};
+
+TEST_F(Clipboard, TakesBlocksWhoseEndIsAThousandLinesBelowTheirStart) {
+    markTo(1000);
+    view_.copy();
+    EXPECT_TRUE(notices_.boxes.empty());
+    EXPECT_EQ(clipboard_.text->size(), 1001 * std::string("line\r\n").size());
+    EXPECT_FALSE(document_.marked().active);
+    EXPECT_EQ(notices_.busyDepth, 0);
+    EXPECT_EQ(notices_.busyCount, 1);
+}
+
+TEST_F(Clipboard, RefusesLargerBlocksAndChangesNothing) {
+    markTo(1001);
+    view_.copy();
+    ASSERT_EQ(notices_.boxes.size(), 1u);
+    EXPECT_EQ(notices_.boxes[0].text, "This version can not copy more that 1000 lines\n to clipboard.");
+    EXPECT_EQ(notices_.boxes[0].caption, "Vexa Error");
+    view_.cut();
+    ASSERT_EQ(notices_.boxes.size(), 2u);
+    EXPECT_EQ(notices_.boxes[1].text, "This version can not cut more that 1000 lines\n to clipboard.");
+    EXPECT_FALSE(clipboard_.hasText());
+    EXPECT_TRUE(document_.marked().active);
+    EXPECT_FALSE(document_.isModified());
+}
+
+TEST_F(Clipboard, HeldByAnotherProgramLosesNothing) {
+    clipboard_.isHeld = true;
+    clipboard_.text = "x";
+    markTo(3);
+    view_.cut();
+    EXPECT_EQ(notices_.lastStatus(), "The clipboard is in use by another program!");
+    view_.paste();
+    EXPECT_TRUE(document_.marked().active);
+    EXPECT_FALSE(document_.isModified());
+}
+
+TEST_F(Clipboard, ACutOrPasteOfManyLinesIsOneUndoStep) {
+    markTo(999);
+    view_.cut();
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 99);
+    view_.paste();
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 1099);
+    view_.undo();
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 99);
+    view_.undo();
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 1099);
+    EXPECT_FALSE(document_.isModified());
+}
+
+// The cursor cannot go behind column 300, the text can.
+TEST_F(Clipboard, ALongPieceIsNotCutOrShuffled) {
+    std::string longText;
+    for (int i = 0; i < 200000; ++i)
+        longText += static_cast<char>('a' + i % 26);
+    clipboard_.kind = MarkMode::Stream;
+    clipboard_.text = longText + "\r\n" + longText + "\r\n";
+    view_.goTo(LineIndex(0), CharColumn(2));
+    view_.paste();
+    EXPECT_EQ(text(0), "li" + longText);
+    EXPECT_EQ(text(1), longText + "ne");
+    EXPECT_EQ(text(2), "line");
+    view_.undo();
+    EXPECT_EQ(text(0), "line");
+    EXPECT_EQ(text(1), "line");
+    EXPECT_FALSE(document_.isModified());
+    view_.redo();
+    EXPECT_EQ(text(1), longText + "ne");
+}
+
+TEST_F(Clipboard, ABlockGoesFromOneDocumentToAnotherAsWhatItIs) {
+    markTo(2, MarkMode::Column);
+    view_.copy();
+    TextDocument other(options_, notices_);
+    other.newEmpty();
+    EditView otherView(other, options_, notices_);
+    otherView.setClipboard(clipboard_);
+    otherView.goTo(LineIndex(0), CharColumn(1));
+    otherView.paste();
+    for (int line = 0; line < 3; ++line)
+        EXPECT_EQ(other.text(LineIndex(line)), " li");
+    EXPECT_EQ(other.text(LineIndex(3)), "");
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,217 @@
+// Comments that span lines: whatever was edited and undone, the colours are those of the text as it stands.
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "document/edit_view.h"
+#include "language/block_comment.h"
+#include "language/line_tokenizer.h"
+#include "support/recording_notices.h"
+
+namespace vexa {
+namespace {
+
+// What each line starts as, line by line from the first.
+std::vector<bool> FreshStates(const TextDocument& document, const ExtensionProfile& profile, std::int32_t lines) {
+    const TokenRules rules(profile);
+    std::vector<bool> states;
+    bool inside = false;
+    for (LineIndex line; line.value < lines; ++line) {
+        states.push_back(inside);
+        LineTokenizer tokens(rules, document.text(line), inside);
+        while (tokens.NextToken().kind != TokenKind::EndOfLine) {
+        }
+        inside = tokens.endsInComment();
+    }
+    return states;
+}
+
+class CommentLines : public testing::Test {
+  protected:
+    void fill(int lines, const std::string& text = "int x;") {
+        document_.newEmpty();
+        for (int i = 0; i < lines; ++i)
+            document_.lines().put(document_.makeLine(text), i);
+        document_.setProfile(profile_);
+    }
+    void setText(int line, std::string_view text) { document_.lines().put(document_.makeLine(text), line); }
+    void type(LineIndex line, std::string_view text) {
+        view_.goTo(line, CharColumn(0));
+        for (const char c : text) {
+            KeyEvent event;
+            event.character = static_cast<unsigned char>(c);
+            view_.key(event);
+        }
+    }
+    bool inside(int line) { return document_.startsInComment(LineIndex(line)); }
+    void expectFresh(const std::string& when) {
+        const std::int32_t lines = document_.lineCount(LastUsed::Plain) + 3;
+        const std::vector<bool> fresh = FreshStates(document_, profile_, lines);
+        for (std::int32_t i = 0; i < lines; ++i)
+            ASSERT_EQ(inside(i), fresh[static_cast<std::size_t>(i)]) << "line " << i << " " << when;
+    }
+
+    test::RecordingNotices notices_;
+    EditorOptions options_;
+    ExtensionProfile profile_;
+    TextDocument document_{options_, notices_};
+    EditView view_{document_, options_, notices_};
+};
+
+TEST_F(CommentLines, AnOpenedCommentReachesToItsEndAndGoesWithItsMarker) {
+    fill(5000);
+    setText(4000, "x */ y");
+    EXPECT_FALSE(inside(3000));
+    type(LineIndex(0), "/*");
+    EXPECT_FALSE(inside(0));
+    EXPECT_TRUE(inside(1));
+    EXPECT_TRUE(inside(4000));
+    EXPECT_FALSE(inside(4001));
+    view_.undo();
+    expectFresh("after half the marker is undone");
+    EXPECT_FALSE(inside(4000));
+    view_.redo();
+    EXPECT_TRUE(inside(4000));
+}
+
+TEST_F(CommentLines, LinesThatComeAndGoCarryTheCommentAlong) {
+    fill(300);
+    setText(100, "/* a");
+    setText(200, "b */");
+    EXPECT_TRUE(inside(150));
+    view_.goTo(LineIndex(100), CharColumn(0));
+    view_.key({.key = 'D', .alt = true});
+    expectFresh("without the opening line");
+    EXPECT_FALSE(inside(150));
+    view_.undo();
+    expectFresh("with the opening line");
+    EXPECT_TRUE(inside(150));
+    view_.goTo(LineIndex(100), CharColumn(1));
+    view_.key({.key = kKeyEnter});
+    expectFresh("with the marker split");
+    EXPECT_FALSE(inside(150));
+    view_.key({.key = kKeyBackspace});
+    view_.key({.key = kKeyDelete});
+}
+
+TEST_F(CommentLines, LinesBeyondTheLastTakeItsState) {
+    fill(10);
+    setText(9, "/*");
+    EXPECT_FALSE(inside(9));
+    EXPECT_TRUE(inside(10));
+    EXPECT_TRUE(inside(1000000));
+}
+
+TEST_F(CommentLines, IdleStepsComeToAnEndAndChangeNothing) {
+    fill(1000);
+    setText(10, "/*");
+    int steps = 1;
+    while (document_.lookAheadForComments(128))
+        ++steps;
+    EXPECT_EQ(steps, 8);
+    EXPECT_FALSE(document_.lookAheadForComments(128));
+    expectFresh("after the idle steps");
+    type(LineIndex(20), "x");
+    EXPECT_FALSE(document_.lookAheadForComments(128)) << "an ordinary key takes nothing back";
+    type(LineIndex(20), "*/");
+    EXPECT_TRUE(document_.lookAheadForComments(128));
+    expectFresh("after the comment was closed");
+}
+
+TEST_F(CommentLines, AnotherProfileMakesOtherComments) {
+    fill(200);
+    setText(5, "{");
+    EXPECT_FALSE(inside(100));
+    view_.goTo(LineIndex(5), CharColumn(0));
+    view_.key({.key = 'D', .alt = true});
+    profile_.setCommentStart("{");
+    profile_.setCommentEnd("}");
+    document_.setProfile(profile_);
+    EXPECT_FALSE(inside(100));
+    view_.undo();
+    EXPECT_TRUE(inside(100)) << "the line came back from the time of the old profile";
+    type(LineIndex(6), "}");
+    EXPECT_FALSE(inside(100));
+}
+
+TEST_F(CommentLines, WithoutAProfileOrAnEndMarkerNothingSpansLines) {
+    fill(3, "/* x");
+    EXPECT_TRUE(inside(2));
+    profile_.setCommentEnd("");
+    document_.setProfile(profile_);
+    EXPECT_FALSE(inside(2));
+    TextDocument plain(options_, notices_);
+    plain.newEmpty();
+    EXPECT_FALSE(plain.startsInComment(LineIndex(3)));
+    EXPECT_FALSE(plain.lookAheadForComments(100));
+}
+
+// ---- random edits --------------------------------------------------------------------------------------------------
+
+class RandomEdits {
+  public:
+    RandomEdits(EditView& view, unsigned seed) : view_(view), random_(seed) {}
+
+    void act() {
+        const auto choice = random_() % 16;
+        if (choice < 2) {
+            view_.undo();
+        } else if (choice < 4) {
+            view_.redo();
+        } else if (choice < 6) {
+            const auto last = static_cast<unsigned>(view_.document().lineCount(LastUsed::Plain)) + 2;
+            view_.goTo(LineIndex(static_cast<std::int32_t>(random_() % last)),
+                       CharColumn(static_cast<std::int32_t>(random_() % 6)));
+        } else if (choice < 11) {
+            KeyEvent event;
+            event.character = static_cast<unsigned char>("/*/*\"a "[random_() % 7]);
+            event.repeat = static_cast<std::uint16_t>(1 + random_() % 2);
+            view_.key(event);
+        } else {
+            pressKey();
+        }
+    }
+
+  private:
+    void pressKey() {
+        static const std::uint16_t kKeys[] = {kKeyEnter, kKeyBackspace, kKeyDelete, 'D', 'K', kKeyDown, kKeyUp, 'L'};
+        KeyEvent event;
+        event.key = kKeys[random_() % std::size(kKeys)];
+        event.alt = event.key >= 'A' && event.key <= 'Z';
+        event.shift = !event.alt && random_() % 3 == 0;
+        event.repeat = static_cast<std::uint16_t>(1 + random_() % 3);
+        view_.key(event);
+    }
+
+    EditView& view_;
+    std::mt19937 random_;
+};
+
+class CommentProperty : public CommentLines, public testing::WithParamInterface<unsigned> {};
+
+TEST_P(CommentProperty, ColoursAreThoseOfAFreshLoad) {
+    std::mt19937 random(GetParam());
+    fill(300, "a");
+    for (int i = 0; i < 20; ++i)
+        setText(static_cast<int>(random() % 300), i % 2 ? "/* b" : "c */");
+    RandomEdits user(view_, GetParam());
+    for (int step = 0; step < 300; ++step) {
+        user.act();
+        // Sometimes a window asks, sometimes the idle steps, and sometimes nobody until much later.
+        const auto choice = random() % 4;
+        if (choice == 0) inside(static_cast<int>(random() % 320));
+        if (choice == 1) document_.lookAheadForComments(64);
+        if (step % 25 == 0) expectFresh("at step " + std::to_string(step));
+        if (HasFatalFailure()) return;
+    }
+    while (!document_.undo().isEmpty())
+        view_.undo();
+    expectFresh("when everything is undone");
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, CommentProperty, testing::Range(0u, 60u));
+
+}  // namespace
+}  // namespace vexa
