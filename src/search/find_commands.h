@@ -1,0 +1,40 @@
+// The commands of searching and what they tell the user.
+#pragma once
+
+#include "document/edit_view.h"
+#include "search/finder.h"
+#include "search/search_options.h"
+
+namespace vexa {
+
+// Each command is given the edit view of the active window; none when that is no document's.
+class FindCommands {
+  public:
+    FindCommands(SearchOptions& options, Notices& notices, SearchWatch& watch)
+        : options_(options), notices_(notices), finder_(options, notices, watch) {}
+
+    SearchOptions& options() { return options_; }
+
+    // Find Next (307) and Find Previous (308) also change the direction that is kept.
+    void findNext(EditView* view);
+    void findPrevious(EditView* view);
+
+    // What the dialogs do once the options are set. False when there was no document to work on.
+    bool find(EditView* view);
+    bool replace(EditView* view);
+
+    void toggleRegularExpression();
+    void toggleMatchCase();
+
+  private:
+    bool attach(EditView* view);
+    void tell(std::string_view text) { notices_.status(text, false, false); }
+    void tellError(std::string_view text) { notices_.status(text, true, true); }
+    void tellNotFound();
+
+    SearchOptions& options_;
+    Notices& notices_;
+    Finder finder_;
+};
+
+}  // namespace vexa

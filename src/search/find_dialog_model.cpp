@@ -1,0 +1,35 @@
+#include "search/find_dialog_model.h"
+
+namespace vexa {
+
+FindDialogModel::FindDialogModel(FindCommands& commands, HistoryList& findHistory)
+    : findText(commands.options().findText()),
+      wholeWord(commands.options().wholeWord()),
+      matchCase(commands.options().matchCase()),
+      regularExpression(commands.options().regularExpression()),
+      forward(commands.options().forward()),
+      commands_(commands),
+      findHistory_(findHistory),
+      snapshot_(commands.options().snapshot()) {}
+
+void FindDialogModel::storeFindFields(bool pending) {
+    options().setWholeWord(wholeWord);
+    options().setMatchCase(matchCase);
+    options().setRegularExpression(regularExpression);
+    options().setForward(forward);
+    options().setFindText(findText, pending);
+    findHistory_.Add(options().findText());
+}
+
+// A match of another text that is still under the cursor is stepped over, so its search counts as one.
+void FindDialogModel::findNext(EditView* active) {
+    if (!canSearch()) return;
+    storeFindFields(true);
+    noteSearch(commands_.find(active));
+}
+
+void FindDialogModel::cancel() {
+    if (!searched_) options().restore(snapshot_);
+}
+
+}  // namespace vexa

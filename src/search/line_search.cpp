@@ -1,0 +1,68 @@
+#include "search/line_search.h"
+
+#include <algorithm>
+
+#include "base/ascii.h"
+#include "search/regex_matcher.h"
+
+namespace vexa {
+
+LineSearch::LineSearch(const SearchOptions& options, std::string_view delimiters)
+    : text_(options.searchedText()),
+      delimiters_(delimiters),
+      regular_(options.regularExpression()),
+      wholeWord_(options.wholeWord()),
+      ignoreCase_(!options.matchCase()) {
+    if (regular_) {
+        program_ = RegExp::Compile(text_.c_str());
+    } else {
+        plain_ = PlainSearch(text_, ignoreCase_ ? LetterCase::Ignored : LetterCase::Sensitive);
+    }
+}
+
+std::optional<LineMatch> LineSearch::find(std::string_view text, CharColumn from) {
+    const auto start = static_cast<std::size_t>(from.value);
+    if (isNowhere() || start > text.size()) return std::nullopt;
+    const std::string_view subject = text.substr(start);
+    LineMatch match;
+    const bool found = regular_ ? execute(program_.get(), subject, match) : findPlain(subject, match);
+    if (!found) return std::nullopt;
+    return LineMatch{from + match.column.value, match.length};
+}
+
+bool LineSearch::findPlain(std::string_view subject, LineMatch& match) const {
+    const char* place = plain_.find(subject);
+    if (place == nullptr) return false;
+    const auto at = static_cast<std::size_t>(place - subject.data());
+    match = {CharColumn(static_cast<std::int32_t>(at)), static_cast<std::int32_t>(text_.size())};
+    return !wholeWord_ || isWholeWord(subject, at);
+}
+
+bool LineSearch::isWholeWord(std::string_view subject, std::size_t at) const {
+    const std::string_view behind = subject.substr(at + text_.size());
+    const bool ends =
+        behind.empty() || IsBlank(behind.front()) || delimiters_.find(behind.front()) != std::string::npos;
+    return ends && (at == 0 || IsBlank(subject[at - 1]));
+}
+
+// The case mode belongs to all users of the engine, so it is set anew for each line.
+bool LineSearch::execute(RegExp* program, std::string_view subject, LineMatch& match) const {
+    SetRegExpIgnoreCase(ignoreCase_);
+    if (!RegExp::Execute(program, subject)) return false;
+    const auto length = std::min<std::ptrdiff_t>(program->end(0) - program->start(0), RegexMatcher::kTextLimit);
+    match = {CharColumn(static_cast<std::int32_t>(program->start(0) - subject.data())),
+             static_cast<std::int32_t>(length)};
+    return true;
+}
+
+// A character is matched before the text, and then taken off the match.
+std::optional<LineMatch> LineSearch::findBehind(std::string_view text, CharColumn column) {
+    if (!regular_ || column.value >= static_cast<std::int32_t>(text.size())) return std::nullopt;
+    if (!behindProgram_) behindProgram_ = RegExp::Compile((".(" + text_ + ")").c_str());
+    LineMatch match;
+    const std::string_view subject = text.substr(static_cast<std::size_t>(column.value));
+    if (!behindProgram_ || !execute(behindProgram_.get(), subject, match)) return std::nullopt;
+    return LineMatch{column + match.column.value + 1, match.length - 1};
+}
+
+}  // namespace vexa

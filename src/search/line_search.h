@@ -1,0 +1,60 @@
+// The search for the find text in one line after the other.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/units.h"
+#include "search/plain_search.h"
+#include "search/regexp.h"
+#include "search/search_options.h"
+
+namespace vexa {
+
+struct LineMatch {
+    CharColumn column;
+    std::int32_t length = 0;  // characters
+
+    bool operator==(const LineMatch&) const = default;
+};
+
+// Prepared once for many lines. Each search looks at what a line has from a column on as if the line began there: "^"
+// matches at that column, and it is the start of a word. An empty find text, and a pattern that does not compile, are
+// found nowhere.
+//
+// A whole word is looked for at the first occurrence alone: where that is part of a longer word, the line has no match.
+// Behind the word the delimiters of the document's profile count as a word's end, before it only blanks and tabs do.
+class LineSearch {
+  public:
+    // The characters, beside blanks and tabs, that may follow a whole word.
+    LineSearch(const SearchOptions& options, std::string_view delimiters);
+
+    // The first match at or behind a column; none where the text ends before it. A NUL must follow the text.
+    std::optional<LineMatch> find(std::string_view text, CharColumn from);
+    // The first match of a regular expression that begins behind a column of the text, with what stands at that column
+    // seen as part of the line: neither "^" nor the start of a word are found where they are not.
+    std::optional<LineMatch> findBehind(std::string_view text, CharColumn column);
+
+  private:
+    bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
+    // Both are called for every line, and most lines have no match: a flag costs half of what an optional does.
+    bool findPlain(std::string_view subject, LineMatch& match) const;
+    bool execute(RegExp* program, std::string_view subject, LineMatch& match) const;
+    bool isWholeWord(std::string_view subject, std::size_t at) const;
+
+    const std::string text_;
+    const std::string delimiters_;
+    const bool regular_;
+    const bool wholeWord_;
+    const bool ignoreCase_;
+    PlainSearch plain_;
+    // The engine itself rather than a RegexMatcher, which looks its pattern up for each line. Matches have the same
+    // limit.
+    std::unique_ptr<RegExp> program_;
+    std::unique_ptr<RegExp> behindProgram_;  // made when it is first needed
+};
+
+}  // namespace vexa

@@ -1,0 +1,48 @@
+// The search for a literal in a line of text: the plain find, and the literals that a regular expression calls for.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vexa {
+
+enum class LetterCase { Sensitive, Ignored };
+
+// Which of the processor's instructions a search uses, each set with those before it. All give the same results.
+enum class Instructions : std::uint8_t { Plain, Sse2, Ssse3 };
+
+// What searches that are prepared from now on use: the most that the processor has.
+Instructions BestInstructions();
+// For tests: or the most that is allowed. Returns what was allowed before.
+Instructions LimitInstructions(Instructions most);
+
+// A literal, prepared to be looked for in many lines. Ignoring letter case folds A-Z to a-z on both sides.
+class PlainSearch {
+  public:
+    // The empty literal.
+    PlainSearch() = default;
+    // Throws std::bad_alloc.
+    PlainSearch(std::string_view literal, LetterCase letterCase);
+
+    bool empty() const { return literal_.empty(); }
+    // The first occurrence in the text, or null. An empty literal occurs at the start of every text.
+    const char* find(std::string_view text) const;
+
+  private:
+    class Sse2;
+
+    bool equalsAt(const char* place) const;
+    const char* findPlain(const char* place, std::size_t places) const;
+    const char* findSse2(const char* text, std::size_t places) const;
+
+    std::string literal_;  // folded when letter case is ignored
+    LetterCase letterCase_ = LetterCase::Sensitive;
+    Instructions instructions_ = Instructions::Plain;
+    // What a byte is or-ed with before it is compared with the literal's first and last: the bit that tells lower case
+    // from upper where that byte is a letter and case is ignored, else nothing.
+    std::uint8_t firstFold_ = 0;
+    std::uint8_t lastFold_ = 0;
+};
+
+}  // namespace vexa

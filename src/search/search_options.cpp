@@ -1,0 +1,81 @@
+#include "search/search_options.h"
+
+#include <algorithm>
+
+#include "base/ascii.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr const char* kSection = "Searching";
+
+struct OptionKey {
+    const char* key;
+    bool SearchOptions::Values::*option;
+};
+constexpr OptionKey kOptionKeys[] = {
+    {"Forward", &SearchOptions::Values::forward},
+    {"CaseCheck", &SearchOptions::Values::matchCase},
+    {"WholeWord", &SearchOptions::Values::wholeWord},
+    {"ReplaceAll", &SearchOptions::Values::replaceAll},
+    {"RegExpress", &SearchOptions::Values::regularExpression},
+};
+
+std::string Limited(std::string_view text) {
+    return std::string(text.substr(0, std::min(text.find('\0'), SearchOptions::kTextLimit)));
+}
+
+// Readers of a settings file take blanks around a value and one pair of quotes off; a further pair saves the text's
+// own.
+std::string Guarded(const std::string& text) {
+    const bool quoted = text.size() > 1 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+    return quoted || TrimBlanks(text) != text ? '"' + text + '"' : text;
+}
+
+std::string WithoutEscapes(const std::string& typed) {
+    std::string text;
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+        const char next = typed[i] == '\\' && i + 1 < typed.size() ? typed[i + 1] : '\0';
+        if (next == 't' || next == '\\') ++i;
+        text += next == 't' ? '\t' : typed[i];
+    }
+    return text;
+}
+
+}  // namespace
+
+void SearchOptions::Load(const ConfigStore& store) {
+    setFindText(store.ReadString(kSection, "FindText", "", kTextLimit + 1), false);
+    setReplaceText(store.ReadString(kSection, "ReplaceText", "", kTextLimit + 1));
+    for (const OptionKey& row : kOptionKeys)
+        values_.*row.option = store.ReadInt(kSection, row.key, values_.*row.option ? 1 : 0) != 0;
+}
+
+void SearchOptions::Save(ConfigStore& store) const {
+    store.WriteString(kSection, "FindText", Guarded(findText()));
+    store.WriteString(kSection, "ReplaceText", Guarded(replaceText()));
+    for (const OptionKey& row : kOptionKeys)
+        store.WriteInt(kSection, row.key, values_.*row.option ? 1 : 0);
+}
+
+void SearchOptions::setFindText(std::string_view text, bool pending) {
+    std::string limited = Limited(text);
+    if (limited == values_.findText) return;
+    values_.findText = std::move(limited);
+    values_.matchPending = pending;
+}
+
+void SearchOptions::setReplaceText(std::string_view text) {
+    values_.replaceText = Limited(text);
+}
+
+std::string SearchOptions::searchedText() const {
+    return regularExpression() ? findText() : WithoutEscapes(findText());
+}
+
+std::string SearchOptions::insertedText() const {
+    return regularExpression() ? replaceText() : WithoutEscapes(replaceText());
+}
+
+}  // namespace vexa
