@@ -40,6 +40,7 @@ bool CommandDispatcher::Dispatch(CommandId id) {
     if (CanRun(id)) {
         // A copy: the handler may register others, or bring about its own end.
         const Handler handler = registrationOf(id)->handler;
+        if (recorder_) recorder_(id);
         handler(id);
         return true;
     }

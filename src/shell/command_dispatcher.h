@@ -26,6 +26,9 @@ class CommandDispatcher {
     // A command that switches something: its menu item has a check mark while the query says so.
     void RegisterToggle(CommandId id, Handler handler, CheckQuery isChecked);
 
+    // Told of every command that is about to run, for the macro that is being recorded.
+    void setRecorder(Handler recorder) { recorder_ = std::move(recorder); }
+
     // The one answer to "may it run?": it has a handler, and what it needs is there.
     bool CanRun(CommandId id) const;
     bool IsChecked(CommandId id) const;
@@ -43,6 +46,7 @@ class CommandDispatcher {
 
     Notices& notices_;
     NeedQuery isMet_;
+    Handler recorder_;
     std::map<CommandId, Registration> registrations_;
 };
 

@@ -1,0 +1,71 @@
+#include "shell/auto_backup.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/file.h"
+#include "base/strings.h"
+#include "document/text_writer.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr std::uint16_t kTextBackupStarted = 4140;
+constexpr std::int64_t kSecondsAMinute = 60;
+
+// A name that was given with "/" or relative to a drive must not lead out of the directory.
+std::string FileNameOf(const TextDocument& document) {
+    const std::string& name = document.baseName();
+    return name.substr(name.find_last_of("\\/:") + 1);
+}
+
+}  // namespace
+
+// A time to come is left from before the clock was set back; the interval begins anew.
+std::int64_t AutoBackup::BackupTime(TextDocument& document) const {
+    std::int64_t& time = document.backup().time;
+    const std::int64_t now = clock_();
+    if (time == 0 || time > now || !document.isModified()) time = now;
+    return time;
+}
+
+bool AutoBackup::BackupDocument(TextDocument& document) const {
+    BackupState& state = document.backup();
+    if (state.isWriting || !document.isModified()) return false;
+    state.isWriting = true;
+    const bool written = writeCopy(document);
+    state.isWriting = false;
+    state.time = clock_();
+    return written;
+}
+
+bool AutoBackup::writeCopy(TextDocument& document) const {
+    const bool bytes = options_.FileWrite;
+    return RewriteFile(directory_ + "\\" + FileNameOf(document),
+                       [&](File& file) { return WriteLines(document, file, bytes); });
+}
+
+bool AutoBackup::isDue(TextDocument& document) const {
+    const std::int64_t age = clock_() - BackupTime(document);
+    return age > 0 && age > options_.BackupInterval * kSecondsAMinute;
+}
+
+bool AutoBackup::isOpen(const TextDocument* document) const {
+    const std::vector<TextDocument*> open = frame_.openDocuments();
+    return std::ranges::find(open, document) != open.end();
+}
+
+void AutoBackup::CheckBackups() {
+    if (!options_.AutoBackup || checking_ || frame_.isBusy()) return;
+    checking_ = true;
+    for (TextDocument* document : frame_.openDocuments()) {
+        if (!isOpen(document) || !isDue(*document)) continue;
+        notices_.status(LoadText(kTextBackupStarted), false, false);
+        if (notices_.pumpMessages()) break;
+        if (isOpen(document)) BackupDocument(*document);
+    }
+    checking_ = false;
+}
+
+}  // namespace vexa

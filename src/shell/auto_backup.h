@@ -1,0 +1,56 @@
+// Automatic backup: modified documents are copied into the backup directory once their changes are older than the
+// interval. The documents' own files are never touched.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/editor_options.h"
+#include "base/notices.h"
+#include "document/text_document.h"
+
+namespace vexa {
+
+// What the check asks of the main window.
+class BackupFrame {
+  public:
+    virtual ~BackupFrame() = default;
+    virtual bool isBusy() const = 0;
+    // The documents that are open at this moment, in the order of their windows.
+    virtual std::vector<TextDocument*> openDocuments() const = 0;
+};
+
+class AutoBackup {
+  public:
+    using Clock = std::int64_t (*)();  // seconds
+
+    // The directory is given without "\" at its end.
+    AutoBackup(BackupFrame& frame, const EditorOptions& options, std::string directory, Notices& notices, Clock clock)
+        : frame_(frame), options_(options), directory_(std::move(directory)), notices_(notices), clock_(clock) {}
+
+    // From when on a document's interval counts: the last backup, or the first time that it is asked for a modified
+    // document after that. Before that it is now.
+    std::int64_t BackupTime(TextDocument& document) const;
+
+    // Copies a modified document into the backup directory, under its base name, over an older copy. True when the copy
+    // was written whole; the older one stays otherwise. Either way the next is due after another interval.
+    bool BackupDocument(TextDocument& document) const;
+
+    // Backs up what is due; called by a timer several times a minute. Messages run in between, so documents may close.
+    void CheckBackups();
+
+  private:
+    bool isDue(TextDocument& document) const;
+    bool isOpen(const TextDocument* document) const;
+    bool writeCopy(TextDocument& document) const;
+
+    BackupFrame& frame_;
+    const EditorOptions& options_;
+    const std::string directory_;
+    Notices& notices_;
+    const Clock clock_;
+    bool checking_ = false;
+};
+
+}  // namespace vexa

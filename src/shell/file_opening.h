@@ -1,0 +1,58 @@
+// The ways by which files reach the running editor: its commands, its command line, other instances, dropped files,
+// DDE.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "base/editor_options.h"
+#include "base/notices.h"
+#include "base/units.h"
+#include "shell/command_line.h"
+
+namespace vexa {
+
+// What opening files asks of the main window.
+class DocumentFrame {
+  public:
+    virtual ~DocumentFrame() = default;
+    // Activates the first window whose document's path is this one, letter case ignored, with its caret at a line;
+    // false when there is none.
+    virtual bool activateShowing(const std::string& path, LineIndex line) = 0;
+    // Makes a window with the file's text, the caret at a line, or with a new document when there is no path. False
+    // when it could not be loaded, which the user has then been told.
+    virtual bool openWindow(const std::optional<std::string>& path, LineIndex line) = 0;
+    virtual void bringToFront() = 0;
+    virtual void restoreIfMinimised() = 0;
+};
+
+class FileOpening {
+  public:
+    FileOpening(DocumentFrame& frame, const EditorOptions& options, Notices& notices)
+        : frame_(frame), options_(options), notices_(notices) {}
+
+    // The one way to show a file in a window: a new one, or the one that shows the file already unless several are
+    // wanted. A new document without a name. The line is counted from 1; 0 or less means the first. True when shown.
+    bool OpenFileAtLine(const std::optional<std::string>& name, std::int32_t line);
+    // Opens what FilesOf has made of the arguments; the number of files opened.
+    int OpenCommandLineFiles(std::span<const FileAtLine> files);
+    // For the broadcast message of another instance.
+    void ReceiveHandOff();
+    void OpenDroppedFiles(std::span<const std::string> names);
+    // True when the execute string was the editor's own and has been carried out.
+    bool ExecuteDde(std::string_view text);
+
+  private:
+    DocumentFrame& frame_;
+    const EditorOptions& options_;
+    Notices& notices_;
+};
+
+// The file of a DDE execute string of the form [open("file")]; what follows the closing quote is not looked at. None
+// for other strings.
+std::optional<std::string> FileOfDdeExecute(std::string_view text);
+
+}  // namespace vexa

@@ -1,0 +1,103 @@
+#include "shell/hand_off.h"
+
+#include <algorithm>
+
+#include "base/ascii.h"
+#include "base/directories.h"
+#include "base/file.h"
+#include "base/strings.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr std::uint16_t kTextUnexpectedError = 4130;
+constexpr std::size_t kCommandLineLimit = 259;
+constexpr std::size_t kPathLimit = 255;
+constexpr std::size_t kNumberLimit = 49;
+constexpr std::size_t kReadLimit = 4096;
+constexpr std::int32_t kNoLine = -1;
+
+std::string HandOffFile() {
+    return DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT";
+}
+
+void TellUnexpectedError(Notices& notices, std::string_view module, std::string_view line) {
+    notices.box(FillText(kTextUnexpectedError, {module, line}), kErrorCaption, BoxButtons::Ok);
+}
+
+// Quotes only keep blanks together; no name has one.
+std::string NameIn(std::string_view commandLine, std::int32_t line) {
+    std::string name(commandLine.substr(0, kCommandLineLimit));
+    if (line != kNoLine) name.erase(std::min(name.find("-L"), name.size()));
+    std::erase(name, '"');
+    return std::string(TrimBlanks(name));
+}
+
+std::string PathIn(std::string_view commandLine, std::int32_t line) {
+    std::string path = platform::ParseFileName(NameIn(commandLine, line));
+    std::ranges::transform(path, path.begin(), UpperAscii);
+    return path;
+}
+
+bool WriteHandOff(const std::string& path, std::int32_t line) {
+    File file(HandOffFile(), platform::OpenMode::CreateAlways);
+    const bool written = file.isOpen() && file.write(path + "\r\n" + std::to_string(line) + "\r\n");
+    return file.close() && written;
+}
+
+std::string_view TakeLine(std::string_view& text) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
+
+}  // namespace
+
+HandOffDecision ShouldHandOff(std::string_view commandLine, std::span<const std::string> arguments) {
+    if (commandLine.find_first_of("*?") != std::string_view::npos) return {};
+    if (arguments.size() == 1) return {true, kNoLine};
+    if (arguments.size() != 2) return {};
+    const std::int32_t first = ParseLineOption(arguments[0]);
+    const std::int32_t line = first != kNoLine ? first : ParseLineOption(arguments[1]);
+    return {line != kNoLine, line};
+}
+
+bool HandOffToRunningInstance(std::string_view commandLine, std::int32_t line, Notices& notices) {
+    const std::uint32_t message = platform::RegisterBroadcast(kFileOpenMessage);
+    if (message == 0) return false;
+    const std::string path = PathIn(commandLine, line);
+    if (path.empty()) return false;
+    if (!WriteHandOff(path, line)) {
+        TellUnexpectedError(notices, "VEXA", "95");
+        return false;
+    }
+    return platform::PostBroadcast(message);
+}
+
+bool HandedOff(const CommandLine& commandLine, Notices& notices) {
+    const std::string_view text = std::string_view(commandLine.text).substr(0, kCommandLineLimit);
+    const HandOffDecision decision = ShouldHandOff(text, commandLine.arguments);
+    return decision.handOff && platform::GlobalMarkerExists(kActiveMarker) &&
+           HandOffToRunningInstance(text, decision.line, notices);
+}
+
+std::optional<FileAtLine> ReadHandOff(Notices& notices) {
+    File file(HandOffFile(), platform::OpenMode::Read);
+    const std::optional<std::string> bytes = file.isOpen() ? file.readUpTo(kReadLimit) : std::nullopt;
+    if (!bytes) {
+        TellUnexpectedError(notices, "VXEAPP01", "2173");
+        return std::nullopt;
+    }
+    std::string_view rest = *bytes;
+    const std::string_view path = TakeLine(rest).substr(0, kPathLimit);
+    return FileAtLine{std::string(path), LeadingInteger(TakeLine(rest).substr(0, kNumberLimit))};
+}
+
+void DeleteHandOff() {
+    platform::RemoveFile(HandOffFile());
+}
+
+}  // namespace vexa

@@ -1,0 +1,98 @@
+#include "shell/key_macro.h"
+
+#include <algorithm>
+
+#include "shell/command_table.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr CommandId kMacroCommands[] = {CommandId{425}, CommandId{426}, CommandId{427}};
+
+}  // namespace
+
+void KeyMacro::StartRecording(bool append) {
+    if (recording_ || playing_) return;
+    replacePending_ = !append;
+    recording_ = true;
+    stepCount_ = 0;
+    notices_.status("Macro recording started", true, false);
+}
+
+void KeyMacro::StopRecording() {
+    if (!recording_) return;
+    recording_ = false;
+    notices_.status(stepCount_ > 0 ? "Macro recording complete" : "Macro recording was canceled", true, false);
+}
+
+void KeyMacro::toggleRecording() {
+    if (recording_) {
+        StopRecording();
+    } else {
+        StartRecording(false);
+    }
+}
+
+void KeyMacro::RecordStep(const KeyMacroStep& step) {
+    if (!recording_) return;
+    if (replacePending_) steps_.clear();
+    replacePending_ = false;
+    steps_.push_back(step);
+    ++stepCount_;
+}
+
+void KeyMacro::recordCommand(CommandId id) {
+    if (!recording_ || std::ranges::find(kMacroCommands, id) != std::end(kMacroCommands)) return;
+    const CommandRow* row = FindCommand(id);
+    if (row && row->macro == MacroUse::Warns) {
+        notices_.status("You can't record this action as a macro!", true, true);
+    } else {
+        RecordStep(id);
+    }
+}
+
+bool KeyMacro::Play() {
+    if (recording_) {
+        notices_.status("Can't playback macro while recording!", true, true);
+        return false;
+    }
+    if (playing_) return false;
+    if (steps_.empty()) {
+        notices_.status("No macro recorded!", true, true);
+        return false;
+    }
+    playing_ = true;
+    notices_.status("Macro playback started", false, false);
+    const bool played = playSteps();
+    if (played) notices_.status("Macro playback complete", false, false);
+    playing_ = false;
+    return played;
+}
+
+// Nothing is recorded while a macro is played, so the steps do not change meanwhile.
+bool KeyMacro::playSteps() {
+    for (const KeyMacroStep& step : steps_) {
+        playStep(step);
+        target_.updateDisplay();
+        if (notices_.pumpMessages()) return false;
+    }
+    return true;
+}
+
+void KeyMacro::playStep(const KeyMacroStep& step) {
+    if (const auto* key = std::get_if<KeyEvent>(&step)) {
+        target_.playKey(*key);
+    } else if (const auto* message = std::get_if<MacroMessage>(&step)) {
+        target_.playMessage(*message);
+    } else {
+        target_.playCommand(std::get<CommandId>(step));
+    }
+}
+
+void KeyMacro::PlayRepeated(std::int32_t count) {
+    while (count > 0 && Play())
+        --count;
+}
+
+}  // namespace vexa
