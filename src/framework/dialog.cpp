@@ -1,0 +1,193 @@
+#include "framework/dialog.h"
+
+#include <utility>
+
+namespace vexa {
+namespace {
+
+HINSTANCE Program() {
+    return GetModuleHandleA(nullptr);
+}
+
+RECT PlaceOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+POINT CornerOf(HWND window) {
+    const RECT place = PlaceOf(window);
+    return {place.left, place.top};
+}
+
+// A corner kept from a monitor that is gone would put the dialog where nobody finds it.
+bool IsOnAMonitor(POINT corner) {
+    return MonitorFromPoint(corner, MONITOR_DEFAULTTONULL) != nullptr;
+}
+
+POINT CentredOver(const RECT& owner, const RECT& dialog) {
+    const LONG left = (owner.left + owner.right - (dialog.right - dialog.left)) / 2;
+    const LONG top = (owner.top + owner.bottom - (dialog.bottom - dialog.top)) / 2;
+    return {left > 0 ? left : 0, top > 0 ? top : 0};
+}
+
+}  // namespace
+
+DialogFrameCL::~DialogFrameCL() {
+    if (!window_) return;
+    SetWindowLongPtrA(window_, DWLP_USER, 0);
+    DestroyWindow(window_);
+}
+
+bool DialogFrameCL::runModal(HWND owner) {
+    isModal_ = true;
+    return DialogBoxParamA(Program(), MAKEINTRESOURCEA(resource_), owner, &DialogFrameCL::Procedure,
+                           reinterpret_cast<LPARAM>(this)) == IDOK;
+}
+
+bool DialogFrameCL::openModeless(HWND owner) {
+    isModal_ = false;
+    return CreateDialogParamA(Program(), MAKEINTRESOURCEA(resource_), owner, &DialogFrameCL::Procedure,
+                              reinterpret_cast<LPARAM>(this)) != nullptr;
+}
+
+void DialogFrameCL::close(bool accepted) {
+    if (!window_) return;
+    if (isModal_) {
+        EndDialog(window_, accepted ? IDOK : IDCANCEL);
+    } else {
+        DestroyWindow(window_);
+    }
+}
+
+// ---- messages ----------------------------------------------------------------------------------------------------
+
+INT_PTR CALLBACK DialogFrameCL::Procedure(HWND window, UINT number, WPARAM wParam, LPARAM lParam) noexcept {
+    if (number == WM_INITDIALOG) {
+        SetWindowLongPtrA(window, DWLP_USER, lParam);
+        reinterpret_cast<DialogFrameCL*>(lParam)->window_ = window;
+    }
+    auto* dialog = reinterpret_cast<DialogFrameCL*>(GetWindowLongPtrA(window, DWLP_USER));
+    if (!dialog) return FALSE;
+    try {
+        return dialog->receive(number, wParam, lParam);
+    } catch (...) {
+        OutputDebugStringA("A dialog's handler failed.");
+        return FALSE;
+    }
+}
+
+INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM /*lParam*/) {
+    switch (number) {
+        case WM_INITDIALOG:
+            open();
+            return TRUE;
+        case WM_COMMAND:
+            command(LOWORD(wParam), HIWORD(wParam));
+            return TRUE;
+        case WM_ACTIVATE:
+            onActivate(LOWORD(wParam) != WA_INACTIVE);
+            return FALSE;
+        case WM_DESTROY:
+            keepPlace();
+            return FALSE;
+        case WM_NCDESTROY:
+            SetWindowLongPtrA(window_, DWLP_USER, 0);
+            window_ = nullptr;
+            onGone();
+            return FALSE;
+        default:
+            return FALSE;
+    }
+}
+
+void DialogFrameCL::open() {
+    placeAtOpening();
+    onOpen();
+}
+
+void DialogFrameCL::command(int id, UINT notification) {
+    struct Button {
+        int id;
+        void (DialogFrameCL::*press)();
+    };
+    static constexpr Button kButtons[] = {
+        {IDOK, &DialogFrameCL::onAccept}, {IDCANCEL, &DialogFrameCL::onCancel}, {IDHELP, &DialogFrameCL::onHelp}};
+    for (const Button& button : kButtons) {
+        if (button.id == id) return (this->*button.press)();
+    }
+    onControl(id, notification);
+}
+
+// ---- place -------------------------------------------------------------------------------------------------------
+
+void DialogFrameCL::placeAtOpening() {
+    const RECT owner = PlaceOf(GetWindow(window_, GW_OWNER));
+    const std::optional<POINT> kept = openingCorner({owner.left, owner.top});
+    const POINT corner = kept && IsOnAMonitor(*kept) ? *kept : CentredOver(owner, PlaceOf(window_));
+    SetWindowPos(window_, nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void DialogFrameCL::keepPlace() {
+    keepCorner(CornerOf(GetWindow(window_, GW_OWNER)), CornerOf(window_));
+}
+
+// ---- controls ----------------------------------------------------------------------------------------------------
+
+std::string DialogFrameCL::textOf(int number) const {
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(control(number))), '\0');
+    const int length = GetWindowTextA(control(number), text.data(), static_cast<int>(text.size()) + 1);
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+void DialogFrameCL::setTextOf(int number, const std::string& text) {
+    SetDlgItemTextA(window_, number, text.c_str());
+}
+
+void DialogFrameCL::limitTextOf(int number, std::size_t characters) {
+    SendDlgItemMessageA(window_, number, EM_LIMITTEXT, characters, 0);
+}
+
+void DialogFrameCL::limitComboText(int number, std::size_t characters) {
+    SendDlgItemMessageA(window_, number, CB_LIMITTEXT, characters, 0);
+}
+
+void DialogFrameCL::fillCombo(int number, std::span<const std::string> texts) {
+    SendDlgItemMessageA(window_, number, CB_RESETCONTENT, 0, 0);
+    for (const std::string& text : texts)
+        SendDlgItemMessageA(window_, number, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::string DialogFrameCL::chosenTextOf(int number) const {
+    const HWND combo = control(number);
+    const auto chosen = static_cast<WPARAM>(SendMessageA(combo, CB_GETCURSEL, 0, 0));
+    const LRESULT length = SendMessageA(combo, CB_GETLBTEXTLEN, chosen, 0);
+    if (length <= 0) return {};  // CB_ERR is below 0
+    std::string text(static_cast<std::size_t>(length), '\0');
+    const LRESULT copied = SendMessageA(combo, CB_GETLBTEXT, chosen, reinterpret_cast<LPARAM>(text.data()));
+    text.resize(copied > 0 ? static_cast<std::size_t>(copied) : 0);
+    return text;
+}
+
+bool DialogFrameCL::isChecked(int number) const {
+    return IsDlgButtonChecked(window_, number) == BST_CHECKED;
+}
+
+void DialogFrameCL::setChecked(int number, bool checked) {
+    CheckDlgButton(window_, number, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void DialogFrameCL::checkRadio(int first, int last, int checked) {
+    CheckRadioButton(window_, first, last, checked);
+}
+
+void DialogFrameCL::enable(int number, bool enabled) {
+    EnableWindow(control(number), enabled);
+}
+
+void DialogFrameCL::focusOn(int number) {
+    SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control(number)), TRUE);
+}
+
+}  // namespace vexa

@@ -1,0 +1,74 @@
+// A dialog as an object: made from a resource template, modal or beside its owner, with its controls by their numbers.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace vexa {
+
+// IDOK, IDCANCEL and IDHELP are the buttons that accept, leave and explain. An exception in a handler is reported to
+// the debugger and goes no further.
+class DialogFrameCL {
+  public:
+    explicit DialogFrameCL(int resource) : resource_(resource) {}
+    virtual ~DialogFrameCL();
+    DialogFrameCL(const DialogFrameCL&) = delete;
+    DialogFrameCL& operator=(const DialogFrameCL&) = delete;
+
+    // Runs until the dialog is closed; true when it was accepted.
+    bool runModal(HWND owner);
+    // Opens beside the owner; false when the system refuses.
+    bool openModeless(HWND owner);
+    void close(bool accepted);
+    HWND window() const { return window_; }
+
+  protected:
+    // ---- handlers ----
+    virtual void onOpen() {}
+    virtual void onAccept() { close(true); }
+    virtual void onCancel() { close(false); }
+    virtual void onHelp() {}
+    // A control has told something: BN_CLICKED, EN_CHANGE, CBN_SELCHANGE...
+    virtual void onControl(int /*control*/, UINT /*notification*/) {}
+    virtual void onActivate(bool /*active*/) {}
+    // The window is gone; the object may be destroyed here.
+    virtual void onGone() {}
+    // Where the dialog opens, given its owner's top-left corner; over the middle of the owner without an answer.
+    virtual std::optional<POINT> openingCorner(POINT /*owner*/) { return std::nullopt; }
+    virtual void keepCorner(POINT /*owner*/, POINT /*corner*/) {}
+
+    // ---- controls ----
+    std::string textOf(int control) const;
+    void setTextOf(int control, const std::string& text);
+    void limitTextOf(int control, std::size_t characters);
+    void limitComboText(int control, std::size_t characters);
+    // Puts the texts into a combo box's list, and empties its field.
+    void fillCombo(int control, std::span<const std::string> texts);
+    // The text that is chosen in a combo box's list; empty when none is.
+    std::string chosenTextOf(int control) const;
+    bool isChecked(int control) const;
+    void setChecked(int control, bool checked);
+    // Checks one of the radio buttons that are numbered from first to last.
+    void checkRadio(int first, int last, int checked);
+    void enable(int control, bool enabled);
+    // Puts the caret into a field with all of its text selected.
+    void focusOn(int control);
+    HWND control(int number) const { return GetDlgItem(window_, number); }
+
+  private:
+    static INT_PTR CALLBACK Procedure(HWND window, UINT number, WPARAM wParam, LPARAM lParam) noexcept;
+    INT_PTR receive(UINT number, WPARAM wParam, LPARAM lParam);
+    void open();
+    void command(int id, UINT notification);
+    void placeAtOpening();
+    void keepPlace();
+
+    const int resource_;
+    HWND window_ = nullptr;
+    bool isModal_ = false;
+};
+
+}  // namespace vexa

@@ -1,0 +1,52 @@
+// A main window: menu bar, command keys, status bar, and the room that these leave.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/accelerators.h"
+#include "framework/menu.h"
+#include "framework/window.h"
+
+namespace vexa {
+
+class AppFrameCL : public WindowCL {
+  public:
+    // Tries a message from the queue as a command key of the frame; true when it was one.
+    virtual bool translate(MSG& message);
+
+  protected:
+    void setMenu(MenuHandle menu);
+    void setAccelerators(AcceleratorHandle accelerators) { accelerators_ = std::move(accelerators); }
+
+    // ---- what the program fills in ----
+
+    virtual void runCommand(WORD id) = 0;
+    // None for an item that is no command of the program.
+    virtual std::optional<ItemState> itemState(WORD id) const = 0;
+    // Shows the help text of the item that the user is looking at; none when he leaves the menu.
+    virtual void showItemHelp(std::optional<WORD> id) = 0;
+    // Puts everything in its place inside the client area.
+    virtual void layOut() = 0;
+    // The user wants to leave; true when the frame may close.
+    virtual bool mayClose() = 0;
+
+    bool onCommand(WORD id) override;
+    bool onMenuPopup(HMENU menu, bool isSystemMenu) override;
+    bool onMenuSelect(WORD id, UINT flags) override;
+    bool onMenuClosed() override;
+    bool onSize(UINT kind) override;
+    bool onClose() override;
+    bool onQueryEndSession(bool& agreed) override;
+    void onDestroy() override;
+    bool onDpiChanged(const RECT& suggested) override;
+
+  private:
+    // Not while a dialog waits for its answer: what it asks about must still be there then.
+    bool mayLeave() { return IsWindowEnabled(window()) && mayClose(); }
+
+    AcceleratorHandle accelerators_;
+    bool isTranslating_ = false;  // the system is asking whether a key's menu item is enabled
+};
+
+}  // namespace vexa

@@ -1,0 +1,58 @@
+// A main window with other windows inside it (MDI).
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "framework/frame.h"
+#include "framework/mdi_child.h"
+
+namespace vexa {
+
+// How a child window is first shown.
+enum class ChildShow { Normal, Minimised, Maximised, Tiled };
+
+enum class Arrangement { Cascade, Tile, TileVertically, TileHorizontally, Icons };
+
+// Owns its child windows. They keep the order in which they were opened.
+class MDIframeCL : public AppFrameCL {
+  public:
+    bool translate(MSG& message) override;
+
+    HWND mdiClient() const { return client_; }
+    const std::vector<std::unique_ptr<MDIchildCL>>& children() const { return children_; }
+    // None when no window is open.
+    MDIchildCL* activeChild() const;
+    void activate(const MDIchildCL& child);
+    void activateNext();
+    void activatePrevious();
+    void arrange(Arrangement arrangement);
+    // Opens the child's window and takes the child over. False, and the child is gone, when the system refuses.
+    bool adopt(std::unique_ptr<MDIchildCL> child, const WindowClass& windowClass, const std::string& title,
+               ChildShow show);
+    // Closes the children one after the other, asking each; stops at the first that refuses, and false then.
+    bool closeChildren();
+    // Closes a child if it agrees.
+    bool closeChild(MDIchildCL& child);
+    // Lets go of a child whose window has been destroyed.
+    void forget(const MDIchildCL& child);
+
+  protected:
+    friend class MDIchildCL;
+
+    // The menu at whose end the child windows are listed.
+    bool openClient(HMENU windowMenu);
+    // The child windows have the whole rectangle of the frame's client area.
+    void placeClient(const RECT& area);
+
+    // A child window has gone, or another one is the active one.
+    virtual void childrenChanged() {}
+
+    LRESULT defaultProcedure(const Message& message) override;
+
+  private:
+    HWND client_ = nullptr;
+    std::vector<std::unique_ptr<MDIchildCL>> children_;
+};
+
+}  // namespace vexa

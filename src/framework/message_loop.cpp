@@ -1,0 +1,31 @@
+#include "framework/message_loop.h"
+
+#include "framework/frame.h"
+
+namespace vexa {
+
+int MessageLoop::run() {
+    MSG message{};
+    while (GetMessageA(&message, nullptr, 0, 0) > 0)
+        process(message);
+    return static_cast<int>(message.wParam);
+}
+
+bool MessageLoop::PumpMessages() {
+    MSG message{};
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+        if (message.message == WM_QUIT) return true;
+        if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) process(message);
+    }
+    return false;
+}
+
+void MessageLoop::process(MSG& message) {
+    if (frame_.translate(message)) return;
+    const bool isForDialog = modelessDialog_ && IsWindow(modelessDialog_);
+    if (isForDialog && IsDialogMessageA(modelessDialog_, &message)) return;
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+}
+
+}  // namespace vexa

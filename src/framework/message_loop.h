@@ -1,0 +1,29 @@
+// The program's message loop, and letting messages run in the middle of long work.
+#pragma once
+
+#include <windows.h>
+
+namespace vexa {
+
+class AppFrameCL;
+
+class MessageLoop {
+  public:
+    explicit MessageLoop(AppFrameCL& frame) : frame_(frame) {}
+
+    // Runs until the program is told to end; its exit code.
+    int run();
+    // Processes everything that is queued. False when the queue is empty; true, at once, when the next message is the
+    // one that ends the program, which stays in the queue.
+    bool PumpMessages();
+    // A dialog that is open beside the frame and gets its keys first; null when it closes.
+    void setModelessDialog(HWND dialog) { modelessDialog_ = dialog; }
+
+  private:
+    void process(MSG& message);
+
+    AppFrameCL& frame_;
+    HWND modelessDialog_ = nullptr;
+};
+
+}  // namespace vexa

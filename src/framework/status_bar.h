@@ -1,0 +1,62 @@
+// A status bar: panes with texts at the foot of a frame. Each pane is a window whose text is what it shows, so that
+// other programs can read it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "framework/gdi.h"
+#include "framework/window.h"
+
+namespace vexa {
+
+class StatusPaneCL : public WindowCL {
+  public:
+    bool open(HWND parent);
+    // Highlighted texts stand out in the colours of an alarm.
+    void show(const std::string& text, bool highlighted);
+    void setFont(HFONT font);
+
+  protected:
+    bool onPaint(HDC dc, const RECT& update) override;
+    bool onEraseBackground(HDC dc) override;
+    void onTextChanged() override;
+
+  private:
+    void draw(HDC dc, RECT area) const;
+
+    HFONT font_ = nullptr;
+    bool highlighted_ = false;
+    OffScreenBitmap picture_;
+};
+
+// The first pane takes the room that the others leave; those are as wide as the widest text they will show.
+class StatusBarCL : public WindowCL {
+  public:
+    // One text for each pane after the first, at its widest.
+    explicit StatusBarCL(std::vector<std::string> widestTexts) : widestTexts_(std::move(widestTexts)) {}
+
+    bool open(HWND parent);
+    void setPane(std::size_t pane, const std::string& text, bool highlighted = false);
+    std::string paneText(std::size_t pane) const { return panes_[pane]->text(); }
+    // In pixels, at the resolution of the frame's monitor.
+    int height() const { return height_; }
+    // Takes over the font and the resolution in force.
+    void refreshFont();
+
+  protected:
+    bool onCreate() override;
+    bool onSize(UINT kind) override;
+
+  private:
+    void layOut();
+
+    std::vector<std::string> widestTexts_;
+    std::vector<std::unique_ptr<StatusPaneCL>> panes_;
+    FontHandle font_;
+    int height_ = 0;
+    int gap_ = 0;
+};
+
+}  // namespace vexa

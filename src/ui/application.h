@@ -1,0 +1,36 @@
+// What one run of the program has once, for all its windows.
+#pragma once
+
+#include <string>
+
+#include "base/config_store.h"
+#include "base/directories.h"
+#include "base/editor_options.h"
+#include "language/colour_table.h"
+#include "language/profile_list.h"
+#include "search/search_options.h"
+#include "ui/font_details.h"
+
+namespace vexa {
+
+struct Application {
+    // Reads the settings beside the executable and makes the directories there.
+    explicit Application(const std::string& executable)
+        : store(SettingsFileOf(executable)),
+          directories(executable),
+          profiles(directories.GetDirectory(kConfigDirectory)) {
+        options.Load(store);
+        font.Load(store);
+        searchOptions.Load(store);
+    }
+
+    ConfigStore store;
+    EditorOptions options;
+    FontDetails font;
+    SearchOptions searchOptions;
+    Directories directories;
+    ProfileList profiles;
+    ColourTable colours;
+};
+
+}  // namespace vexa

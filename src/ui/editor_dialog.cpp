@@ -1,0 +1,23 @@
+#include "ui/editor_dialog.h"
+
+#include "base/dialog_position.h"
+#include "ui/help.h"
+
+namespace vexa {
+
+// The topics of the dialogs have the dialogs' numbers.
+void EditorDialog::onHelp() {
+    ShowHelp(window(), HELP_CONTEXT, static_cast<DWORD>(dialog_));
+}
+
+std::optional<POINT> EditorDialog::openingCorner(POINT owner) {
+    const auto corner = RestoreDialogPosition(store_, dialog_, {owner.x, owner.y});
+    if (!corner) return std::nullopt;
+    return POINT{corner->x, corner->y};
+}
+
+void EditorDialog::keepCorner(POINT owner, POINT corner) {
+    SaveDialogPosition(store_, dialog_, {owner.x, owner.y}, {corner.x, corner.y});
+}
+
+}  // namespace vexa

@@ -1,0 +1,35 @@
+#include "ui/font_details.h"
+
+namespace vexa {
+namespace {
+
+constexpr const char* kSection = "Font Details";
+constexpr std::int32_t kSmallest = 4;  // in pixels, either way of giving the height
+constexpr std::int32_t kLargest = 200;
+constexpr std::int32_t kHeaviest = 1000;
+
+bool IsReadable(std::int32_t height) {
+    return (height >= kSmallest && height <= kLargest) || (height <= -kSmallest && height >= -kLargest);
+}
+
+}  // namespace
+
+void FontDetails::Load(const ConfigStore& store) {
+    const FontDetails defaults;
+    const auto number = [&store](const char* key, std::int32_t fallback) {
+        return store.ReadInt(kSection, key, fallback);
+    };
+    Height = number("Height", defaults.Height);
+    if (!IsReadable(Height)) Height = defaults.Height;
+    Width = number("Width", defaults.Width);
+    if (Width < 0 || Width > kLargest) Width = defaults.Width;
+    Weight = number("Weight", defaults.Weight);
+    if (Weight < 0 || Weight > kHeaviest) Weight = defaults.Weight;
+    Italic = number("Italic", defaults.Italic) != 0;
+    Underline = number("Underline", defaults.Underline) != 0;
+    StrikeOut = number("StrikeOut", defaults.StrikeOut) != 0;
+    Family = number("Family", defaults.Family);
+    Face = store.ReadString(kSection, "Face", defaults.Face, kFaceLimit + 1);
+}
+
+}  // namespace vexa

@@ -1,0 +1,159 @@
+// What the frame brings over from one session to the next, and what comes to it from outside.
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "ui/for_each_document.h"
+#include "ui/vexa_frame.h"
+
+namespace vexa {
+namespace {
+
+constexpr WORD kExit = 208;
+constexpr WORD kRecentFilesSeparator = 100;
+
+ScreenRect ToScreenRect(const RECT& area) {
+    return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+BOOL CALLBACK AddWorkArea(HMONITOR monitor, HDC, RECT*, LPARAM areas) {
+    MONITORINFO details{};
+    details.cbSize = sizeof(details);
+    if (GetMonitorInfoA(monitor, &details)) {
+        reinterpret_cast<std::vector<ScreenRect>*>(areas)->push_back(ToScreenRect(details.rcWork));
+    }
+    return TRUE;
+}
+
+std::vector<ScreenRect> WorkAreas() {
+    std::vector<ScreenRect> areas;
+    EnumDisplayMonitors(nullptr, nullptr, &AddWorkArea, reinterpret_cast<LPARAM>(&areas));
+    return areas;
+}
+
+ScreenRect PlaceOnScreen(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return ToScreenRect(place);
+}
+
+// The ways in which a program can be started, as the frame's states.
+FrameState StateOf(int showCommand) {
+    if (showCommand == SW_SHOWMAXIMIZED) return FrameState::Maximised;
+    const bool isMinimised =
+        showCommand == SW_SHOWMINIMIZED || showCommand == SW_MINIMIZE || showCommand == SW_SHOWMINNOACTIVE;
+    return isMinimised ? FrameState::Minimised : FrameState::Normal;
+}
+
+}  // namespace
+
+// ---- placement ---------------------------------------------------------------------------------------------------
+
+// A maximised or minimised frame keeps the rectangle for when it is restored.
+void VexaFrame::restorePlacement(int showCommand) {
+    placement_ = LoadFramePlacement(application_.store, application_.options.RestoreSize, StateOf(showCommand),
+                                    PlaceOnScreen(window()));
+    const auto areas = WorkAreas();
+    placement_.normal = KeptOnScreen(placement_.normal, areas);
+    const ScreenRect& place = placement_.normal;
+    MoveWindow(window(), place.x, place.y, place.width, place.height, FALSE);
+    isOpened_ = true;
+    ShowWindow(window(), static_cast<int>(placement_.state));
+}
+
+bool VexaFrame::onSize(UINT kind) {
+    static constexpr FrameState kStates[] = {FrameState::Normal, FrameState::Minimised, FrameState::Maximised};
+    if (isOpened_ && kind <= SIZE_MAXIMIZED) placement_.noteSize(kStates[kind], PlaceOnScreen(window()));
+    return MDIframeCL::onSize(kind);
+}
+
+void VexaFrame::onMove() {
+    if (isOpened_ && !IsIconic(window()) && !IsZoomed(window())) placement_.noteMove(PlaceOnScreen(window()));
+}
+
+// ---- files of the session ----------------------------------------------------------------------------------------
+
+void VexaFrame::noteDocumentClosed(const DocumentWindow& window) {
+    const TextDocument& document = window.document();
+    if (!document.isNamed()) return;
+    if (isClosing_) {
+        startupFiles_.RecordStartupFile(document.fullPath(), document.currentLine().value + 1);
+    } else {
+        recentFiles_.RecordRecentFile(document.fullPath());
+        showRecentFiles();
+    }
+}
+
+void VexaFrame::showRecentFiles() {
+    std::vector<MenuItem> items;
+    for (const RecentFileRow& row : recentFiles_.menuRows())
+        items.push_back({static_cast<WORD>(row.id), row.text});
+    const auto first = static_cast<WORD>(kFirstRecentFile);
+    ReplaceItemsBefore(fileMenu_, kExit, {first, static_cast<WORD>(first + 1)}, items, kRecentFilesSeparator);
+    DrawMenuBar(window());
+}
+
+bool VexaFrame::mayClose() {
+    isClosing_ = true;
+    const bool closed = closeChildren();
+    isClosing_ = closed;
+    return closed;
+}
+
+void VexaFrame::saveSession() {
+    SaveFramePlacement(application_.store, placement_);
+    recentFiles_.SaveRecentFiles(application_.store);
+    application_.options.Save(application_.store);
+    application_.searchOptions.Save(application_.store);
+}
+
+void VexaFrame::onDestroy() {
+    KillTimer(window(), 1);
+    DragAcceptFiles(window(), FALSE);
+    saveSession();
+    ddeServer_.reset();
+    MDIframeCL::onDestroy();
+}
+
+// Windows may end the process at any time after it has asked, so the session is noted before the user is.
+bool VexaFrame::onQueryEndSession(bool& agreed) {
+    recordSession();
+    return MDIframeCL::onQueryEndSession(agreed);
+}
+
+void VexaFrame::recordSession() {
+    isClosing_ = true;
+    forEachDocument([this](DocumentWindow& window) { noteDocumentClosed(window); });
+    isClosing_ = false;
+    saveSession();
+}
+
+void VexaFrame::onEndSession() {
+    saveSession();
+}
+
+// ---- from outside ------------------------------------------------------------------------------------------------
+
+bool VexaFrame::onDropFiles(const std::vector<std::string>& names) {
+    opening_.OpenDroppedFiles(names);
+    return true;
+}
+
+bool VexaFrame::onOther(Message& message) {
+    if (message.number != fileOpenMessage_ || fileOpenMessage_ == 0) return false;
+    opening_.ReceiveHandOff();
+    return true;
+}
+
+bool VexaFrame::onTimer(UINT_PTR /*timer*/) {
+    backup_.CheckBackups();
+    return true;
+}
+
+std::vector<TextDocument*> VexaFrame::openDocuments() const {
+    std::vector<TextDocument*> documents;
+    forEachDocument([&documents](DocumentWindow& window) { documents.push_back(&window.document()); });
+    return documents;
+}
+
+}  // namespace vexa

@@ -1,0 +1,66 @@
+// The program's entry.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+
+#include "base/platform.h"
+#include "framework/message_box.h"
+#include "shell/command_line.h"
+#include "shell/hand_off.h"
+#include "shell/out_of_memory.h"
+#include "ui/vexa_frame.h"
+
+namespace {
+
+// What the user is told before there is a frame to tell it.
+class StartNotices : public vexa::Notices {
+  public:
+    void status(std::string_view, bool, bool) override {}
+    vexa::BoxAnswer box(std::string_view text, std::string_view caption, vexa::BoxButtons) override {
+        vexa::ShowBox(nullptr, std::string(text), std::string(caption), MB_OK);
+        return vexa::BoxAnswer::Ok;
+    }
+    void setBusy(bool) override {}
+    bool pumpMessages() override { return false; }
+};
+
+void ShowOutOfMemory(const char* text, const char* caption) {
+    MessageBoxA(nullptr, text, caption, MB_OK | MB_ICONSTOP);
+}
+
+void ShowCommandLineHelp() {
+    vexa::ShowBox(nullptr, vexa::kCommandLineHelp, std::string(vexa::kProgramCaption), MB_OK);
+}
+
+int RunEditor(const vexa::CommandLine& commandLine, int showCommand) {
+    // Full names: the start directory may make another directory the current one before the files are opened.
+    const auto files = vexa::FilesOf(commandLine.arguments);
+    const vexa::OutOfMemoryHandler outOfMemory(&ShowOutOfMemory);
+    vexa::platform::AddGlobalMarker(vexa::kActiveMarker);
+    int exitCode = 1;
+    {
+        vexa::Application application(vexa::platform::ProgramPath());
+        vexa::ApplyStartDirectory(application.options);
+        vexa::VexaFrame frame(application);
+        if (frame.open(showCommand, files)) exitCode = frame.run();
+    }
+    vexa::platform::DeleteGlobalMarker(vexa::kActiveMarker);
+    return exitCode;
+}
+
+}  // namespace
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
+    SetErrorMode(SEM_FAILCRITICALERRORS);  // an empty drive is a file that cannot be opened, not a question to the user
+    InitCommonControls();
+    const vexa::CommandLine commandLine = vexa::ParseCommandLine(GetCommandLineA());
+    if (vexa::AsksForHelp(commandLine.arguments)) {
+        ShowCommandLineHelp();
+        return 0;
+    }
+    StartNotices notices;
+    if (vexa::HandedOff(commandLine, notices)) return 0;
+    return RunEditor(commandLine, showCommand);
+}

@@ -1,0 +1,55 @@
+#include "ui/pane_font.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "framework/dpi.h"
+
+namespace vexa {
+namespace {
+
+constexpr const char* kFallbackFace = "Courier New";
+constexpr BYTE kFamilyMask = 0xF0;
+
+LOGFONTA Describe(const FontDetails& details, int dpi) {
+    LOGFONTA description{};
+    description.lfHeight = Scaled(details.Height, dpi);
+    description.lfWidth = Scaled(details.Width, dpi);
+    description.lfWeight = details.Weight;
+    description.lfItalic = details.Italic;
+    description.lfUnderline = details.Underline;
+    description.lfStrikeOut = details.StrikeOut;
+    // Bitmap fonts are crisp at the resolution they were drawn for and ragged at any other.
+    description.lfOutPrecision = dpi == kNormalDpi ? OUT_DEFAULT_PRECIS : OUT_TT_ONLY_PRECIS;
+    description.lfPitchAndFamily = static_cast<BYTE>(FIXED_PITCH | (details.Family & kFamilyMask));
+    std::memcpy(description.lfFaceName, details.Face.data(), std::min(details.Face.size(), kFaceLimit));
+    return description;
+}
+
+bool IsFixedPitch(const TEXTMETRICA& metrics) {
+    // The system's flag says the opposite of its name.
+    return !(metrics.tmPitchAndFamily & TMPF_FIXED_PITCH);
+}
+
+PaneFont Measured(FontHandle font, const TEXTMETRICA& metrics) {
+    const int width = std::max<LONG>(metrics.tmAveCharWidth, 1);
+    const int height = std::max<LONG>(metrics.tmHeight + metrics.tmExternalLeading, 1);
+    return {std::move(font), width, height};
+}
+
+}  // namespace
+
+PaneFont MakePaneFont(const FontDetails& details, HWND window) {
+    LOGFONTA description = Describe(details, DpiOf(window));
+    FontHandle font(CreateFontIndirectA(&description));
+    TEXTMETRICA metrics = MetricsOf(window, font.get());
+    if (!IsFixedPitch(metrics)) {
+        std::strcpy(description.lfFaceName, kFallbackFace);
+        description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
+        font.reset(CreateFontIndirectA(&description));
+        metrics = MetricsOf(window, font.get());
+    }
+    return Measured(std::move(font), metrics);
+}
+
+}  // namespace vexa

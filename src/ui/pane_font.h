@@ -1,0 +1,18 @@
+// The font of the edit view as the screen has it.
+#pragma once
+
+#include "framework/gdi.h"
+#include "ui/font_details.h"
+
+namespace vexa {
+
+struct PaneFont {
+    FontHandle font;
+    int cellWidth = 1;  // pixels, as is the height
+    int cellHeight = 1;
+};
+
+// The font nearest to the details that has one width for all characters, at the resolution of the window's monitor.
+PaneFont MakePaneFont(const FontDetails& details, HWND window);
+
+}  // namespace vexa

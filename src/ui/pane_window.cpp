@@ -1,0 +1,271 @@
+#include "ui/pane_window.h"
+
+#include <algorithm>
+
+#include "framework/dpi.h"
+
+namespace vexa {
+namespace {
+
+const WindowClass kPaneClass{.name = "PaneWindowCL", .cursor = IDC_IBEAM};
+constexpr POINT kOutOfSight = {-1000, -1000};
+
+std::int32_t CellsIn(LONG pixels, int cell) {
+    return std::max<std::int32_t>(pixels / cell, 1);
+}
+
+}  // namespace
+
+bool PaneWindowCL::open(HWND parent) {
+    return create(kPaneClass,
+                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {0, 0, 0, 0}, .parent = parent});
+}
+
+bool PaneWindowCL::onCreate() {
+    painter_.setFont(MakePaneFont(fontDetails_, window()));
+    return true;
+}
+
+void PaneWindowCL::refreshFont() {
+    painter_.setFont(MakePaneFont(fontDetails_, window()));
+    rows_.clear();
+    fitView();
+}
+
+bool PaneWindowCL::onSize(UINT /*kind*/) {
+    fitView();
+    // What the system has moved along with the window need not be what belongs there now.
+    InvalidateRect(window(), nullptr, FALSE);
+    return true;
+}
+
+void PaneWindowCL::fitView() {
+    const RECT client = clientArea();
+    view_.resize(CellsIn(client.bottom, painter_.cellHeight()), CellsIn(client.right, painter_.cellWidth()));
+    refresh();
+}
+
+// ---- showing -----------------------------------------------------------------------------------------------------
+
+void PaneWindowCL::refresh() {
+    if (!window()) return;
+    refreshRows();
+    refreshCaret();
+    refreshScrollBar(SB_VERT);
+    refreshScrollBar(SB_HORZ);
+    host_.viewChanged();
+}
+
+void PaneWindowCL::refreshRows() {
+    const RECT client = clientArea();
+    const int height = painter_.cellHeight();
+    rows_.resize(static_cast<std::size_t>((client.bottom + height - 1) / height));
+    int top = 0;
+    for (std::size_t i = 0; i < rows_.size(); ++i, top += height) {
+        ViewRow row = view_.render(static_cast<std::int32_t>(i));
+        if (row == rows_[i]) continue;
+        rows_[i] = std::move(row);
+        const RECT area = {0, top, client.right, top + height};
+        InvalidateRect(window(), &area, FALSE);
+    }
+}
+
+bool PaneWindowCL::onEraseBackground(HDC /*dc*/) {
+    return true;
+}
+
+bool PaneWindowCL::onPaint(HDC dc, const RECT& update) {
+    const RECT client = clientArea();
+    const int height = painter_.cellHeight();
+    const auto last = std::min(static_cast<std::size_t>((update.bottom + height - 1) / height), rows_.size());
+    for (auto i = static_cast<std::size_t>(update.top / height); i < last; ++i) {
+        painter_.paint(dc, static_cast<int>(i) * height, client.right, rows_[i]);
+    }
+    return true;
+}
+
+POINT PaneWindowCL::caretPlace() const {
+    const std::optional<Cell> cell = view_.caret();
+    return cell ? POINT{cell->column * painter_.cellWidth(), cell->row * painter_.cellHeight()} : kOutOfSight;
+}
+
+// A bar between two characters where typing inserts, a block over the character that typing replaces.
+void PaneWindowCL::refreshCaret() {
+    if (GetFocus() != window()) return;
+    const int bar = std::max(Scaled(2, DpiOf(window())), 1);
+    const SIZE size = {view_.overwrites() ? painter_.cellWidth() : bar, painter_.cellHeight()};
+    if (size.cx != caretSize_.cx || size.cy != caretSize_.cy) {
+        CreateCaret(window(), nullptr, size.cx, size.cy);
+        ShowCaret(window());
+        caretSize_ = size;
+    }
+    const POINT place = caretPlace();
+    SetCaretPos(place.x, place.y);
+}
+
+bool PaneWindowCL::onFocusGained() {
+    refreshCaret();
+    return true;
+}
+
+bool PaneWindowCL::onFocusLost() {
+    endDrag();
+    DestroyCaret();
+    caretSize_ = {};
+    return true;
+}
+
+// ---- scrolling ---------------------------------------------------------------------------------------------------
+
+ScrollState PaneWindowCL::scrollState(int bar) const {
+    if (bar == SB_VERT) return {view_.lastLine().value, view_.rows(), view_.topLine().value};
+    return {view_.widestColumn().value, view_.columns(), view_.leftColumn().value};
+}
+
+void PaneWindowCL::refreshScrollBar(int bar) {
+    const ScrollState state = Shown(scrollState(bar));
+    if (state == shownScroll_[bar]) return;
+    shownScroll_[bar] = state;
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+    info.nMax = state.last;
+    info.nPage = static_cast<UINT>(state.page);
+    info.nPos = state.position;
+    SetScrollInfo(window(), bar, &info, TRUE);
+}
+
+void PaneWindowCL::scrollTo(int bar, std::int32_t position) {
+    if (bar == SB_VERT) {
+        view_.scrollToLine(LineIndex(position));
+    } else {
+        view_.scrollToColumn(DisplayColumn(position));
+    }
+    refresh();
+    UpdateWindow(window());
+}
+
+bool PaneWindowCL::onScroll(int bar, UINT request) {
+    host_.userActs();
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_TRACKPOS;  // the message itself has room for 16 bits of it only
+    GetScrollInfo(window(), bar, &info);
+    scrollTo(bar, ScrollTarget(request, scrollState(bar), info.nTrackPos));
+    return true;
+}
+
+bool PaneWindowCL::onWheel(WheelAxis axis, int delta) {
+    UINT linesPerNotch = 3;
+    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &linesPerNotch, 0);
+    const int bar = axis == WheelAxis::Vertical ? SB_VERT : SB_HORZ;
+    const ScrollState state = scrollState(bar);
+    // Turning to the right is a delta above 0, turning down one below.
+    const int down = axis == WheelAxis::Vertical ? delta : -delta;
+    const auto most = static_cast<UINT>(state.page);  // also for the setting "one page a notch"
+    const auto lines = wheel_[bar].add(down, static_cast<std::int32_t>(std::min(linesPerNotch, most)));
+    const std::int32_t end = std::max({state.last - state.page + 1, state.position, 0});
+    if (lines != 0) scrollTo(bar, std::clamp(state.position + lines, 0, end));
+    return true;
+}
+
+// ---- keys --------------------------------------------------------------------------------------------------------
+
+bool PaneWindowCL::onKey(const KeyMessage& key) {
+    endDrag();
+    const auto event = keys_.keyDown({static_cast<std::uint16_t>(key.key), static_cast<std::uint16_t>(key.repeat),
+                                      key.extended, key.shift, key.control, key.alt});
+    if (!event) return false;
+    host_.userActs();
+    if (!view_.key(*event)) return false;
+    keys_.used();
+    host_.keyUsed(*event);
+    refresh();
+    // The system must see a key pressed with Alt, or it takes the release of Alt for a wish to use the menu.
+    return !key.alt;
+}
+
+bool PaneWindowCL::onCharacter(unsigned char character, UINT repeat) {
+    const bool control = GetKeyState(VK_CONTROL) < 0;
+    const auto event = keys_.character(character, static_cast<std::uint16_t>(repeat), control);
+    if (!event || !view_.key(*event)) return true;
+    host_.keyUsed(*event);
+    refresh();
+    return true;
+}
+
+bool PaneWindowCL::onSystemCharacter(unsigned char /*character*/) {
+    return keys_.dropsCharacter();
+}
+
+// ---- mouse -------------------------------------------------------------------------------------------------------
+
+// The boundary between two characters that is nearest, or the character itself where the caret covers one.
+Cell PaneWindowCL::cellAt(POINT place) const {
+    const int width = painter_.cellWidth();
+    const int height = painter_.cellHeight();
+    const LONG x = place.x + (view_.overwrites() ? 0 : width / 2);
+    const auto cells = [](LONG pixels, int cell) {
+        return static_cast<std::int32_t>(pixels >= 0 ? pixels / cell : (pixels + 1) / cell - 1);
+    };
+    return {cells(place.y, height), cells(x, width)};
+}
+
+bool PaneWindowCL::onMousePress(POINT place, bool shift) {
+    constexpr UINT kScrollInterval = 50;  // milliseconds between two steps while the mouse is held outside
+    SetFocus(window());
+    host_.userActs();
+    SetCapture(window());
+    SetTimer(window(), 1, kScrollInterval, nullptr);
+    isDragging_ = true;
+    dragPlace_ = place;
+    view_.press(cellAt(place), shift);
+    refresh();
+    return true;
+}
+
+bool PaneWindowCL::onMouseMove(POINT place) {
+    // The system also reports mice that have not moved.
+    const bool hasMoved = place.x != dragPlace_.x || place.y != dragPlace_.y;
+    if (!isDragging_ || !hasMoved) return false;
+    dragPlace_ = place;
+    view_.drag(cellAt(place));
+    refresh();
+    return true;
+}
+
+bool PaneWindowCL::onTimer(UINT_PTR /*timer*/) {
+    const RECT client = clientArea();
+    if (!isDragging_ || PtInRect(&client, dragPlace_)) return true;
+    view_.drag(cellAt(dragPlace_));
+    refresh();
+    return true;
+}
+
+bool PaneWindowCL::onMouseRelease() {
+    endDrag();
+    return true;
+}
+
+bool PaneWindowCL::onCaptureLost() {
+    endDrag();
+    return true;
+}
+
+void PaneWindowCL::endDrag() {
+    if (!std::exchange(isDragging_, false)) return;
+    KillTimer(window(), 1);
+    if (GetCapture() == window()) ReleaseCapture();
+    view_.release();
+    refresh();
+}
+
+bool PaneWindowCL::onContextMenu(std::optional<POINT> screenPlace) {
+    POINT place = view_.caret() ? caretPlace() : POINT{};
+    ClientToScreen(window(), &place);
+    host_.userActs();
+    host_.showContextMenu(screenPlace.value_or(place));
+    return true;
+}
+
+}  // namespace vexa

@@ -1,0 +1,35 @@
+// Where scroll bars and mouse wheels move a window to.
+#pragma once
+
+#include <cstdint>
+
+namespace vexa {
+
+// One scroll bar, in lines or columns.
+struct ScrollState {
+    std::int32_t last = 0;      // the last line or column that can be scrolled to
+    std::int32_t page = 1;      // how many are seen at once
+    std::int32_t position = 0;  // the first one seen
+
+    bool operator==(const ScrollState&) const = default;
+};
+
+// The state as it is shown: a window scrolled beyond the last line has its bar at the end.
+ScrollState Shown(ScrollState state);
+
+// The position that a request of a scroll bar asks for, not below 0. Requests are numbered as Windows numbers them
+// (SB_LINEUP and so on); track is the place that the user has dragged the thumb to. Unknown requests move nothing.
+std::int32_t ScrollTarget(unsigned request, const ScrollState& state, std::int32_t track);
+
+// Turns the steps of a wheel, which can be smaller than a notch, into whole lines.
+class WheelSteps {
+  public:
+    // A notch is a delta of 120. Lines to scroll down (up below 0); what is left over counts with the next delta,
+    // unless the wheel then turns the other way.
+    std::int32_t add(std::int32_t delta, std::int32_t linesPerNotch);
+
+  private:
+    std::int32_t rest_ = 0;  // in lines times the delta of a notch
+};
+
+}  // namespace vexa

@@ -1,0 +1,243 @@
+#include "ui/vexa_frame.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <algorithm>
+
+#include "base/ascii.h"
+#include "base/platform.h"
+#include "framework/file_dialog.h"
+#include "framework/message_box.h"
+#include "shell/hand_off.h"
+#include "ui/file_selection.h"
+#include "ui/for_each_document.h"
+#include "ui/menu_rows.h"
+#include "ui/resource.h"
+#include "ui/tool_buttons.h"
+
+namespace vexa {
+namespace {
+
+constexpr WindowClass kFrameClass{.name = "AppFrameCL", .background = COLOR_APPWORKSPACE, .icon = IDI_VEXA};
+constexpr UINT_PTR kBackupTimer = 1;
+constexpr UINT kBackupCheckInterval = 10'000;  // milliseconds
+
+// The panes after the message area at their widest.
+const std::vector<std::string> kWidestPanes = {"OVR", " L:00000 C:000"};
+
+}  // namespace
+
+VexaFrame::VexaFrame(Application& application)
+    : application_(application),
+      loop_(*this),
+      toolBar_(ToolButtons(), ToolPictureStrips(), &ToolTipOf),
+      statusBar_(kWidestPanes),
+      notices_(*this, statusBar_, loop_),
+      files_(notices_, *this, application.profiles),
+      opening_(*this, application.options, notices_),
+      dispatcher_(notices_, [this](CommandNeed need) { return isMet(need); }),
+      macro_(*this, notices_),
+      search_(application.searchOptions, notices_, watch_),
+      backup_(*this, application.options, application.directories.GetDirectory(kBackupDirectory), notices_,
+              &platform::CurrentSeconds),
+      startupFiles_(application.store),
+      fileOpenMessage_(platform::RegisterBroadcast(kFileOpenMessage)) {
+    registerCommands();
+}
+
+bool VexaFrame::open(int showCommand, std::span<const FileAtLine> files) {
+    const std::string title(kProgramCaption);
+    if (!create(kFrameClass, {.title = title.c_str(), .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN})) return false;
+    DragAcceptFiles(window(), TRUE);
+    ddeServer_ = std::make_unique<DdeServer>("Vexa Editor", "system",
+                                             [this](const std::string& text) { return opening_.ExecuteDde(text); });
+    restorePlacement(showCommand);
+    UpdateWindow(window());
+    recentFiles_.LoadRecentFiles(application_.store, application_.options.RestoreFiles);
+    showRecentFiles();
+    startupFiles_.RestoreStartupFiles(
+        application_.options.RestoreFiles,
+        [this](const std::string& path, std::int32_t line) { opening_.OpenFileAtLine(path, line); });
+    opening_.OpenCommandLineFiles(files);
+    if (children().empty() && files.empty()) newDocument();
+    SetTimer(window(), kBackupTimer, kBackupCheckInterval, nullptr);
+    return true;
+}
+
+bool VexaFrame::onCreate() {
+    const MenuBarRows rows = MainMenuRows();
+    MenuHandle bar = MakeMenuBar(rows.menus);
+    fileMenu_ = GetSubMenu(bar.get(), 0);
+    const HMENU windowMenu = GetSubMenu(bar.get(), static_cast<int>(rows.windowMenu));
+    setMenu(std::move(bar));
+    setAccelerators(MakeAccelerators(AcceleratorKeys()));
+    if (!toolBar_.open(window()) || !statusBar_.open(window()) || !openClient(windowMenu)) return false;
+    toolBar_.show(application_.options.ToolBar);
+    statusBar_.show(application_.options.StatusBar);
+    return true;
+}
+
+void VexaFrame::onSettingChange() {
+    if (!statusBar_.window()) return;
+    statusBar_.refreshFont();
+    toolBar_.refreshPictures();
+    layOut();
+}
+
+bool VexaFrame::onDpiChanged(const RECT& suggested) {
+    onSettingChange();
+    forEachDocument([](DocumentWindow& window) { window.refreshFont(); });
+    return MDIframeCL::onDpiChanged(suggested);
+}
+
+bool VexaFrame::onSetCursor(UINT hitTest) {
+    const bool isBusy = notices_.isBusy() && hitTest == HTCLIENT;
+    if (isBusy) SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+    return isBusy;
+}
+
+void VexaFrame::layOut() {
+    RECT room = clientArea();
+    if (application_.options.ToolBar) {
+        const LONG bottom = std::min<LONG>(toolBar_.height(), room.bottom);
+        toolBar_.place({0, 0, room.right, bottom});
+        room.top = bottom;
+    }
+    if (application_.options.StatusBar) {
+        const LONG top = std::max<LONG>(room.bottom - statusBar_.height(), room.top);
+        statusBar_.place({0, top, room.right, room.bottom});
+        room.bottom = top;
+    }
+    placeClient(room);
+}
+
+// ---- commands and status -----------------------------------------------------------------------------------------
+
+bool VexaFrame::isMet(CommandNeed need) const {
+    return need == CommandNeed::Window ? !children().empty() : activeDocument() != nullptr;
+}
+
+std::optional<ItemState> VexaFrame::itemState(WORD id) const {
+    if (!FindCommand(CommandId{id})) return std::nullopt;
+    return ItemState{dispatcher_.CanRun(CommandId{id}), dispatcher_.IsChecked(CommandId{id})};
+}
+
+void VexaFrame::showItemHelp(std::optional<WORD> id) {
+    if (id) {
+        notices_.showHelp(StatusTextOf(CommandId{*id}));
+    } else {
+        notices_.endHelp();
+    }
+}
+
+void VexaFrame::runCommand(WORD id) {
+    if (searchDialog_ && searchDialog_->editField(CommandId{id})) return;
+    macro_.recordCommand(CommandId{id});
+    dispatcher_.Dispatch(CommandId{id});
+    refreshToolBar();
+}
+
+void VexaFrame::refreshToolBar() {
+    toolBar_.refreshButtons([this](WORD id) { return dispatcher_.CanRun(CommandId{id}); });
+}
+
+void VexaFrame::documentChanged(const DocumentWindow& window) {
+    statusBar_.setPane(kModePane, window.view().modeText());
+    statusBar_.setPane(kPositionPane, window.view().positionText());
+}
+
+void VexaFrame::childrenChanged() {
+    if (!statusBar_.window()) return;
+    refreshToolBar();
+    if (const DocumentWindow* active = activeDocument()) {
+        documentChanged(*active);
+    } else {
+        statusBar_.setPane(kModePane, {});
+        statusBar_.setPane(kPositionPane, {});
+    }
+}
+
+void VexaFrame::showContextMenu(POINT screenPlace) {
+    const MenuHandle menu = MakePopupMenu(ContextMenuItems());
+    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, screenPlace.x, screenPlace.y, 0, window(), nullptr);
+}
+
+// ---- documents ---------------------------------------------------------------------------------------------------
+
+DocumentWindow* VexaFrame::activeDocument() const {
+    return dynamic_cast<DocumentWindow*>(activeChild());
+}
+
+ChildShow VexaFrame::showOfNewWindow() const {
+    switch (application_.options.DisplayMode) {
+        case kCreateTiled:
+            return ChildShow::Tiled;
+        case kCreateMinimized:
+            return ChildShow::Minimised;
+        case kCreateMaximized:
+            return ChildShow::Maximised;
+        default:
+            return ChildShow::Normal;
+    }
+}
+
+bool VexaFrame::activateShowing(const std::string& path, LineIndex line) {
+    for (const auto& child : children()) {
+        auto* shown = dynamic_cast<DocumentWindow*>(child.get());
+        if (!shown || !EqualIgnoringCase(shown->document().fullPath(), path)) continue;
+        activate(*shown);
+        shown->view().goTo(line, CharColumn(0));
+        shown->refresh();
+        return true;
+    }
+    return false;
+}
+
+bool VexaFrame::openWindow(const std::optional<std::string>& path, LineIndex line) {
+    DocumentHost& host = *this;
+    auto made = std::make_unique<DocumentWindow>(*this, host, application_, notices_);
+    if (!files_.open(made->document(), path)) return false;
+    DocumentWindow& shown = *made;
+    const std::string caption = shown.caption();
+    if (!adopt(std::move(made), kDocumentWindowClass, caption, showOfNewWindow())) return false;
+    if (path) shown.view().goTo(line, CharColumn(0));
+    shown.refresh();
+    refreshToolBar();
+    return true;
+}
+
+void VexaFrame::bringToFront() {
+    SetForegroundWindow(window());
+}
+
+void VexaFrame::restoreIfMinimised() {
+    if (IsIconic(window())) ShowWindow(window(), SW_RESTORE);
+}
+
+bool VexaFrame::mayCloseDocument(DocumentWindow& window) {
+    if (window.document().isModified()) activate(window);
+    if (!files_.queryClose(window.document())) return false;
+    noteDocumentClosed(window);
+    return true;
+}
+
+std::optional<std::string> VexaFrame::askSaveName(const TextDocument& document) {
+    FileDialogRequest request;
+    request.owner = window();
+    request.title = "Save As";
+    for (const FileKind& kind : OfferedFileKinds(application_.options))
+        request.filters.push_back({kind.label, kind.patterns});
+    request.fileName = document.fullPath();
+    request.explorerStyle = application_.options.UseExplorer;
+    return AskSaveFile(request);
+}
+
+void VexaFrame::nameChanged(const TextDocument& document) {
+    forEachDocument([&document](DocumentWindow& window) {
+        if (&window.document() == &document) window.refresh();
+    });
+}
+
+}  // namespace vexa

@@ -1,0 +1,179 @@
+// The editor's main window: menus, bars, the document windows, and the commands that work on them.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "framework/dde_server.h"
+#include "framework/mdi_frame.h"
+#include "framework/message_loop.h"
+#include "framework/status_bar.h"
+#include "framework/tool_bar.h"
+#include "search/find_commands.h"
+#include "shell/auto_backup.h"
+#include "shell/command_dispatcher.h"
+#include "shell/file_commands.h"
+#include "shell/file_opening.h"
+#include "shell/frame_placement.h"
+#include "shell/key_macro.h"
+#include "shell/macro_repeat_model.h"
+#include "shell/recent_files.h"
+#include "shell/startup_files.h"
+#include "ui/application.h"
+#include "ui/document_window.h"
+#include "ui/frame_notices.h"
+#include "ui/keyboard_watch.h"
+#include "ui/search_dialog.h"
+
+namespace vexa {
+
+class VexaFrame : public MDIframeCL,
+                  private DocumentHost,
+                  private FileQuestions,
+                  private DocumentFrame,
+                  private MacroTarget,
+                  private BackupFrame,
+                  private SearchHost {
+  public:
+    explicit VexaFrame(Application& application);
+
+    // Opens the window where it was last, with the files of the last session and then those of the command line;
+    // with none of either, a new document. False when the system refuses to make the window.
+    bool open(int showCommand, std::span<const FileAtLine> files);
+    // Runs until the frame is closed; the program's exit code.
+    int run() { return loop_.run(); }
+    bool translate(MSG& message) override;
+
+  protected:
+    bool onCreate() override;
+    void onDestroy() override;
+    bool onQueryEndSession(bool& agreed) override;
+    void onEndSession() override;
+    void onSettingChange() override;
+    bool onDpiChanged(const RECT& suggested) override;
+    bool onSetCursor(UINT hitTest) override;
+    bool onSize(UINT kind) override;
+    void onMove() override;
+    bool onTimer(UINT_PTR timer) override;
+    bool onDropFiles(const std::vector<std::string>& names) override;
+    bool onOther(Message& message) override;
+
+    void runCommand(WORD id) override;
+    std::optional<ItemState> itemState(WORD id) const override;
+    void showItemHelp(std::optional<WORD> id) override;
+    void layOut() override;
+    bool mayClose() override;
+    void childrenChanged() override;
+
+  private:
+    friend struct FrameCommands;  // the table of commands that the frame carries out
+
+    void registerCommands();
+    bool isMet(CommandNeed need) const;
+    DocumentWindow* activeDocument() const;
+    ChildShow showOfNewWindow() const;
+    template <class Use>
+    void forEachDocument(Use use) const;
+    void refreshToolBar();
+
+    // ---- commands ----
+
+    void newDocument() { opening_.OpenFileAtLine(std::nullopt, 0); }
+    void openDocuments();
+    void closeDocument();
+    void saveDocument();
+    void saveDocumentAs();
+    void saveAllDocuments();
+    void exit();
+    void undo();
+    void redo();
+    void clear();
+    void selectAll();
+    void toMatchingBracket();
+    void toWindowStart();
+    void toWindowEnd();
+    void toDocumentStart();
+    void toDocumentEnd();
+    void find();
+    void replace();
+    void findNext();
+    void findPrevious();
+    template <class Dialog>
+    void openSearchDialog();
+    // A key that switches an option of searching; false for any other.
+    bool useOptionKey(const KeyEvent& event);
+    void gotoLine();
+    void gotoBookmark();
+    void changeOptions();
+    void toggleToolBar();
+    void toggleStatusBar();
+    void closeAllDocuments();
+    void playMacro() { macro_.Play(); }
+    void repeatMacro();
+    void recordMacro() { macro_.toggleRecording(); }
+    void helpOnHelp();
+    void helpIndex();
+    void helpOnKeys();
+    void showAbout();
+    void openRecentFile(CommandId id);
+    template <class Operation>
+    void operate(Operation operation);
+
+    // ---- session ----
+
+    void restorePlacement(int showCommand);
+    void noteDocumentClosed(const DocumentWindow& window);
+    void recordSession();
+    void saveSession();
+    void showRecentFiles();
+
+    // ---- what windows and rules ask ----
+
+    void userActs() override { notices_.clearStatus(); }
+    void keyUsed(const KeyEvent& event) override { macro_.recordKey(event); }
+    void documentChanged(const DocumentWindow& window) override;
+    bool mayCloseDocument(DocumentWindow& window) override;
+    void showContextMenu(POINT screenPlace) override;
+    std::optional<std::string> askSaveName(const TextDocument& document) override;
+    void nameChanged(const TextDocument& document) override;
+    bool activateShowing(const std::string& path, LineIndex line) override;
+    bool openWindow(const std::optional<std::string>& path, LineIndex line) override;
+    void bringToFront() override;
+    void restoreIfMinimised() override;
+    void playKey(const KeyEvent& event) override;
+    void playMessage(const MacroMessage& message) override;
+    void playCommand(CommandId id) override;
+    void updateDisplay() override;
+    bool isBusy() const override { return notices_.isBusy(); }
+    std::vector<TextDocument*> openDocuments() const override;
+    void search(const Search& search) override;
+    bool isShuttingDown() const override { return isClosing_; }
+    void searchDialogGone() override { loop_.setModelessDialog(nullptr); }
+
+    Application& application_;
+    MessageLoop loop_;
+    ToolBarCL toolBar_;
+    StatusBarCL statusBar_;
+    FrameNotices notices_;
+    FileCommands files_;
+    FileOpening opening_;
+    CommandDispatcher dispatcher_;
+    KeyMacro macro_;
+    MacroRepeatModel repeat_;
+    KeyboardWatch watch_;
+    FindCommands search_;
+    std::unique_ptr<SearchDialog> searchDialog_;  // the last one; its window may be gone
+    AutoBackup backup_;
+    RecentFiles recentFiles_;
+    StartupFiles startupFiles_;
+    FramePlacement placement_;
+    std::unique_ptr<DdeServer> ddeServer_;
+    HMENU fileMenu_ = nullptr;  // owned by the menu bar
+    UINT fileOpenMessage_ = 0;  // what another instance broadcasts
+    bool isOpened_ = false;     // from here on the placement is the user's
+    bool isClosing_ = false;
+};
+
+}  // namespace vexa

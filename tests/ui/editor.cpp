@@ -1,0 +1,246 @@
+#include "ui/editor.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "ui/key_script.h"
+
+namespace vexa::test {
+namespace {
+
+constexpr const char* kDialogClass = "#32770";
+
+BOOL CALLBACK AddToList(HWND child, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
+    return TRUE;
+}
+
+std::vector<HWND> CollectChildren(HWND parent) {
+    std::vector<HWND> children;
+    EnumChildWindows(parent, &AddToList, reinterpret_cast<LPARAM>(&children));
+    return children;
+}
+
+// What tells a later run of the program that one is there already. The system keeps it when a run is killed.
+void RemoveActiveMarker() {
+    while (const ATOM atom = GlobalFindAtomA("VexaIsActive"))
+        GlobalDeleteAtom(atom);
+}
+
+std::string CommandLineOf(const std::vector<std::string>& names) {
+    std::string line;
+    for (const std::string& name : names)
+        line += " \"" + name + "\"";
+    return line;
+}
+
+// Places of the mouse are given to the system in 65536ths of the screen.
+INPUT MouseInput(POINT screenPlace, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = MulDiv(screenPlace.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    input.mi.dy = MulDiv(screenPlace.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
+    return input;
+}
+
+}  // namespace
+
+std::string TextOf(HWND window) {
+    char text[2000] = "";
+    DWORD_PTR length = 0;
+    SendMessageTimeoutA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text), SMTO_NORMAL, kPatience,
+                        &length);
+    return text;
+}
+
+std::string ClassOf(HWND window) {
+    char name[100] = "";
+    GetClassNameA(window, name, sizeof name);
+    return name;
+}
+
+std::vector<HWND> ChildrenOf(HWND parent, const std::string& className) {
+    std::vector<HWND> children = CollectChildren(parent);
+    std::erase_if(children, [&](HWND child) { return ClassOf(child) != className; });
+    return children;
+}
+
+// ---- start and end -----------------------------------------------------------------------------------------------
+
+StartedProgram::StartedProgram(const TestFolder& folder, const std::string& arguments, const std::string& directory) {
+    std::string line = "\"" + folder.program() + "\" " + arguments;
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION started{};
+    const std::string current = directory.empty() ? folder.path() : directory;
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, current.c_str(), &startup,
+                        &started)) {
+        throw std::runtime_error("the editor does not start");
+    }
+    CloseHandle(started.hThread);
+    process_ = started.hProcess;
+    processId_ = started.dwProcessId;
+}
+
+StartedProgram::~StartedProgram() {
+    kill();
+    CloseHandle(process_);
+}
+
+void StartedProgram::kill() {
+    if (!isRunning()) return;
+    TerminateProcess(process_, 1);
+    WaitForSingleObject(process_, kPatience);
+    RemoveActiveMarker();
+}
+
+bool StartedProgram::ends() const {
+    return WaitForSingleObject(process_, kPatience) == WAIT_OBJECT_0;
+}
+
+std::vector<HWND> StartedProgram::topWindows() const {
+    std::vector<HWND> found;
+    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == processId_ && IsWindowVisible(window)) found.push_back(window);
+    }
+    return found;
+}
+
+HWND StartedProgram::findDialog(const std::string& caption) const {
+    for (const HWND window : topWindows()) {
+        if (ClassOf(window) == kDialogClass && (caption.empty() || TextOf(window) == caption)) return window;
+    }
+    return nullptr;
+}
+
+HWND StartedProgram::dialog(const std::string& caption) const {
+    HWND found = nullptr;
+    WaitUntil([&] { return (found = findDialog(caption)) != nullptr; });
+    return found;
+}
+
+Editor::Editor(const TestFolder& folder, const std::vector<std::string>& names, const std::string& directory)
+    : program_(folder, CommandLineOf(names), directory) {
+    WaitUntil([this] { return (frame_ = findFrame()) != nullptr; });
+    // Idle: everything the command line asks for has been done, or stands in a box.
+    WaitForInputIdle(process(), kPatience);
+    if (!frame_ || !isRunning()) throw std::runtime_error("the editor shows no window");
+}
+
+HWND Editor::findFrame() const {
+    for (const HWND window : program_.topWindows()) {
+        if (ClassOf(window) == "AppFrameCL") return window;
+    }
+    return nullptr;
+}
+
+// ---- looking -----------------------------------------------------------------------------------------------------
+
+bool Editor::hasCaption(const std::string& part) const {
+    return WaitUntil([&] { return caption().find(part) != std::string::npos; });
+}
+
+std::vector<std::string> Editor::documents() const {
+    std::vector<std::string> captions;
+    for (const HWND window : ChildrenOf(frame_, "MDIchildCL"))
+        captions.push_back(TextOf(window));
+    return captions;
+}
+
+HWND Editor::activeDocument() const {
+    const std::vector<HWND> clients = ChildrenOf(frame_, "MDIClient");
+    DWORD_PTR active = 0;
+    if (!clients.empty()) SendMessageTimeoutA(clients[0], WM_MDIGETACTIVE, 0, 0, SMTO_NORMAL, kPatience, &active);
+    return reinterpret_cast<HWND>(active);
+}
+
+HWND Editor::activePane() const {
+    const std::vector<HWND> panes = ChildrenOf(activeDocument(), "PaneWindowCL");
+    return panes.empty() ? nullptr : panes[0];
+}
+
+std::string Editor::pane(std::size_t index) const {
+    const std::vector<HWND> bars = ChildrenOf(frame_, "StatusBarCL");
+    const std::vector<HWND> panes = bars.empty() ? bars : ChildrenOf(bars[0], "CtrlWindowCL");
+    return index < panes.size() ? TextOf(panes[index]) : std::string();
+}
+
+bool Editor::showsMessage(const std::string& text) const {
+    return WaitUntil([&] { return message() == text; });
+}
+
+bool Editor::showsMode(const std::string& text) const {
+    return WaitUntil([&] { return mode() == text; });
+}
+
+bool Editor::showsPosition(int line, int column) const {
+    char text[40];
+    std::snprintf(text, sizeof text, " L:%5.5d C:%3.3d", line, column);
+    const bool isShown = WaitUntil([&] { return position() == text; });
+    if (!isShown) std::fprintf(stderr, "position is%s\n", position().c_str());
+    return isShown;
+}
+
+bool Editor::hasTopWindow(const std::string& className) const {
+    return WaitUntil([&] {
+        return std::ranges::any_of(program_.topWindows(), [&](HWND window) { return ClassOf(window) == className; });
+    });
+}
+
+void Editor::takePicture(const std::string& name) const {
+    const char* folder = std::getenv("VEXA_SCREENSHOTS");
+    if (!folder) return;
+    const std::string request = std::string(folder) + "/" + name + ".request";
+    std::ofstream{request};
+    WaitUntil([&] { return !std::filesystem::exists(request); });
+}
+
+// ---- doing -------------------------------------------------------------------------------------------------------
+
+bool Editor::answers() const {
+    return SendMessageTimeoutA(frame_, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, nullptr);
+}
+
+bool Editor::runCommand(WORD id) const {
+    return SendMessageTimeoutA(frame_, WM_COMMAND, id, 0, SMTO_NORMAL, kPatience, nullptr);
+}
+
+void Editor::keys(const std::string& script) const {
+    // A box of the editor that is open is in front instead of the frame.
+    WaitUntil([this] {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(GetForegroundWindow(), &owner);
+        const bool isInFront = owner == GetProcessId(process());
+        if (!isInFront) SetForegroundWindow(frame_);
+        return isInFront;
+    });
+    PressKeys(script);
+}
+
+void Editor::moveMouse(POINT place, DWORD flags) const {
+    ClientToScreen(activePane(), &place);
+    INPUT input = MouseInput(place, flags);
+    SendInput(1, &input, sizeof input);
+}
+
+void Editor::point(POINT place) const {
+    moveMouse(place, 0);
+}
+
+void Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile) const {
+    moveMouse(places.front(), 0);
+    moveMouse(places.front(), MOUSEEVENTF_LEFTDOWN);
+    for (const POINT place : places)
+        moveMouse(place, 0);
+    if (meanwhile) meanwhile();
+    moveMouse(places.back(), MOUSEEVENTF_LEFTUP);
+}
+
+}  // namespace vexa::test

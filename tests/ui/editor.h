@@ -1,0 +1,112 @@
+// The running editor as its user has it: windows, captions, status panes, keys and mouse.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ui/test_folder.h"
+#include "ui/wait.h"
+
+namespace vexa::test {
+
+// The text of any window of any program.
+std::string TextOf(HWND window);
+std::string ClassOf(HWND window);
+std::vector<HWND> ChildrenOf(HWND parent, const std::string& className);
+
+// A run of the program as the system sees it; ended by force, if need be, with the object.
+class StartedProgram {
+  public:
+    // The arguments as they are written on a command line, from the folder as the current directory or another one.
+    StartedProgram(const TestFolder& folder, const std::string& arguments, const std::string& directory = {});
+    ~StartedProgram();
+    StartedProgram(const StartedProgram&) = delete;
+    StartedProgram& operator=(const StartedProgram&) = delete;
+
+    HANDLE process() const { return process_; }
+    bool isRunning() const { return WaitForSingleObject(process_, 0) == WAIT_TIMEOUT; }
+    bool ends() const;  // waits for it
+    void kill();
+    // The visible windows that have no parent, the uppermost first.
+    std::vector<HWND> topWindows() const;
+    // The dialog with that caption, or any one for none; null without waiting when there is none.
+    HWND findDialog(const std::string& caption) const;
+    // Waits for it; null when none comes.
+    HWND dialog(const std::string& caption) const;
+
+  private:
+    HANDLE process_ = nullptr;
+    DWORD processId_ = 0;
+};
+
+// An editor that was started in a folder; ended, by force if need be, with the object.
+class Editor {
+  public:
+    // The names are given on the command line; the current directory is the folder or another one.
+    explicit Editor(const TestFolder& folder, const std::vector<std::string>& names = {},
+                    const std::string& directory = {});
+
+    HANDLE process() const { return program_.process(); }
+    HWND frame() const { return frame_; }
+    std::string caption() const { return TextOf(frame_); }
+    bool hasCaption(const std::string& part) const;  // waits for it
+    // The captions of the document windows, in the order in which they lie on each other.
+    std::vector<std::string> documents() const;
+    HWND activeDocument() const;
+    HWND activePane() const;
+
+    // ---- status bar ----
+
+    std::string message() const { return pane(0); }
+    std::string mode() const { return pane(1); }
+    std::string position() const { return pane(2); }
+    // Each waits until the text is there.
+    bool showsMessage(const std::string& text) const;
+    bool showsMode(const std::string& text) const;
+    bool showsPosition(int line, int column) const;
+
+    // ---- doing ----
+
+    // Keys go to the window that has the focus, as from the keyboard.
+    void keys(const std::string& script) const;
+    void command(WORD id) const { PostMessageA(frame_, WM_COMMAND, id, 0); }
+    // Runs a command to its end; false when the editor does not answer.
+    bool runCommand(WORD id) const;
+    // Whether the editor still takes messages.
+    bool answers() const;
+    void kill() { program_.kill(); }
+    // Presses the left button at a place of the active pane, in pixels, and lets it go at the last of the places.
+    void click(POINT place) const { drag({place}); }
+    // Moves the mouse to a place of the active pane.
+    void point(POINT place) const;
+    // The button is held at the last place until meanwhile is done.
+    void drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile = nullptr) const;
+    void requestClose() const { PostMessageA(frame_, WM_CLOSE, 0, 0); }
+
+    // ---- dialogs and end ----
+
+    // Waits for a dialog with that caption; null when none comes.
+    HWND dialog(const std::string& caption) const { return program_.dialog(caption); }
+    bool hasDialog() const { return program_.findDialog("") != nullptr; }
+    // Waits for a window of that class on top of the others: a pop-up menu, a tooltip.
+    bool hasTopWindow(const std::string& className) const;
+    bool hasPopupMenu() const { return hasTopWindow("#32768"); }
+    bool isRunning() const { return program_.isRunning(); }
+    bool ends() const { return program_.ends(); }  // waits for it
+    // A picture of the screen for people to look at, where somebody takes pictures.
+    void takePicture(const std::string& name) const;
+
+  private:
+    std::string pane(std::size_t index) const;
+    HWND findFrame() const;
+    // A place of the active pane; the flags say which button goes up or down there.
+    void moveMouse(POINT place, DWORD flags) const;
+
+    StartedProgram program_;
+    HWND frame_ = nullptr;
+};
+
+}  // namespace vexa::test

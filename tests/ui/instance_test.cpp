@@ -1,0 +1,139 @@
+// Files that reach a running editor from outside: from a second start, by dropping and by other programs.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+#include <shlobj.h>
+
+#include "ui/dde_client.h"
+#include "ui/dialogs.h"
+#include "ui/editor.h"
+
+namespace vexa::test {
+namespace {
+
+class InstanceTest : public ::testing::Test {
+  protected:
+    InstanceTest() {
+        std::string text;
+        for (int i = 1; i <= 50; ++i)
+            text += "line\r\n";
+        for (const char* name : {"a.c", "b.c", "long name.c"})
+            folder.put(name, text);
+    }
+    // Starts the program once more; false unless it ends at once, as one that has handed its file over.
+    bool startAgain(const std::string& arguments) const {
+        const StartedProgram second(folder, arguments);
+        DWORD code = 1;
+        return second.ends() && GetExitCodeProcess(second.process(), &code) && code == 0;
+    }
+    static bool has(const Editor& editor, std::size_t documents) {
+        return WaitUntil([&] { return editor.documents().size() == documents; });
+    }
+
+    TestFolder folder;
+};
+
+TEST_F(InstanceTest, SecondStartHandsItsFileAndLineOver) {
+    const Editor first(folder);
+    ASSERT_TRUE(first.hasCaption("[untitled.txt]"));
+    ASSERT_TRUE(startAgain("a.c -L20"));
+    EXPECT_TRUE(first.hasCaption("A.C]"));
+    EXPECT_TRUE(first.showsPosition(20, 1));
+    EXPECT_TRUE(WaitUntil([&] { return !folder.has("VEXACMD.DAT"); }));
+    ASSERT_TRUE(startAgain("a.c -L7"));  // moves the caret of the window that has the file
+    EXPECT_TRUE(first.showsPosition(7, 1));
+    EXPECT_TRUE(has(first, 2));
+    ASSERT_TRUE(startAgain("a.c -l5"));  // only the large letter is told from a part of the name
+    const HWND box = first.dialog("Vexa Error");
+    ASSERT_TRUE(box);
+    EXPECT_NE(BoxText(box).find("'A.C -L5'"), std::string::npos) << BoxText(box);
+    EXPECT_TRUE(Press(box, IDOK));
+}
+
+TEST_F(InstanceTest, MinimisedEditorComesBackUp) {
+    const Editor first(folder);
+    ShowWindow(first.frame(), SW_MINIMIZE);
+    ASSERT_TRUE(WaitUntil([&] { return IsIconic(first.frame()); }));
+    ASSERT_TRUE(startAgain("\"long name.c\""));
+    EXPECT_TRUE(WaitUntil([&] { return !IsIconic(first.frame()); }));
+    EXPECT_TRUE(first.hasCaption("LONG NAME.C]"));
+}
+
+TEST_F(InstanceTest, SeveralFilesWildcardsOrNoneStartAnotherEditor) {
+    const Editor first(folder);
+    const Editor second(folder, {"a.c", "b.c"});
+    EXPECT_TRUE(has(second, 2));
+    const Editor third(folder, {"*.c"});
+    EXPECT_TRUE(has(third, 3));
+    const Editor fourth(folder);
+    EXPECT_TRUE(fourth.hasCaption("[untitled.txt]"));
+    EXPECT_TRUE(has(first, 1));
+}
+
+TEST_F(InstanceTest, BrokenHandOffIsReported) {
+    const Editor editor(folder);
+    const UINT message = RegisterWindowMessageA("VexaFileOpen");
+    PostMessageA(editor.frame(), message, 0, 0);
+    HWND box = editor.dialog("Vexa Error");
+    ASSERT_TRUE(box);
+    EXPECT_EQ(BoxText(box), "Unexpected Vexa error at File: VXEAPP01 Line: 2173");
+    ASSERT_TRUE(Press(box, IDOK));
+    for (const std::string& bytes : {std::string(), std::string(100000, 'x'), std::string("\0\n\xFF\xFE\n", 5)}) {
+        folder.put("VEXACMD.DAT", bytes);
+        PostMessageA(editor.frame(), message, 0, 0);
+        if (!bytes.empty()) {
+            ASSERT_TRUE(box = editor.dialog("Vexa Error"));
+            ASSERT_TRUE(Press(box, IDOK));
+        }
+        EXPECT_TRUE(WaitUntil([&] { return !folder.has("VEXACMD.DAT"); }));
+    }
+    EXPECT_TRUE(has(editor, 1));
+}
+
+TEST_F(InstanceTest, OtherProgramsOpenFilesByDde) {
+    const Editor editor(folder);
+    EXPECT_TRUE(ExecuteByDde("[open(\"" + folder.path("a.c") + "\")]"));
+    EXPECT_TRUE(editor.hasCaption("a.c]"));
+    EXPECT_TRUE(ExecuteByDde("[open(\"" + folder.path("b.c") + "\" and anything behind it"));
+    EXPECT_TRUE(editor.hasCaption("b.c]"));
+    for (const char* other : {"[OPEN(\"a.c\")]", "[open(\"a.c)]", "[exit]", ""})
+        EXPECT_FALSE(ExecuteByDde(other)) << other;
+    EXPECT_FALSE(ConnectsByDde("another topic"));
+    EXPECT_TRUE(has(editor, 3));
+}
+
+// What the shell gives to a window on which files are dropped, in the memory of that window's process.
+void* PutDropInto(HANDLE process, const std::string& names) {
+    std::string bytes(sizeof(DROPFILES), '\0');
+    reinterpret_cast<DROPFILES*>(bytes.data())->pFiles = sizeof(DROPFILES);
+    bytes += names + std::string(2, '\0');
+    void* memory = VirtualAllocEx(process, nullptr, bytes.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    if (memory) WriteProcessMemory(process, memory, bytes.data(), bytes.size(), nullptr);
+    return memory;
+}
+
+TEST_F(InstanceTest, DroppedFilesOpenInTheirOrder) {
+    const Editor editor(folder);
+    const std::string names = folder.path("b.c") + '\0' + folder.path("a.c");
+    void* drop = PutDropInto(editor.process(), names);
+    ASSERT_TRUE(drop);
+    PostMessageA(editor.frame(), WM_DROPFILES, reinterpret_cast<WPARAM>(drop), 0);
+    ASSERT_TRUE(has(editor, 3));
+    EXPECT_TRUE(editor.hasCaption("a.c]"));
+    editor.keys("{Alt+N}");
+    EXPECT_TRUE(editor.hasCaption("b.c]"));
+}
+
+TEST_F(InstanceTest, CommandLineIsExplainedOnRequest) {
+    for (const char* request : {"/?", "-?"}) {
+        const StartedProgram asked(folder, request);
+        const HWND box = asked.dialog("Vexa 95");
+        ASSERT_TRUE(box) << request;
+        EXPECT_NE(BoxText(box).find("-L"), std::string::npos) << BoxText(box);
+        ASSERT_TRUE(Press(box, IDOK));
+        EXPECT_TRUE(asked.ends());
+    }
+}
+
+}  // namespace
+}  // namespace vexa::test

@@ -1,0 +1,93 @@
+// Recording keys and playing them again.
+#include <gtest/gtest.h>
+
+#include "ui/dialogs.h"
+#include "ui/editor.h"
+
+namespace vexa::test {
+namespace {
+
+class MacroTest : public ::testing::Test {
+  protected:
+    MacroTest() { folder.put("a.txt", "one 1\r\ntwo 2\r\nthree 3\r\nfour 4\r\nfive 5\r\n"); }
+
+    // Records what puts a sign before a line and takes its last two characters away.
+    static void recordOn(const Editor& editor) {
+        editor.keys("{F7}");
+        ASSERT_TRUE(editor.showsMessage("Macro recording started"));
+        editor.keys("> {End}{Left*2}{Alt+A}{Right*2}{Del}{Down}{Home}");
+        editor.keys("{F7}");
+        ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
+    }
+    std::string saved(const Editor& editor, const std::string& expected) const {
+        editor.command(203);
+        return folder.getOnce("a.txt", expected);
+    }
+
+    TestFolder folder;
+};
+
+TEST_F(MacroTest, PlaybackDoesWhatTheKeysDid) {
+    const Editor editor(folder, {"a.txt"});
+    recordOn(editor);
+    editor.keys("{F8}");
+    ASSERT_TRUE(editor.showsMessage("Macro playback complete"));
+    EXPECT_TRUE(editor.showsPosition(3, 1));
+    const std::string expected = "> one\r\n> two\r\nthree 3\r\nfour 4\r\nfive 5\r\n";
+    EXPECT_EQ(saved(editor, expected), expected);
+}
+
+TEST_F(MacroTest, RepeatedPlaybackPlaysAsOftenAsAskedFor) {
+    const Editor editor(folder, {"a.txt"});
+    recordOn(editor);
+    editor.keys("{Ctrl+R}");
+    HWND dialog = editor.dialog("Macro Repeat");
+    ASSERT_TRUE(dialog);
+    editor.takePicture("macro-repeat");
+    editor.keys("0{Enter}");
+    ASSERT_TRUE(editor.showsMessage("The number of playbacks must be 1 to 9999."));
+    EXPECT_TRUE(IsWindow(dialog));
+    editor.keys("3{Enter}");
+    ASSERT_TRUE(editor.showsMessage("Macro playback complete"));
+    const std::string expected = "> one\r\n> two\r\n> three\r\n> four\r\nfive 5\r\n";
+    EXPECT_EQ(saved(editor, expected), expected);
+    editor.keys("{Ctrl+R}");
+    ASSERT_TRUE(dialog = editor.dialog("Macro Repeat"));
+    EXPECT_EQ(TextOf(ChildrenOf(dialog, "Edit").at(0)), "3");
+    editor.keys("{Esc}");
+    EXPECT_TRUE(WaitUntil([&] { return !editor.hasDialog(); }));
+    EXPECT_EQ(saved(editor, expected), expected);
+}
+
+TEST_F(MacroTest, WhatCannotBeDoneIsRefusedInTheStatusBar) {
+    const Editor editor(folder, {"a.txt"});
+    editor.keys("{F8}");
+    EXPECT_TRUE(editor.showsMessage("No macro recorded!"));
+    editor.keys("{F7}{F8}");
+    EXPECT_TRUE(editor.showsMessage("Can't playback macro while recording!"));
+    editor.takePicture("macro-refused");
+    editor.command(450);
+    EXPECT_TRUE(editor.showsMessage("You can't record this action as a macro!"));
+    editor.keys("{F7}");
+    EXPECT_TRUE(editor.showsMessage("Macro recording was canceled"));
+}
+
+TEST_F(MacroTest, CanceledRecordingKeepsTheOldMacroAndAnotherOneTakesItsPlace) {
+    const Editor editor(folder, {"a.txt"});
+    editor.keys("{F7}1{F7}");
+    ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
+    editor.keys("{F7}{F7}");
+    ASSERT_TRUE(editor.showsMessage("Macro recording was canceled"));
+    editor.keys("{F8}");
+    ASSERT_TRUE(editor.showsPosition(1, 3));
+    editor.keys("{F7}2{Ctrl+End}{F7}");  // a command is played among the keys
+    ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
+    editor.keys("{Ctrl+Home}{F8}");
+    ASSERT_TRUE(editor.showsMessage("Macro playback complete"));
+    EXPECT_TRUE(editor.showsPosition(5, 7));
+    const std::string expected = "2112one 1\r\ntwo 2\r\nthree 3\r\nfour 4\r\nfive 5\r\n";
+    EXPECT_EQ(saved(editor, expected), expected);
+}
+
+}  // namespace
+}  // namespace vexa::test

@@ -1,0 +1,103 @@
+// Commands, keys and mouse at random, thousands a minute. VEXA_SOAK_SECONDS says for how long, VEXA_SOAK_SEED which.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+#include "ui/dialogs.h"
+#include "ui/editor.h"
+
+namespace vexa::test {
+namespace {
+
+unsigned FromEnvironment(const char* name, unsigned otherwise) {
+    const char* given = std::getenv(name);
+    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
+}
+
+// Commands that ask nothing, close nothing and write no file.
+constexpr WORD kCommands[] = {300, 300, 301, 302, 303, 304, 305, 312, 307, 308, 425, 426, 450, 451, 600,
+                              601, 602, 603, 604, 606, 607, 800, 801, 802, 900, 901, 902, 903, 904};
+
+constexpr const char* kKeys[] = {
+    "word ",       "{Enter}",      "x",        "{Backspace}",      "{Del}",
+    "{Tab}",       "{Shift+Tab}",  "{Up}",     "{Down}",           "{Left}",
+    "{Right}",     "{Home}",       "{End}",    "{PgUp}",           "{PgDn}",
+    "{Ctrl+Left}", "{Ctrl+Right}", "{Alt+A}",  "{Alt+L}",          "{Alt+C}",
+    "{Alt+D}",     "{Alt+K}",      "{Ctrl+K}", "{Alt+I}",          "{Alt+3}",
+    "{Esc}",       "{Ctrl+Z}",     "{Ctrl+A}", "{Ctrl+Backspace}", "{F7}",
+    "{F8}",        "{Alt+N}",      "(a[1])",   "{Ctrl+Home}",      "{Ctrl+End}",
+};
+
+// More than any soak leaves to be undone.
+constexpr int kMostSteps = 1'000'000;
+
+class Soak : public ::testing::Test {
+  protected:
+    std::size_t below(std::size_t bound) { return random_() % bound; }
+    bool doSomething(const Editor& editor) {
+        switch (below(10)) {
+            case 0:
+                editor.drag(somePlaces(editor));
+                return true;
+            case 1:
+            case 2:
+                return editor.runCommand(kCommands[below(std::size(kCommands))]);
+            default:
+                editor.keys(kKeys[below(std::size(kKeys))]);
+                return true;
+        }
+    }
+    // Well inside the active pane, so that what moves meanwhile does not come under the mouse.
+    std::vector<POINT> somePlaces(const Editor& editor) {
+        RECT room{};
+        GetClientRect(editor.activePane(), &room);
+        std::vector<POINT> places(1 + below(3));
+        for (POINT& place : places)
+            place = {20 + static_cast<LONG>(below(200)), room.bottom / 2 + static_cast<LONG>(below(20))};
+        return places;
+    }
+    // Undoes everything in the active document, writes it and gives back what was written.
+    std::string undone(const Editor& editor, const std::string& name) {
+        editor.keys("{Esc}");
+        for (int i = 0; i < kMostSteps && editor.message() != "Nothing to undo!"; ++i)
+            editor.runCommand(300);
+        folder.put(name, "not what was loaded");
+        editor.command(203);
+        EXPECT_TRUE(editor.showsMessage("Write successful.")) << editor.message();
+        return folder.get(name);
+    }
+
+    TestFolder folder;
+    std::mt19937 random_{FromEnvironment("VEXA_SOAK_SEED", 1)};
+};
+
+TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
+    std::string text;
+    for (int i = 0; i < 200; ++i)
+        text += "int f" + std::to_string(i) + "(int x) { return g(x, {1, 2}); }  // a line of text\r\n";
+    folder.put("a.c", text);
+    folder.put("b.c", text);
+    folder.put("vexa.INI", "[Editor Options]\r\nAutoBackup=0\r\n");
+    const Editor editor(folder, {"a.c", "b.c"});
+    ASSERT_TRUE(editor.hasCaption("b.c]"));
+    const DWORD start = GetTickCount();
+    const DWORD duration = 1000 * FromEnvironment("VEXA_SOAK_SECONDS", 20);
+    unsigned done = 0;
+    for (; GetTickCount() - start < duration; ++done) {
+        ASSERT_TRUE(doSomething(editor) && editor.answers()) << "after " << done;
+        ASSERT_TRUE(editor.isRunning()) << "after " << done;
+        ASSERT_FALSE(editor.hasDialog()) << "after " << done;
+    }
+    RecordProperty("actions", static_cast<int>(done));
+    for (int i = 0; i < 2; ++i) {
+        const std::string name = editor.caption().find("a.c") != std::string::npos ? "a.c" : "b.c";
+        EXPECT_EQ(undone(editor, name), text) << name;
+        editor.runCommand(606);
+    }
+    EXPECT_EQ(folder.get("a.c") + folder.get("b.c"), text + text);
+    EXPECT_GT(done, duration / 1000 * 10);
+}
+
+}  // namespace
+}  // namespace vexa::test

@@ -1,0 +1,31 @@
+// A program folder of a test's own: the editor, its settings and the files that it edits.
+#pragma once
+
+#include <string>
+
+namespace vexa::test {
+
+class TestFolder {
+  public:
+    TestFolder();
+    ~TestFolder();
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    // The full path of a name in the folder; the folder's own without a name.
+    std::string path(const std::string& name = {}) const;
+    std::string program() const { return path("vexa.exe"); }
+    void put(const std::string& name, const std::string& bytes) const;
+    // Empty for a missing file.
+    std::string get(const std::string& name) const;
+    // The file as soon as it holds what is expected, or as it is when that never happens.
+    std::string getOnce(const std::string& name, const std::string& expected) const;
+    bool has(const std::string& name) const;
+    void setReadOnly(const std::string& name) const;
+    void makeDirectory(const std::string& name) const;
+
+  private:
+    std::string path_;
+};
+
+}  // namespace vexa::test

@@ -1,0 +1,124 @@
+// The document windows inside the frame.
+#include <gtest/gtest.h>
+
+#include "ui/editor.h"
+
+namespace vexa::test {
+namespace {
+
+class WindowTest : public ::testing::Test {
+  protected:
+    WindowTest() {
+        for (const char* name : {"a.txt", "b.txt", "c.txt"})
+            folder.put(name, std::string(name) + "\r\n");
+    }
+    void setDisplayMode(int mode) {
+        folder.put("vexa.INI", "[Editor Options]\r\nDisplayMode=" + std::to_string(mode) + "\r\n");
+    }
+    static std::vector<RECT> places(const Editor& editor) {
+        std::vector<RECT> places;
+        for (const HWND window : ChildrenOf(editor.frame(), "MDIchildCL")) {
+            places.emplace_back();
+            GetWindowRect(window, &places.back());
+        }
+        return places;
+    }
+
+    TestFolder folder;
+};
+
+TEST_F(WindowTest, FilesOpenInOrderAndTheKeysGoRoundThem) {
+    const Editor editor(folder, {"a.txt", "b.txt", "c.txt"});
+    ASSERT_TRUE(editor.hasCaption("Vexa 95 - [" + folder.path("c.txt") + "]"));
+    ASSERT_EQ(editor.documents().size(), 3u);
+    // The next window is the one that was active before.
+    for (const char* next : {"b.txt]", "a.txt]", "c.txt]"}) {
+        editor.keys("{Alt+N}");
+        EXPECT_TRUE(editor.hasCaption(next)) << next;
+    }
+    editor.keys("{Alt+Minus}");
+    EXPECT_TRUE(editor.hasCaption("a.txt]"));
+    editor.keys("{Alt+N}");
+    EXPECT_TRUE(editor.hasCaption("c.txt]"));
+    editor.keys("x");
+    EXPECT_TRUE(editor.hasCaption("c.txt *]"));  // the keyboard went with the window
+}
+
+TEST_F(WindowTest, WindowsAreArrangedByTheWindowMenu) {
+    setDisplayMode(9);
+    const Editor editor(folder, {"a.txt", "b.txt"});
+    ASSERT_TRUE(WaitUntil([&] { return editor.documents().size() == 2; }));
+    EXPECT_EQ(editor.caption(), "Vexa 95");
+    editor.command(604);  // one above the other
+    EXPECT_TRUE(WaitUntil([&] {
+        const auto at = places(editor);
+        return at[0].left == at[1].left && (at[0].bottom <= at[1].top || at[1].bottom <= at[0].top);
+    }));
+    editor.takePicture("tiled");
+    editor.command(603);  // side by side
+    EXPECT_TRUE(WaitUntil([&] {
+        const auto at = places(editor);
+        return at[0].top == at[1].top && (at[0].right <= at[1].left || at[1].right <= at[0].left);
+    }));
+    editor.command(601);  // cascaded
+    EXPECT_TRUE(WaitUntil([&] {
+        const auto at = places(editor);
+        return at[0].left != at[1].left && at[0].top != at[1].top;
+    }));
+    editor.takePicture("cascaded");
+}
+
+TEST_F(WindowTest, DisplayModeDecidesHowNewWindowsAreShown) {
+    setDisplayMode(2);
+    {
+        const Editor editor(folder, {"a.txt"});
+        EXPECT_TRUE(WaitUntil([&] {
+            const auto windows = ChildrenOf(editor.frame(), "MDIchildCL");
+            return windows.size() == 1 && IsIconic(windows[0]);
+        }));
+        editor.takePicture("minimised");
+    }
+    setDisplayMode(1);
+    const Editor editor(folder, {"a.txt", "b.txt"});
+    EXPECT_TRUE(WaitUntil([&] {
+        const auto at = places(editor);
+        RECT common;
+        return at.size() == 2 && !IntersectRect(&common, &at[0], &at[1]);
+    }));
+}
+
+TEST_F(WindowTest, ClickingInAWindowMakesItTheActiveOne) {
+    setDisplayMode(1);
+    const Editor editor(folder, {"a.txt", "b.txt"});
+    ASSERT_TRUE(WaitUntil([&] { return editor.documents().size() == 2 && editor.activePane(); }));
+    const HWND first = editor.activeDocument();
+    HWND other = nullptr;
+    for (const HWND window : ChildrenOf(editor.frame(), "MDIchildCL"))
+        other = window == first ? other : window;
+    // Seen from the active pane, the other one lies outside it.
+    POINT place{3, 3};
+    MapWindowPoints(ChildrenOf(other, "PaneWindowCL").at(0), editor.activePane(), &place, 1);
+    editor.click(place);
+    EXPECT_TRUE(WaitUntil([&] { return editor.activeDocument() == other; }));
+    editor.keys("x");
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(other).ends_with(" *"); }));
+    EXPECT_FALSE(TextOf(first).ends_with(" *"));
+}
+
+TEST_F(WindowTest, ResizingTheFrameResizesWhatIsInIt) {
+    const Editor editor(folder, {"a.txt"});
+    RECT before, after;
+    GetWindowRect(editor.activePane(), &before);
+    SetWindowPos(editor.frame(), nullptr, 0, 0, 500, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(WaitUntil([&] {
+        GetWindowRect(editor.activePane(), &after);
+        return after.right - after.left < before.right - before.left && after.bottom < before.bottom;
+    }));
+    editor.takePicture("small-frame");
+    SetWindowPos(editor.frame(), nullptr, 0, 0, 60, 40, SWP_NOMOVE | SWP_NOZORDER);  // no room for anything
+    editor.keys("x");
+    EXPECT_TRUE(editor.hasCaption("a.txt *]"));
+}
+
+}  // namespace
+}  // namespace vexa::test
