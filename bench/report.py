@@ -1,0 +1,109 @@
+#!/usr/bin/python3
+"""Prints what a run of the benchmarks says: the bars and whether they are met, then every figure beside its peers.
+
+usage: report.py FOLDER    holds *.json of Google Benchmark, and *.txt with lines "name value ..." of the others
+"""
+
+import json
+import sys
+from collections import defaultdict
+from pathlib import Path
+
+UNITS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}  # in nanoseconds
+
+# What is measured, what it is compared with (another figure, or a number in nanoseconds), and how often that it may be.
+BARS = [
+    ("load/C/vexa", "load/C/qscintilla", 1),
+    ("load/C/vexa", "load/C/lines", 2),
+    ("load/WIDE/vexa", "load/WIDE/qscintilla", 1),
+    ("load/WIDE/vexa", "load/WIDE/lines", 2),
+    ("load_warm/C/vexa", "load_warm/C/lines", 2),
+    ("load_warm/WIDE/vexa", "load_warm/WIDE/lines", 2),
+    # The editor's writes are on the disk when they return, so the write beside them is brought there too. For an
+    # existing file there are a safety copy and its way to the disk besides.
+    ("write_new/C/vexa", "write_new/C/one_write_synced", 1.5),
+    ("write_new/WIDE/vexa", "write_new/WIDE/one_write_synced", 1.5),
+    ("write_new/C/vexa", "write_new/C/lines_buffered_synced", 1.1),
+    ("write_new/WIDE/vexa", "write_new/WIDE/lines_buffered_synced", 1.1),
+    ("write_existing/C/vexa", "write_new/C/one_write_synced", 3),
+    ("write_existing/WIDE/vexa", "write_new/WIDE/one_write_synced", 3),
+    ("line_in_and_out/C/vexa", "line_in_and_out/C/memmove", 1.5),
+    ("line_in_and_out/C/vexa_keys", "line_in_and_out/C/memmove", 1.5),
+    ("type/C/vexa", "type/1_line/vexa", 1.2),
+    ("undo_redo/100000/vexa", 100, 1),
+    ("undo_redo/100000/vexa", "undo_redo/1000/vexa", 1.5),
+    ("lines_at_top/C/vexa", 15000, 1),
+    ("startup/c.txt/vexa", "startup/c.txt/notepad", 1.5),
+    ("startup/small.txt/vexa", "startup/small.txt/notepad", 1.5),
+]
+
+
+def figure_name(name):
+    """The name with what is measured last: "undo_redo/1000/vexa" is "undo_redo/1000/vexa"."""
+    place, _, last = name.rpartition("/")
+    if last.isdigit():
+        place, _, subject = place.rpartition("/")
+        return f"{place}/{last}/{subject}"
+    return name
+
+
+def read_figures(folder):
+    """Name to nanoseconds (of an item, where a benchmark counts items), bytes, or what the file has. Work that waits for
+    the disk has its time by the clock, and all else that of the processor, in which other programs do not count."""
+    figures = {}
+    for path in sorted(folder.glob("*.json")):
+        for run in json.loads(path.read_text())["benchmarks"]:
+            if run.get("run_type") == "aggregate" or run.get("error_occurred"):
+                continue
+            clocked = run["name"].removesuffix("/real_time").removesuffix("/manual_time")
+            name = figure_name(clocked)
+            if "items_per_second" in run:
+                figures[name] = 1e9 / run["items_per_second"]
+            else:
+                figures[name] = run["cpu_time" if clocked == run["name"] else "real_time"] * UNITS[run["time_unit"]]
+            if "bytes_step" in run:
+                figures["bytes_step/" + name] = run["bytes_step"]
+    for path in sorted(folder.glob("*.txt")):
+        for line in path.read_text().splitlines():
+            name, value, *_ = line.split()
+            figures[name] = float(value)
+    return figures
+
+
+def print_bars(figures):
+    print(f"{'bar':60} {'ratio':>8} {'at most':>8}")
+    for name, peer, most in BARS:
+        base = peer if isinstance(peer, (int, float)) else figures.get(peer)
+        if name not in figures or base is None:
+            print(f"{name + ' : ' + str(peer):60} {'-':>8} {most:>8} not measured")
+            continue
+        ratio = figures[name] / base
+        text = f"{name} : {peer}" + (" ns" if base is peer else "")
+        print(f"{text:60} {ratio:8.2f} {most:8} {'' if ratio <= most else 'MISSED'}")
+
+
+def print_peers(figures):
+    """Every piece of work with a figure of the editor, and how often that each peer takes."""
+    work = defaultdict(dict)
+    for name, value in figures.items():
+        place, _, subject = name.rpartition("/")
+        work[place][subject] = value
+    print(f"\n{'work':44} {'figure':>12}   peers, as multiples of it")
+    for place, subjects in work.items():
+        own = "vexa" if "vexa" in subjects else None
+        if own is None:
+            for subject, value in subjects.items():
+                print(f"{place + '/' + subject:44} {value:12.1f}")
+            continue
+        peers = "  ".join(f"{s} {v / subjects[own]:.2f}" for s, v in subjects.items() if s != own)
+        print(f"{place:44} {subjects[own]:12.1f}   {peers}")
+
+
+def main():
+    figures = read_figures(Path(sys.argv[1]))
+    print_bars(figures)
+    print_peers(figures)
+
+
+if __name__ == "__main__":
+    main()
