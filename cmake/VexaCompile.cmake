@@ -1,7 +1,9 @@
 # How every target of this project is compiled: warnings as errors, sanitizers, and the flags of the Windows programs.
+# Paths below the checkout are told to ccache as relative ones, so that another checkout finds what this one has compiled.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
 endif()
 
 add_library(vexa_compile INTERFACE)

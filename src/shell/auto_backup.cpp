@@ -1,9 +1,9 @@
 #include "shell/auto_backup.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "base/file.h"
+#include "base/scoped_flag.h"
 #include "base/strings.h"
 #include "document/text_writer.h"
 
@@ -33,11 +33,9 @@ std::int64_t AutoBackup::BackupTime(TextDocument& document) const {
 bool AutoBackup::BackupDocument(TextDocument& document) const {
     BackupState& state = document.backup();
     if (state.isWriting || !document.isModified()) return false;
-    state.isWriting = true;
-    const bool written = writeCopy(document);
-    state.isWriting = false;
+    const ScopedFlag writing(state.isWriting);
     state.time = clock_();
-    return written;
+    return writeCopy(document);
 }
 
 bool AutoBackup::writeCopy(TextDocument& document) const {
@@ -58,14 +56,13 @@ bool AutoBackup::isOpen(const TextDocument* document) const {
 
 void AutoBackup::CheckBackups() {
     if (!options_.AutoBackup || checking_ || frame_.isBusy()) return;
-    checking_ = true;
+    const ScopedFlag checking(checking_);
     for (TextDocument* document : frame_.openDocuments()) {
         if (!isOpen(document) || !isDue(*document)) continue;
         notices_.status(LoadText(kTextBackupStarted), false, false);
         if (notices_.pumpMessages()) break;
         if (isOpen(document)) BackupDocument(*document);
     }
-    checking_ = false;
 }
 
 }  // namespace vexa

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/scoped_flag.h"
 #include "shell/command_table.h"
 
 namespace vexa {
@@ -62,11 +63,10 @@ bool KeyMacro::Play() {
         notices_.status("No macro recorded!", true, true);
         return false;
     }
-    playing_ = true;
+    const ScopedFlag playing(playing_);
     notices_.status("Macro playback started", false, false);
     const bool played = playSteps();
     if (played) notices_.status("Macro playback complete", false, false);
-    playing_ = false;
     return played;
 }
 

@@ -3,6 +3,9 @@
 
 #include <shellapi.h>
 
+#include "base/directories.h"
+#include "base/platform.h"
+#include "base/strings.h"
 #include "ui/for_each_document.h"
 #include "ui/vexa_frame.h"
 
@@ -11,6 +14,7 @@ namespace {
 
 constexpr WORD kExit = 208;
 constexpr WORD kRecentFilesSeparator = 100;
+constexpr std::uint16_t kTextCannotOpen = 3108;
 
 ScreenRect ToScreenRect(const RECT& area) {
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
@@ -91,6 +95,16 @@ void VexaFrame::showRecentFiles() {
     const auto first = static_cast<WORD>(kFirstRecentFile);
     ReplaceItemsBefore(fileMenu_, kExit, {first, static_cast<WORD>(first + 1)}, items, kRecentFilesSeparator);
     DrawMenuBar(window());
+}
+
+// A new document under the name of a file that has gone since is nothing that the user asked for.
+void VexaFrame::restoreFile(const std::string& path, std::int32_t line) {
+    if (platform::PathExists(path)) {
+        opening_.OpenFileAtLine(path, line);
+    } else {
+        const std::string name = path.substr(DirectoryOf(path).size());
+        notices_.box(FillText(kTextCannotOpen, {name}), kErrorCaption, BoxButtons::Ok);
+    }
 }
 
 bool VexaFrame::mayClose() {

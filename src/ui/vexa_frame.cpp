@@ -57,9 +57,8 @@ bool VexaFrame::open(int showCommand, std::span<const FileAtLine> files) {
     UpdateWindow(window());
     recentFiles_.LoadRecentFiles(application_.store, application_.options.RestoreFiles);
     showRecentFiles();
-    startupFiles_.RestoreStartupFiles(
-        application_.options.RestoreFiles,
-        [this](const std::string& path, std::int32_t line) { opening_.OpenFileAtLine(path, line); });
+    startupFiles_.RestoreStartupFiles(application_.options.RestoreFiles,
+                                      [this](const std::string& path, std::int32_t line) { restoreFile(path, line); });
     opening_.OpenCommandLineFiles(files);
     if (children().empty() && files.empty()) newDocument();
     SetTimer(window(), kBackupTimer, kBackupCheckInterval, nullptr);

