@@ -159,6 +159,10 @@ void DialogFrameCL::fillCombo(int number, std::span<const std::string> texts) {
         SendDlgItemMessageA(window_, number, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
+void DialogFrameCL::markComboText(int number) {
+    SendDlgItemMessageA(window_, number, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+}
+
 std::string DialogFrameCL::chosenTextOf(int number) const {
     const HWND combo = control(number);
     const auto chosen = static_cast<WPARAM>(SendMessageA(combo, CB_GETCURSEL, 0, 0));

@@ -47,6 +47,8 @@ class DialogFrameCL {
     void limitComboText(int control, std::size_t characters);
     // Puts the texts into a combo box's list, and empties its field.
     void fillCombo(int control, std::span<const std::string> texts);
+    // Selects all of the text in a combo box's field.
+    void markComboText(int control);
     // The text that is chosen in a combo box's list; empty when none is.
     std::string chosenTextOf(int control) const;
     bool isChecked(int control) const;

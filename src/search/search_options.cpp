@@ -10,6 +10,9 @@ namespace {
 
 constexpr const char* kSection = "Searching";
 
+// A text with its terminator and the pair of quotes that may guard it.
+constexpr std::size_t kBufferSize = SearchOptions::kTextLimit + 1 + 2;
+
 struct OptionKey {
     const char* key;
     bool SearchOptions::Values::*option;
@@ -46,8 +49,8 @@ std::string WithoutEscapes(const std::string& typed) {
 }  // namespace
 
 void SearchOptions::Load(const ConfigStore& store) {
-    setFindText(store.ReadString(kSection, "FindText", "", kTextLimit + 1), false);
-    setReplaceText(store.ReadString(kSection, "ReplaceText", "", kTextLimit + 1));
+    setFindText(store.ReadString(kSection, "FindText", "", kBufferSize), false);
+    setReplaceText(store.ReadString(kSection, "ReplaceText", "", kBufferSize));
     for (const OptionKey& row : kOptionKeys)
         values_.*row.option = store.ReadInt(kSection, row.key, values_.*row.option ? 1 : 0) != 0;
 }

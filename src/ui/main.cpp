@@ -34,6 +34,12 @@ void ShowCommandLineHelp() {
     vexa::ShowBox(nullptr, vexa::kCommandLineHelp, std::string(vexa::kProgramCaption), MB_OK);
 }
 
+// The marker of a program that was killed stays until the user logs off; a file handed over then would be read by
+// nobody.
+bool IsEditorOpen() {
+    return FindWindowA(vexa::kFrameClassName, nullptr) != nullptr;
+}
+
 int RunEditor(const vexa::CommandLine& commandLine, int showCommand) {
     // Full names: the start directory may make another directory the current one before the files are opened.
     const auto files = vexa::FilesOf(commandLine.arguments);
@@ -61,6 +67,6 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
         return 0;
     }
     StartNotices notices;
-    if (vexa::HandedOff(commandLine, notices)) return 0;
+    if (IsEditorOpen() && vexa::HandedOff(commandLine, notices)) return 0;
     return RunEditor(commandLine, showCommand);
 }

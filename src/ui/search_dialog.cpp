@@ -52,6 +52,7 @@ void SearchDialog::showCombo(int control, const HistoryList& history, const std:
     limitComboText(control, SearchOptions::kTextLimit);
     fillCombo(control, history.entries());
     setTextOf(control, text);
+    markComboText(control);
 }
 
 void SearchDialog::showFields() {

@@ -20,7 +20,7 @@
 namespace vexa {
 namespace {
 
-constexpr WindowClass kFrameClass{.name = "AppFrameCL", .background = COLOR_APPWORKSPACE, .icon = IDI_VEXA};
+constexpr WindowClass kFrameClass{.name = kFrameClassName, .background = COLOR_APPWORKSPACE, .icon = IDI_VEXA};
 constexpr UINT_PTR kBackupTimer = 1;
 constexpr UINT kBackupCheckInterval = 10'000;  // milliseconds
 

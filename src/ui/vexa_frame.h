@@ -29,6 +29,8 @@
 
 namespace vexa {
 
+inline constexpr const char* kFrameClassName = "AppFrameCL";
+
 class VexaFrame : public MDIframeCL,
                   private DocumentHost,
                   private FileQuestions,

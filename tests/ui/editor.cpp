@@ -25,12 +25,6 @@ std::vector<HWND> CollectChildren(HWND parent) {
     return children;
 }
 
-// What tells a later run of the program that one is there already. The system keeps it when a run is killed.
-void RemoveActiveMarker() {
-    while (const ATOM atom = GlobalFindAtomA("VexaIsActive"))
-        GlobalDeleteAtom(atom);
-}
-
 std::string CommandLineOf(const std::vector<std::string>& names) {
     std::string line;
     for (const std::string& name : names)
@@ -96,7 +90,6 @@ void StartedProgram::kill() {
     if (!isRunning()) return;
     TerminateProcess(process_, 1);
     WaitForSingleObject(process_, kPatience);
-    RemoveActiveMarker();
 }
 
 bool StartedProgram::ends() const {

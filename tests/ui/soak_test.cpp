@@ -66,7 +66,7 @@ class Soak : public ::testing::Test {
         folder.put(name, "not what was loaded");
         if (editor.mode() == "OVR") editor.keys("{Alt+I}");
         editor.keys("{Ctrl+Home}z{Backspace}");
-        EXPECT_TRUE(editor.hasCaption("*"));
+        EXPECT_TRUE(WaitUntil([&] { return TextOf(editor.activeDocument()).ends_with(" *"); }));
         editor.command(203);
         EXPECT_TRUE(editor.showsMessage("Write successful.")) << editor.message();
         return folder.get(name);
@@ -95,7 +95,7 @@ TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
     }
     RecordProperty("actions", static_cast<int>(done));
     for (int i = 0; i < 2; ++i) {
-        const std::string name = editor.caption().find("a.c") != std::string::npos ? "a.c" : "b.c";
+        const std::string name = TextOf(editor.activeDocument()).find("a.c") != std::string::npos ? "a.c" : "b.c";
         EXPECT_EQ(undone(editor, name), text) << name;
         editor.runCommand(606);
     }

@@ -59,9 +59,9 @@ TEST(KeyTranslation, RepeatedKeysAndCharactersKeepTheirCount) {
 
 TEST(KeyTranslation, ControlCharactersAreDroppedAndAllOthersAreTyped) {
     KeyTranslator translator;
-    for (const unsigned char c : {'\0', '\b', '\t', '\r', '\x1B', '\x1F'})
+    for (const unsigned char c : std::initializer_list<unsigned char>{0, '\b', '\t', '\r', 0x1B, 0x1F})
         EXPECT_EQ(Word(translator.character(c, 1, false)), "-") << int{c};
-    for (const unsigned char c : std::string("\x20\x7E\x7F\x80\xFF"))
+    for (const unsigned char c : std::initializer_list<unsigned char>{0x20, 0x7E, 0x7F, 0x80, 0xFF})
         EXPECT_NE(Word(translator.character(c, 1, false)), "-");
     EXPECT_EQ(Word(translator.character(127, 1, true)), "-");       // what Ctrl+Backspace makes
     EXPECT_EQ(Word(translator.character('@', 1, true)), "'64'x1");  // typed with AltGr
