@@ -79,6 +79,7 @@ TEST_F(MacroTest, CanceledRecordingKeepsTheOldMacroAndAnotherOneTakesItsPlace) {
     editor.keys("{F7}{F7}");
     ASSERT_TRUE(editor.showsMessage("Macro recording was canceled"));
     editor.keys("{F8}");
+    ASSERT_TRUE(editor.showsMessage("Macro playback complete"));
     ASSERT_TRUE(editor.showsPosition(1, 3));
     editor.keys("{F7}2{Ctrl+End}{F7}");  // a command is played among the keys
     ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
