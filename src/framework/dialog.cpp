@@ -25,6 +25,22 @@ bool IsOnAMonitor(POINT corner) {
     return MonitorFromPoint(corner, MONITOR_DEFAULTTONULL) != nullptr;
 }
 
+// The messages of a control that lists texts: a list box and a combo box have their own.
+struct ListMessages {
+    UINT clear;
+    UINT add;
+    UINT choose;
+    UINT chosen;
+};
+constexpr ListMessages kListBox = {LB_RESETCONTENT, LB_ADDSTRING, LB_SETCURSEL, LB_GETCURSEL};
+constexpr ListMessages kComboBox = {CB_RESETCONTENT, CB_ADDSTRING, CB_SETCURSEL, CB_GETCURSEL};
+
+const ListMessages& MessagesOf(HWND list) {
+    char name[16] = "";
+    GetClassNameA(list, name, sizeof(name));
+    return lstrcmpiA(name, "ComboBox") == 0 ? kComboBox : kListBox;
+}
+
 POINT CentredOver(const RECT& owner, const RECT& dialog) {
     const LONG left = (owner.left + owner.right - (dialog.right - dialog.left)) / 2;
     const LONG top = (owner.top + owner.bottom - (dialog.bottom - dialog.top)) / 2;
@@ -77,7 +93,7 @@ INT_PTR CALLBACK DialogFrameCL::Procedure(HWND window, UINT number, WPARAM wPara
     }
 }
 
-INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM /*lParam*/) {
+INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM lParam) {
     switch (number) {
         case WM_INITDIALOG:
             open();
@@ -85,6 +101,8 @@ INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM /*lParam*/) {
         case WM_COMMAND:
             command(LOWORD(wParam), HIWORD(wParam));
             return TRUE;
+        case WM_DRAWITEM:
+            return onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         case WM_ACTIVATE:
             onActivate(LOWORD(wParam) != WA_INACTIVE);
             return FALSE;
@@ -153,10 +171,25 @@ void DialogFrameCL::limitComboText(int number, std::size_t characters) {
     SendDlgItemMessageA(window_, number, CB_LIMITTEXT, characters, 0);
 }
 
-void DialogFrameCL::fillCombo(int number, std::span<const std::string> texts) {
-    SendDlgItemMessageA(window_, number, CB_RESETCONTENT, 0, 0);
+void DialogFrameCL::fillList(int number, std::span<const std::string> texts) {
+    const HWND list = control(number);
+    const ListMessages& messages = MessagesOf(list);
+    SendMessageA(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageA(list, messages.clear, 0, 0);
     for (const std::string& text : texts)
-        SendDlgItemMessageA(window_, number, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        SendMessageA(list, messages.add, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    SendMessageA(list, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(list, nullptr, TRUE);
+}
+
+void DialogFrameCL::chooseRow(int number, std::size_t row) {
+    SendMessageA(control(number), MessagesOf(control(number)).choose, row, 0);
+}
+
+std::optional<std::size_t> DialogFrameCL::chosenRowOf(int number) const {
+    const LRESULT row = SendMessageA(control(number), MessagesOf(control(number)).chosen, 0, 0);
+    if (row < 0) return std::nullopt;  // LB_ERR, CB_ERR
+    return static_cast<std::size_t>(row);
 }
 
 void DialogFrameCL::markComboText(int number) {

@@ -33,6 +33,8 @@ class DialogFrameCL {
     virtual void onHelp() {}
     // A control has told something: BN_CLICKED, EN_CHANGE, CBN_SELCHANGE...
     virtual void onControl(int /*control*/, UINT /*notification*/) {}
+    // A row of a control that the program draws itself; false leaves it empty.
+    virtual bool onDrawItem(const DRAWITEMSTRUCT& /*item*/) { return false; }
     virtual void onActivate(bool /*active*/) {}
     // The window is gone; the object may be destroyed here.
     virtual void onGone() {}
@@ -45,12 +47,15 @@ class DialogFrameCL {
     void setTextOf(int control, const std::string& text);
     void limitTextOf(int control, std::size_t characters);
     void limitComboText(int control, std::size_t characters);
-    // Puts the texts into a combo box's list, and empties its field.
-    void fillCombo(int control, std::span<const std::string> texts);
     // Selects all of the text in a combo box's field.
     void markComboText(int control);
     // The text that is chosen in a combo box's list; empty when none is.
     std::string chosenTextOf(int control) const;
+    // Lists and drop-down lists: their rows, counted from 0, and the chosen one.
+    // Filling a combo box empties its field.
+    void fillList(int control, std::span<const std::string> texts);
+    void chooseRow(int control, std::size_t row);
+    std::optional<std::size_t> chosenRowOf(int control) const;
     bool isChecked(int control) const;
     void setChecked(int control, bool checked);
     // Checks one of the radio buttons that are numbered from first to last.

@@ -50,7 +50,7 @@ void SearchDialog::onOpen() {
 
 void SearchDialog::showCombo(int control, const HistoryList& history, const std::string& text) {
     limitComboText(control, SearchOptions::kTextLimit);
-    fillCombo(control, history.entries());
+    fillList(control, history.entries());
     setTextOf(control, text);
     markComboText(control);
 }
