@@ -61,9 +61,9 @@ bool TextLoader::readLines() try {
 // Moves the unread rest of the block to a new one and fills that from the file.
 bool TextLoader::refill() {
     const std::size_t rest = available();
-    const std::size_t unread =
-        static_cast<std::size_t>(std::min<std::uint64_t>(file_->size().value_or(kBlock), kBlock));
-    const std::size_t size = rest + std::max<std::size_t>(unread, kLookAhead);
+    const std::uint64_t total = file_->size().value_or(kBlock);
+    const std::uint64_t unread = total > bytesRead_ ? total - bytesRead_ : 0;  // a file may change meanwhile
+    const std::size_t size = rest + static_cast<std::size_t>(std::clamp<std::uint64_t>(unread, kLookAhead, kBlock));
     char* block = arena_.allocateText(size + 1);
     if (rest > 0) std::memcpy(block, next_, rest);
     next_ = block;
@@ -74,6 +74,7 @@ bool TextLoader::refill() {
         endOfFile_ = *count == 0;
         if (endOfFile_) break;
         end_ += *count;
+        bytesRead_ += *count;
     }
     return true;
 }

@@ -41,6 +41,7 @@ class TextLoader {
     File* file_ = nullptr;
     char* next_ = nullptr;  // the unread part of the present block
     char* end_ = nullptr;
+    std::uint64_t bytesRead_ = 0;
     bool endOfFile_ = false;
     int lines_ = 0;
 };

@@ -1,5 +1,7 @@
 #include "document/text_writer.h"
 
+#include <cstring>
+#include <memory>
 #include <optional>
 
 #include "base/file.h"
@@ -16,24 +18,38 @@ constexpr std::size_t kBuffer = std::size_t{1} << 18;
 constexpr char kCtrlZ = 26;
 constexpr char kLastCopyDigit = '9';
 
-// Collects bytes and hands them to a file in large pieces. After a failure nothing more is written.
+// Collects bytes and hands them to a file in pieces of the buffer's size. After a failure nothing more is written.
 class BufferedOutput {
   public:
-    explicit BufferedOutput(File& file) : file_(file) { buffer_.reserve(kBuffer); }
+    explicit BufferedOutput(File& file) : file_(file), buffer_(new char[kBuffer]) {}
 
     void put(std::string_view bytes) {
-        if (buffer_.size() + bytes.size() > kBuffer) flush();
-        buffer_.append(bytes);
+        if (bytes.size() > kBuffer - used_) bytes = fillAndFlush(bytes);
+        std::memcpy(buffer_.get() + used_, bytes.data(), bytes.size());
+        used_ += bytes.size();
     }
     bool flush() {
-        good_ = good_ && file_.write(buffer_);
-        buffer_.clear();
+        good_ = good_ && file_.write({buffer_.get(), used_});
+        used_ = 0;
         return good_;
     }
 
   private:
+    // What is left of the bytes then fits.
+    std::string_view fillAndFlush(std::string_view bytes) {
+        while (bytes.size() > kBuffer - used_) {
+            const std::size_t room = kBuffer - used_;
+            std::memcpy(buffer_.get() + used_, bytes.data(), room);
+            used_ = kBuffer;
+            bytes.remove_prefix(room);
+            flush();
+        }
+        return bytes;
+    }
+
     File& file_;
-    std::string buffer_;
+    const std::unique_ptr<char[]> buffer_;
+    std::size_t used_ = 0;
     bool good_ = true;
 };
 
