@@ -39,6 +39,7 @@ constexpr OptionKey kOptionKeys[] = {
     {"BackupInterval", &EditorOptions::BackupInterval},
     {"RestoreFiles", &EditorOptions::RestoreFiles},
     {"RestoreDirectory", &EditorOptions::RestoreDirectory},
+    {"LineNumbers", &EditorOptions::LineNumbers},
 };
 
 std::int32_t ReadValue(const ConfigStore& store, const char* key, std::int32_t fallback) {

@@ -31,6 +31,7 @@ struct EditorOptions {
     bool SmartIndent = true;
     bool InsertMode = true;
     bool HasMargin = true;
+    bool LineNumbers = true;  // in the margin
     bool MultipleCopies = false;
     bool UseExplorer = false;
     std::int32_t DisplayMode = kCreateMaximized;

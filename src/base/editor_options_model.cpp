@@ -41,6 +41,7 @@ EditorOptionsModel::EditorOptionsModel(const EditorOptions& options)
       restoreFiles(options.RestoreFiles),
       smartIndent(options.SmartIndent),
       hasMargin(options.HasMargin),
+      lineNumbers(options.LineNumbers),
       restoreSize(options.RestoreSize),
       multipleCopies(options.MultipleCopies),
       fileRead(options.FileRead),
@@ -62,6 +63,7 @@ std::optional<std::uint16_t> EditorOptionsModel::update(EditorOptions& options) 
     options.RestoreFiles = restoreFiles;
     options.SmartIndent = smartIndent;
     options.HasMargin = hasMargin;
+    options.LineNumbers = lineNumbers;
     options.RestoreSize = restoreSize;
     options.MultipleCopies = multipleCopies;
     options.FileRead = fileRead;

@@ -27,6 +27,7 @@ struct EditorOptionsModel {
     bool restoreFiles;
     bool smartIndent;
     bool hasMargin;
+    bool lineNumbers;
     bool restoreSize;
     bool multipleCopies;
     bool fileRead;
@@ -36,6 +37,7 @@ struct EditorOptionsModel {
 
     bool wrapColumnEnabled() const { return lineWrap; }
     bool backupIntervalEnabled() const { return autoBackup; }
+    bool lineNumbersEnabled() const { return hasMargin; }
 
     // Stores the controls in the record. A refusal gives the number of the text that explains it and stores nothing;
     // the dialog then stays open.

@@ -14,6 +14,11 @@ namespace {
 
 constexpr std::uint16_t kTextBadBookmark = 4148;
 
+MarkMode ModeOf(MousePress press) {
+    if (press == MousePress::Column) return MarkMode::Column;
+    return press == MousePress::Lines ? MarkMode::Lines : MarkMode::Stream;
+}
+
 }  // namespace
 
 EditView::EditView(TextDocument& document, EditorOptions& options, Notices& notices)
@@ -22,7 +27,7 @@ EditView::EditView(TextDocument& document, EditorOptions& options, Notices& noti
 // ---- movements ---------------------------------------------------------------------------------------------------
 
 void EditView::move(Movement movement, bool extending) {
-    if (extending) marker_.beginStream();
+    if (extending) marker_.begin(MarkMode::Stream);
     (this->*movement)();
     marker_.cursorMoved(extending);
 }
@@ -282,19 +287,45 @@ void EditView::place(Cell cell) {
     editor_.moveToDisplayColumn(DisplayColumn(std::max(left_.value + cell.column, 0)));
 }
 
-void EditView::press(Cell cell, bool extend) {
+void EditView::press(Cell cell, bool extend, MousePress how) {
+    mousePress_ = how;
     lastKey_ = {};
-    if (extend) marker_.beginStream();
+    if (extend) marker_.begin(ModeOf(how));
     place(cell);
     marker_.cursorMoved(extend);
+    if (how == MousePress::Lines) drag(cell);
+    if (how == MousePress::Word) pressWord();
     bringCaretIntoSight(false);
 }
 
-void EditView::drag(Cell cell) {
-    if (caret() == cell) return;
-    marker_.beginStream();
-    place(cell);
+// The word under the mouse stays marked wherever the mouse is dragged to.
+void EditView::pressWord() {
+    const LineIndex line = document_.currentLine();
+    const CharSpan word =
+        WordAt(document_.text(line), document_.column()).value_or(CharSpan{document_.column(), document_.column()});
+    pressedWord_ = {{line, document_.toDisplay(line, word.begin)}, {line, document_.toDisplay(line, word.end)}};
+    if (!word.isEmpty()) dragWords();
+}
+
+void EditView::dragWords() {
+    const LineIndex line = document_.currentLine();
+    const auto word = WordAt(document_.text(line), document_.column());
+    const bool isBefore = MarkPoint{line, document_.displayColumn()} < pressedWord_.start;
+    marker_.begin(MarkMode::Stream);
+    marker_.setAnchor(isBefore ? pressedWord_.end : pressedWord_.start);
+    if (word) editor_.moveToColumn(isBefore ? word->begin : word->end);
     marker_.cursorMoved(true);
+}
+
+void EditView::drag(Cell cell) {
+    if (caret() == cell && mousePress_ != MousePress::Lines) return;
+    if (mousePress_ != MousePress::Word) marker_.begin(ModeOf(mousePress_));
+    place(cell);
+    if (mousePress_ == MousePress::Word) {
+        dragWords();
+    } else {
+        marker_.cursorMoved(true);
+    }
     bringCaretIntoSight(false);
 }
 

@@ -27,6 +27,10 @@ struct Cell {
     bool operator==(const Cell&) const = default;
 };
 
+// What a pressed mouse button marks when the mouse is moved: a stream from the place, a column, whole lines (the
+// pressed one at once) or whole words (the pressed one at once).
+enum class MousePress : std::uint8_t { Stream, Column, Lines, Word };
+
 class EditView {
   public:
     EditView(TextDocument& document, EditorOptions& options, Notices& notices);
@@ -38,12 +42,15 @@ class EditView {
 
     // Carries a keystroke out; false when the view has no use for it.
     bool key(const KeyEvent& event);
-    // A mouse button pressed at a cell; with extend the marked stream grows from the caret to the cell.
-    void press(Cell cell, bool extend);
+    // A mouse button pressed at a cell; with extend the marking grows from the caret to the cell.
+    void press(Cell cell, bool extend, MousePress how = MousePress::Stream);
+    // Whether the cell shows a character that is marked.
+    bool isMarked(Cell cell) const { return IsMarkedAt(document_, top_ + cell.row, left_ + cell.column); }
     // The mouse moved with its button held: marks from the pressed place to the cell, scrolling when it lies outside.
     // All moves up to the release are one undo group.
     void drag(Cell cell);
     void release();
+    bool isMarkingLines() const { return mousePress_ == MousePress::Lines; }
 
     // Both tell the user when there is nothing to do and are false then.
     bool undo();
@@ -114,6 +121,8 @@ class EditView {
     void move(Movement movement, bool extending);
     void bringCaretIntoSight(bool centre);
     void place(Cell cell);
+    void pressWord();
+    void dragWords();
     void moveTo(LineIndex line, std::optional<CharColumn> column);
     bool takeBack(bool (UndoHistory::*step)(), const char* refusal);
 
@@ -167,6 +176,11 @@ class EditView {
     // How often in a row the last key was pressed: Home and End go further each time.
     KeyEvent lastKey_;
     int pressesInARow_ = 0;
+    MousePress mousePress_ = MousePress::Stream;
+    struct {
+        MarkPoint start;
+        MarkPoint end;
+    } pressedWord_;
 };
 
 }  // namespace vexa

@@ -36,13 +36,13 @@ void Marker::toggle(MarkMode mode) {
     extend();
 }
 
-void Marker::beginStream() {
+void Marker::begin(MarkMode mode) {
     if (isActive()) {
         // The anchor of a marking that something else made is the end that the cursor is not at.
         const MarkedArea& area = document_.marked();
         if (anchor_ != area.start && anchor_ != area.end) anchor_ = cursor() == area.start ? area.end : area.start;
     } else {
-        start(MarkMode::Stream);
+        start(mode);
     }
 }
 

@@ -15,8 +15,10 @@ class Marker {
     // Begins a marking at the cursor, to be extended by the movements that follow; a marking of that mode that is being
     // extended is ended instead, and stays.
     void toggle(MarkMode mode);
-    // Prepares for a movement that marks a stream: the anchor is the cursor unless an area is marked already.
-    void beginStream();
+    // Prepares for a movement that marks: the anchor is the cursor unless an area is marked already, in whatever mode.
+    void begin(MarkMode mode);
+    // What is marked grows from here on from that place.
+    void setAnchor(MarkPoint anchor) { anchor_ = anchor; }
     // The cursor has moved: carries the marking along, or takes a finished one away.
     void cursorMoved(bool extending);
     // Shows the area from the anchor to the cursor as marked.

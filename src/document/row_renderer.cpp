@@ -143,4 +143,9 @@ ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn le
     return {VisibleCells(document.text(line), document.tabSize(), left, columns), colours.take()};
 }
 
+bool IsMarkedAt(const TextDocument& document, LineIndex line, DisplayColumn column) {
+    const Span marked = MarkedIn(document, line);
+    return marked.begin <= column && column < marked.end;
+}
+
 }  // namespace vexa

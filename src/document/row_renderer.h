@@ -34,4 +34,7 @@ struct ViewRow {
 ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
                   bool highlighting = true);
 
+// Whether what stands at a column of a line is marked.
+bool IsMarkedAt(const TextDocument& document, LineIndex line, DisplayColumn column);
+
 }  // namespace vexa

@@ -74,9 +74,27 @@ bool TextDocument::write() {
     if (!named_ || !WriteText(*this, path_, options_.FileWrite)) return false;
     undo_.clear();
     modifiedCount_ = 0;
+    clearChangedLines();
     linesWrapped_ = false;
     truncated_ = false;
     return true;
+}
+
+void TextDocument::countChange(std::int32_t step) {
+    modifiedCount_ += step;
+    if (!isModified()) clearChangedLines();
+}
+
+void TextDocument::clearChangedLines() {
+    const std::int32_t last = lines_.lastUsed(LastUsed::Plain);
+    for (std::int32_t i = 0; i <= last; ++i) {
+        if (TextLine* line = lines_.occupied(i)) line->clearChanged();
+    }
+}
+
+bool TextDocument::isLineChanged(LineIndex index) const {
+    const TextLine* found = isModified() ? lines_.occupied(index.value) : nullptr;
+    return found && found->isChanged();
 }
 
 // ---- lines -------------------------------------------------------------------------------------------------------
@@ -96,7 +114,9 @@ std::string_view TextDocument::text(LineIndex index) const {
 
 TextLine& TextDocument::editableLine(LineIndex index) {
     comments_.touch(index);
-    if (lines_.occupied(index.value) == nullptr) lines_.put(makeLine({}), index.value);
+    if (TextLine* line = lines_.occupied(index.value)) return *line;
+    lines_.put(makeLine({}), index.value);
+    lines_.occupied(index.value)->clearChanged();  // the cursor has only come to a line that nobody has used yet
     return *lines_.occupied(index.value);
 }
 

@@ -67,8 +67,10 @@ class TextDocument {
     bool areLinesWrapped() const { return linesWrapped_; }
     bool isModified() const { return modifiedCount_ != 0; }
     void clearModified() { modifiedCount_ = 0; }
+    // Whether a line of a modified document is not as it was loaded or last saved; with every change undone, none is.
+    bool isLineChanged(LineIndex index) const;
     std::int32_t modifiedCount() const { return modifiedCount_; }
-    void countChange(std::int32_t step) { modifiedCount_ += step; }
+    void countChange(std::int32_t step);
 
     // ---- lines ----
 
@@ -126,6 +128,7 @@ class TextDocument {
   private:
     friend class TextLoader;
     void discardText();
+    void clearChangedLines();
 
     const EditorOptions& options_;
     Notices& notices_;

@@ -56,6 +56,7 @@ std::size_t TextLine::capacity() const {
 // The text, to be written to, with room for that many characters and a NUL.
 char* TextLine::makeRoom(std::size_t length) {
     commentEffectKnown = false;
+    isChanged_ = true;
     if (ownsText_ && length <= capacity()) return const_cast<char*>(text_);
     const std::size_t first = std::max<std::size_t>(length, length_) + kReserve;
     char* text = NewText(ownsText_ ? std::max(first, capacity() * 2) : first);

@@ -26,7 +26,11 @@ class TextLine {
     TextLine() = default;
     TextLine(const TextDocument* document, std::string_view text);
     TextLine(const TextDocument* document, const char* text, std::size_t length, InArena)
-        : text_(text), document_(document), length_(static_cast<std::uint32_t>(length)), recordInArena_(true) {}
+        : text_(text),
+          document_(document),
+          length_(static_cast<std::uint32_t>(length)),
+          recordInArena_(true),
+          isChanged_(false) {}
     ~TextLine();
     TextLine(const TextLine&) = delete;
     TextLine& operator=(const TextLine&) = delete;
@@ -35,6 +39,9 @@ class TextLine {
     const char* c_str() const { return text_; }
     std::int32_t length() const { return static_cast<std::int32_t>(length_); }
     bool isEmpty() const { return length_ == 0; }
+    // Whether the text has been changed, or the line made, since the document was loaded or saved.
+    bool isChanged() const { return isChanged_; }
+    void clearChanged() { isChanged_ = false; }
 
     // Changes. Columns must not lie beyond the text's end. On std::bad_alloc the line is as it was.
     void insert(CharColumn column, char c);
@@ -72,6 +79,7 @@ class TextLine {
     std::uint16_t column_ = 0;
     bool ownsText_ : 1 = false;
     bool recordInArena_ : 1 = false;
+    bool isChanged_ : 1 = true;
 };
 
 // Ends a line's life; the memory of a record in an arena stays with the arena.

@@ -14,6 +14,8 @@ class AppFrameCL : public WindowCL {
   public:
     // Tries a message from the queue as a command key of the frame; true when it was one.
     virtual bool translate(MSG& message);
+    // Does a little of what can wait while no message is there, a millisecond at most; false when nothing is left.
+    virtual bool workWhileIdle() { return false; }
 
   protected:
     void setMenu(MenuHandle menu);

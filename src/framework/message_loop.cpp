@@ -6,9 +6,19 @@ namespace vexa {
 
 int MessageLoop::run() {
     MSG message{};
-    while (GetMessageA(&message, nullptr, 0, 0) > 0)
+    for (;;) {
+        idle();
+        if (GetMessageA(&message, nullptr, 0, 0) <= 0) break;
         process(message);
+    }
     return static_cast<int>(message.wParam);
+}
+
+void MessageLoop::idle() {
+    MSG message{};
+    while (!PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+        if (!frame_.workWhileIdle()) return;
+    }
 }
 
 bool MessageLoop::PumpMessages() {

@@ -20,6 +20,8 @@ class MessageLoop {
     void setModelessDialog(HWND dialog) { modelessDialog_ = dialog; }
 
   private:
+    // Lets the frame work until a message comes or nothing is left to do.
+    void idle();
     void process(MSG& message);
 
     AppFrameCL& frame_;

@@ -42,7 +42,22 @@ struct KeyMessage {
     bool alt = false;
 };
 
+// A mouse button that went down, in pixels of the client area.
+struct MouseButtonMessage {
+    POINT place = {};
+    bool shift = false;
+    bool alt = false;
+    bool isDouble = false;  // the second press of a double click
+};
+
 enum class WheelAxis { Vertical, Horizontal };
+
+struct WheelMessage {
+    WheelAxis axis = WheelAxis::Vertical;
+    int delta = 0;  // 120 a notch; above 0 away from the user or to the right
+    bool shift = false;
+    bool control = false;
+};
 
 // Each handler is told of one message and returns true when it has dealt with it; otherwise the system's own treatment
 // follows. An exception in a handler is reported to the debugger and goes no further.
@@ -94,13 +109,14 @@ class WindowCL {
     virtual bool onMdiActivate(bool /*active*/) { return false; }
     virtual bool onKey(const KeyMessage& /*key*/) { return false; }
     virtual bool onCharacter(unsigned char /*character*/, UINT /*repeat*/) { return false; }
+    virtual bool onSystemKeyUp(UINT /*key*/) { return false; }
     virtual bool onSystemCharacter(unsigned char /*character*/) { return false; }
 
-    virtual bool onMousePress(POINT /*place*/, bool /*shift*/) { return false; }
+    virtual bool onMousePress(const MouseButtonMessage& /*press*/) { return false; }
     virtual bool onMouseMove(POINT /*place*/) { return false; }
     virtual bool onMouseRelease() { return false; }
     virtual bool onCaptureLost() { return false; }
-    virtual bool onWheel(WheelAxis /*axis*/, int /*delta*/) { return false; }
+    virtual bool onWheel(const WheelMessage& /*turn*/) { return false; }
     virtual bool onContextMenu(std::optional<POINT> /*screenPlace*/) { return false; }
     virtual bool onScroll(int /*bar*/, UINT /*request*/) { return false; }
     virtual bool onTimer(UINT_PTR /*timer*/) { return false; }

@@ -34,6 +34,15 @@ POINT ReadPlace(const Message& message) {
     return {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
 }
 
+MouseButtonMessage ReadButton(const Message& message) {
+    return {ReadPlace(message), (message.wParam & MK_SHIFT) != 0, IsDown(VK_MENU), message.number == WM_LBUTTONDBLCLK};
+}
+
+WheelMessage ReadWheel(const Message& message, WheelAxis axis) {
+    const WORD keys = LOWORD(message.wParam);
+    return {axis, static_cast<short>(HIWORD(message.wParam)), (keys & MK_SHIFT) != 0, (keys & MK_CONTROL) != 0};
+}
+
 // The keyboard's menu key has no place: both coordinates are -1.
 std::optional<POINT> ReadMenuPlace(const Message& message) {
     if (message.lParam == -1) return std::nullopt;
@@ -104,18 +113,17 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
      [](WindowCL& w, Message& m) { return w.onMdiActivate(reinterpret_cast<HWND>(m.lParam) == w.window()); }},
     {WM_KEYDOWN, [](WindowCL& w, Message& m) { return w.onKey(ReadKey(m)); }},
     {WM_SYSKEYDOWN, [](WindowCL& w, Message& m) { return w.onKey(ReadKey(m)); }},
+    {WM_SYSKEYUP, [](WindowCL& w, Message& m) { return w.onSystemKeyUp(static_cast<UINT>(m.wParam)); }},
     {WM_CHAR,
      [](WindowCL& w, Message& m) { return w.onCharacter(static_cast<unsigned char>(m.wParam), LOWORD(m.lParam)); }},
     {WM_SYSCHAR, [](WindowCL& w, Message& m) { return w.onSystemCharacter(static_cast<unsigned char>(m.wParam)); }},
-    {WM_LBUTTONDOWN, [](WindowCL& w, Message& m) { return w.onMousePress(ReadPlace(m), m.wParam & MK_SHIFT); }},
-    {WM_LBUTTONDBLCLK, [](WindowCL& w, Message& m) { return w.onMousePress(ReadPlace(m), m.wParam & MK_SHIFT); }},
+    {WM_LBUTTONDOWN, [](WindowCL& w, Message& m) { return w.onMousePress(ReadButton(m)); }},
+    {WM_LBUTTONDBLCLK, [](WindowCL& w, Message& m) { return w.onMousePress(ReadButton(m)); }},
     {WM_MOUSEMOVE, [](WindowCL& w, Message& m) { return w.onMouseMove(ReadPlace(m)); }},
     {WM_LBUTTONUP, [](WindowCL& w, Message&) { return w.onMouseRelease(); }},
     {WM_CAPTURECHANGED, [](WindowCL& w, Message&) { return w.onCaptureLost(); }},
-    {WM_MOUSEWHEEL,
-     [](WindowCL& w, Message& m) { return w.onWheel(WheelAxis::Vertical, static_cast<short>(HIWORD(m.wParam))); }},
-    {kHorizontalWheelMessage,
-     [](WindowCL& w, Message& m) { return w.onWheel(WheelAxis::Horizontal, static_cast<short>(HIWORD(m.wParam))); }},
+    {WM_MOUSEWHEEL, [](WindowCL& w, Message& m) { return w.onWheel(ReadWheel(m, WheelAxis::Vertical)); }},
+    {kHorizontalWheelMessage, [](WindowCL& w, Message& m) { return w.onWheel(ReadWheel(m, WheelAxis::Horizontal)); }},
     {WM_CONTEXTMENU, [](WindowCL& w, Message& m) { return w.onContextMenu(ReadMenuPlace(m)); }},
     {WM_VSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_VERT, LOWORD(m.wParam)); }},
     {WM_HSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_HORZ, LOWORD(m.wParam)); }},

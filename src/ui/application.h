@@ -9,7 +9,9 @@
 #include "language/colour_table.h"
 #include "language/profile_list.h"
 #include "search/search_options.h"
+#include "ui/display_colours.h"
 #include "ui/font_details.h"
+#include "ui/system_clipboard.h"
 
 namespace vexa {
 
@@ -22,6 +24,7 @@ struct Application {
         options.Load(store);
         font.Load(store);
         searchOptions.Load(store);
+        colours.load(store);
     }
 
     ConfigStore store;
@@ -31,6 +34,8 @@ struct Application {
     Directories directories;
     ProfileList profiles;
     ColourTable colours;
+    DisplayColours display{colours};
+    SystemClipboard clipboard;
 };
 
 }  // namespace vexa

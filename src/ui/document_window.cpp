@@ -4,11 +4,6 @@
 #include "ui/resource.h"
 
 namespace vexa {
-namespace {
-
-constexpr int kMarginCells = 2;
-
-}  // namespace
 
 const WindowClass kDocumentWindowClass{.name = "MDIchildCL", .icon = IDI_DOCUMENT};
 
@@ -18,15 +13,18 @@ DocumentWindow::DocumentWindow(MDIframeCL& frame, DocumentHost& host, Applicatio
       options_(application.options),
       document_(application.options, notices),
       view_(document_, application.options, notices),
-      margin_(application.colours),
-      pane_(view_, application.colours, application.font, *this) {}
+      pane_(view_, application.display, application.font, *this),
+      margin_(view_, pane_.painter(), application.display, *this) {
+    view_.setHighlighting(application.display.isHighlightingOn());
+    view_.setClipboard(application.clipboard);
+}
 
 std::string DocumentWindow::caption() const {
     return document_.isModified() ? document_.fullPath() + " *" : document_.fullPath();
 }
 
 bool DocumentWindow::onCreate() {
-    return margin_.open(window()) && pane_.open(window());
+    return pane_.open(window()) && margin_.open(window());
 }
 
 bool DocumentWindow::onSize(UINT /*kind*/) {
@@ -36,14 +34,20 @@ bool DocumentWindow::onSize(UINT /*kind*/) {
 
 void DocumentWindow::layOut() {
     const RECT client = clientArea();
-    const LONG margin = options_.HasMargin ? kMarginCells * pane_.cellWidth() : 0;
-    margin_.place({0, 0, margin, client.bottom});
-    pane_.place({margin, 0, client.right, client.bottom});
+    marginWidth_ = options_.HasMargin ? margin_.width() : 0;
+    margin_.place({0, 0, marginWidth_, client.bottom});
+    pane_.place({marginWidth_, 0, client.right, client.bottom});
 }
 
 void DocumentWindow::refreshFont() {
     pane_.refreshFont();
     layOut();
+    margin_.redraw();
+}
+
+void DocumentWindow::refreshColours() {
+    pane_.refreshColours();
+    margin_.redraw();
 }
 
 void DocumentWindow::refreshOptions() {
@@ -66,7 +70,10 @@ void DocumentWindow::userActs() {
     host_.userActs();
 }
 
+// The margin grows with the number of lines.
 void DocumentWindow::viewChanged() {
+    if (options_.HasMargin && margin_.width() != marginWidth_) layOut();
+    margin_.refresh();
     setText(caption());
     if (frame().activeChild() == this) host_.documentChanged(*this);
 }

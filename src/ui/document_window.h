@@ -22,13 +22,14 @@ class DocumentHost {
     // The window has become the active one, or what it shows of itself in the frame may have changed.
     virtual void documentChanged(const DocumentWindow& window) = 0;
     virtual void keyUsed(const KeyEvent& event) = 0;
+    virtual void zoom(std::int32_t steps) = 0;
     virtual bool mayCloseDocument(DocumentWindow& window) = 0;
     virtual void showContextMenu(POINT screenPlace) = 0;
 };
 
 extern const WindowClass kDocumentWindowClass;
 
-class DocumentWindow : public MDIchildCL, private PaneHost {
+class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
   public:
     DocumentWindow(MDIframeCL& frame, DocumentHost& host, Application& application, Notices& notices);
 
@@ -40,8 +41,10 @@ class DocumentWindow : public MDIchildCL, private PaneHost {
     std::string caption() const;
     // Shows what has been done to the view from outside.
     void refresh() { pane_.refresh(); }
-    // Takes over the resolution of the monitor that the frame is on.
+    // Takes over another font, or the resolution of the monitor that the frame is on.
     void refreshFont();
+    // Takes over colours that have been changed.
+    void refreshColours();
     // Takes over options that have been changed.
     void refreshOptions();
 
@@ -58,14 +61,18 @@ class DocumentWindow : public MDIchildCL, private PaneHost {
     void userActs() override;
     void viewChanged() override;
     void keyUsed(const KeyEvent& event) override { host_.keyUsed(event); }
+    void zoom(std::int32_t steps) override { host_.zoom(steps); }
     void showContextMenu(POINT screenPlace) override { host_.showContextMenu(screenPlace); }
+    void marginPressed(POINT screenPlace, bool shift) override { pane_.startMarkingLines(screenPlace, shift); }
+    void marginWheel(const WheelMessage& turn) override { pane_.onWheel(turn); }
 
     DocumentHost& host_;
     const EditorOptions& options_;
     TextDocument document_;
     EditView view_;
-    MDImarginCL margin_;
     PaneWindowCL pane_;
+    MDImarginCL margin_;
+    LONG marginWidth_ = 0;  // in pixels, as it was last laid out
 };
 
 }  // namespace vexa

@@ -19,6 +19,7 @@ constexpr CheckBox kCheckBoxes[] = {
     {IDC_RESTORE_FILES, &EditorOptionsModel::restoreFiles},
     {IDC_SMART_INDENT, &EditorOptionsModel::smartIndent},
     {IDC_HAS_MARGIN, &EditorOptionsModel::hasMargin},
+    {IDC_LINE_NUMBERS, &EditorOptionsModel::lineNumbers},
     {IDC_RESTORE_SIZE, &EditorOptionsModel::restoreSize},
     {IDC_MULTIPLE_COPIES, &EditorOptionsModel::multipleCopies},
     {IDC_FILE_READ, &EditorOptionsModel::fileRead},
@@ -82,6 +83,7 @@ void EditorOptionsDialog::read() {
 void EditorOptionsDialog::enableFields() {
     enable(IDC_WRAP_COLUMN, model_.wrapColumnEnabled());
     enable(IDC_BACKUP_INTERVAL, model_.backupIntervalEnabled());
+    enable(IDC_LINE_NUMBERS, model_.lineNumbersEnabled());
 }
 
 void EditorOptionsDialog::onControl(int /*control*/, UINT notification) {

@@ -1,5 +1,8 @@
 #include "ui/font_details.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace vexa {
 namespace {
 
@@ -7,6 +10,8 @@ constexpr const char* kSection = "Font Details";
 constexpr std::int32_t kSmallest = 4;  // in pixels, either way of giving the height
 constexpr std::int32_t kLargest = 200;
 constexpr std::int32_t kHeaviest = 1000;
+constexpr std::int32_t kSmallestZoom = 6;
+constexpr std::int32_t kLargestZoom = 72;
 
 bool IsReadable(std::int32_t height) {
     return (height >= kSmallest && height <= kLargest) || (height <= -kSmallest && height >= -kLargest);
@@ -30,6 +35,24 @@ void FontDetails::Load(const ConfigStore& store) {
     StrikeOut = number("StrikeOut", defaults.StrikeOut) != 0;
     Family = number("Family", defaults.Family);
     Face = store.ReadString(kSection, "Face", defaults.Face, kFaceLimit + 1);
+}
+
+void FontDetails::Save(ConfigStore& store) const {
+    const auto write = [&store](const char* key, std::int32_t value) { store.WriteInt(kSection, key, value); };
+    write("Height", Height);
+    write("Width", Width);
+    write("Weight", Weight);
+    write("Italic", Italic);
+    write("Underline", Underline);
+    write("StrikeOut", StrikeOut);
+    write("Family", Family);
+    store.WriteString(kSection, "Face", Face);
+}
+
+void FontDetails::zoom(std::int32_t steps) {
+    const std::int32_t size = std::clamp(std::abs(Height) + steps, kSmallestZoom, kLargestZoom);
+    Height = Height < 0 ? -size : size;
+    Width = 0;  // as wide as the face wants to be at its new height
 }
 
 }  // namespace vexa

@@ -24,6 +24,9 @@ struct FontDetails {
 
     // Takes the section "Font Details". Sizes beyond what can be read on any screen become the default ones.
     void Load(const ConfigStore& store);
+    void Save(ConfigStore& store) const;
+    // Larger by a number of steps, or smaller below 0, within what can be read.
+    void zoom(std::int32_t steps);
 };
 
 }  // namespace vexa

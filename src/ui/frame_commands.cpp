@@ -1,7 +1,9 @@
 // The commands that the frame carries out.
 #include "document/bookmark_model.h"
 #include "document/goto_line_model.h"
+#include "framework/dpi.h"
 #include "framework/file_dialog.h"
+#include "framework/font_dialog.h"
 #include "framework/message_box.h"
 #include "ui/dialog_controls.h"
 #include "ui/editor_options_dialog.h"
@@ -9,6 +11,7 @@
 #include "ui/for_each_document.h"
 #include "ui/help.h"
 #include "ui/number_dialog.h"
+#include "ui/pane_font.h"
 #include "ui/resource.h"
 #include "ui/vexa_frame.h"
 
@@ -20,22 +23,45 @@ struct FrameCommands {
         void (VexaFrame::*run)();
     };
     static constexpr Row kRows[] = {
-        {200, &VexaFrame::newDocument},    {201, &VexaFrame::openDocuments},
-        {202, &VexaFrame::closeDocument},  {203, &VexaFrame::saveDocument},
-        {204, &VexaFrame::saveDocumentAs}, {205, &VexaFrame::saveAllDocuments},
-        {208, &VexaFrame::exit},           {300, &VexaFrame::undo},
-        {301, &VexaFrame::redo},           {305, &VexaFrame::clear},
-        {312, &VexaFrame::selectAll},      {605, &VexaFrame::closeAllDocuments},
-        {606, &VexaFrame::activateNext},   {607, &VexaFrame::activatePrevious},
-        {309, &VexaFrame::gotoLine},       {311, &VexaFrame::gotoBookmark},
-        {404, &VexaFrame::changeOptions},  {425, &VexaFrame::playMacro},
-        {427, &VexaFrame::repeatMacro},    {426, &VexaFrame::recordMacro},
-        {700, &VexaFrame::helpOnHelp},     {701, &VexaFrame::helpIndex},
-        {702, &VexaFrame::helpOnKeys},     {900, &VexaFrame::toMatchingBracket},
-        {707, &VexaFrame::showAbout},      {901, &VexaFrame::toWindowStart},
-        {306, &VexaFrame::find},           {310, &VexaFrame::replace},
-        {307, &VexaFrame::findNext},       {308, &VexaFrame::findPrevious},
-        {902, &VexaFrame::toWindowEnd},    {903, &VexaFrame::toDocumentStart},
+        {200, &VexaFrame::newDocument},
+        {201, &VexaFrame::openDocuments},
+        {202, &VexaFrame::closeDocument},
+        {203, &VexaFrame::saveDocument},
+        {204, &VexaFrame::saveDocumentAs},
+        {205, &VexaFrame::saveAllDocuments},
+        {208, &VexaFrame::exit},
+        {300, &VexaFrame::undo},
+        {301, &VexaFrame::redo},
+        {302, &VexaFrame::cut},
+        {303, &VexaFrame::copy},
+        {304, &VexaFrame::paste},
+        {305, &VexaFrame::clear},
+        {403, &VexaFrame::changeFont},
+        {800, &VexaFrame::changeCase<CaseChange::Toggle>},
+        {801, &VexaFrame::changeCase<CaseChange::Lower>},
+        {802, &VexaFrame::changeCase<CaseChange::Upper>},
+        {312, &VexaFrame::selectAll},
+        {605, &VexaFrame::closeAllDocuments},
+        {606, &VexaFrame::activateNext},
+        {607, &VexaFrame::activatePrevious},
+        {309, &VexaFrame::gotoLine},
+        {311, &VexaFrame::gotoBookmark},
+        {404, &VexaFrame::changeOptions},
+        {425, &VexaFrame::playMacro},
+        {427, &VexaFrame::repeatMacro},
+        {426, &VexaFrame::recordMacro},
+        {700, &VexaFrame::helpOnHelp},
+        {701, &VexaFrame::helpIndex},
+        {702, &VexaFrame::helpOnKeys},
+        {900, &VexaFrame::toMatchingBracket},
+        {707, &VexaFrame::showAbout},
+        {901, &VexaFrame::toWindowStart},
+        {306, &VexaFrame::find},
+        {310, &VexaFrame::replace},
+        {307, &VexaFrame::findNext},
+        {308, &VexaFrame::findPrevious},
+        {902, &VexaFrame::toWindowEnd},
+        {903, &VexaFrame::toDocumentStart},
         {904, &VexaFrame::toDocumentEnd},
     };
 
@@ -134,6 +160,23 @@ void VexaFrame::undo() {
 
 void VexaFrame::redo() {
     operate([](EditView& view) { view.redo(); });
+}
+
+void VexaFrame::cut() {
+    operate([](EditView& view) { view.cut(); });
+}
+
+void VexaFrame::copy() {
+    operate([](EditView& view) { view.copy(); });
+}
+
+void VexaFrame::paste() {
+    operate([](EditView& view) { view.paste(); });
+}
+
+template <CaseChange kChange>
+void VexaFrame::changeCase() {
+    operate([](EditView& view) { view.changeCase(kChange); });
 }
 
 void VexaFrame::clear() {
@@ -243,6 +286,23 @@ void VexaFrame::changeOptions() {
     EditorOptionsDialog dialog(application_.store, application_.options);
     if (!dialog.runModal(window())) return;
     forEachDocument([](DocumentWindow& window) { window.refreshOptions(); });
+}
+
+void VexaFrame::changeFont() {
+    const int dpi = DpiOf(window());
+    LOGFONTA description = DescribeFont(application_.font, dpi);
+    if (!AskFixedPitchFont(window(), description)) return;
+    application_.font = DetailsOf(description, dpi);
+    refreshFonts();
+}
+
+void VexaFrame::zoom(std::int32_t steps) {
+    application_.font.zoom(steps);
+    refreshFonts();
+}
+
+void VexaFrame::refreshFonts() {
+    forEachDocument([](DocumentWindow& window) { window.refreshFont(); });
 }
 
 void VexaFrame::toggleToolBar() {

@@ -119,6 +119,8 @@ void VexaFrame::saveSession() {
     recentFiles_.SaveRecentFiles(application_.store);
     application_.options.Save(application_.store);
     application_.searchOptions.Save(application_.store);
+    application_.colours.save(application_.store);
+    application_.font.Save(application_.store);
 }
 
 void VexaFrame::onDestroy() {

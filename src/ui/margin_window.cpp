@@ -1,8 +1,5 @@
 #include "ui/margin_window.h"
 
-#include "framework/gdi.h"
-#include "ui/row_painter.h"
-
 namespace vexa {
 namespace {
 
@@ -10,30 +7,95 @@ constexpr WindowClass kMarginClass{.name = "MDImarginCL"};
 
 }  // namespace
 
-Rgb MarginShade(Rgb background) {
-    const bool isDark = background.red * 3 + background.green * 6 + background.blue < 10 * 128;
-    const auto shade = [isDark](std::uint8_t channel) {
-        const int target = isDark ? 255 : 0;
-        return static_cast<std::uint8_t>(channel + (target - channel) / 6);
-    };
-    return {shade(background.red), shade(background.green), shade(background.blue)};
-}
-
 bool MDImarginCL::open(HWND parent) {
     return create(kMarginClass, {.style = WS_CHILD | WS_VISIBLE, .place = {0, 0, 0, 0}, .parent = parent});
 }
 
-bool MDImarginCL::onSize(UINT /*kind*/) {
-    InvalidateRect(window(), nullptr, FALSE);
-    return true;
+// From the left: a bookmark's digit, the number, the mark of a changed line.
+int MDImarginCL::width() const {
+    return (1 + MarginDigits(view_.document())) * pane_.cellWidth() + 2 * markWidth();
 }
 
-bool MDImarginCL::onPaint(HDC dc, const RECT& update) {
-    FillColour(dc, update, ColourRef(MarginShade(colours_.colourOf(ColourElement::Background))));
+std::size_t MDImarginCL::rowCount() const {
+    return static_cast<std::size_t>((clientArea().bottom + pane_.cellHeight() - 1) / pane_.cellHeight());
+}
+
+void MDImarginCL::refresh() {
+    if (!window()) return;
+    const LONG right = clientArea().right;
+    const int height = pane_.cellHeight();
+    rows_.resize(rowCount());
+    int top = 0;
+    for (std::size_t i = 0; i < rows_.size(); ++i, top += height) {
+        MarginRow row = RenderMarginRow(view_.document(), view_.topLine() + static_cast<std::int32_t>(i));
+        if (row == rows_[i]) continue;
+        rows_[i] = std::move(row);
+        const RECT area = {0, top, right, top + height};
+        InvalidateRect(window(), &area, FALSE);
+    }
+}
+
+void MDImarginCL::redraw() {
+    rows_.clear();
+    refresh();
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+bool MDImarginCL::onSize(UINT /*kind*/) {
+    redraw();
     return true;
 }
 
 bool MDImarginCL::onEraseBackground(HDC /*dc*/) {
+    return true;
+}
+
+// ---- drawing -----------------------------------------------------------------------------------------------------
+
+bool MDImarginCL::onPaint(HDC dc, const RECT& update) {
+    const LONG right = clientArea().right;
+    int top = 0;
+    for (const MarginRow& row : rows_) {
+        if (top < update.bottom && top + pane_.cellHeight() > update.top) drawRow(dc, top, right, row);
+        top += pane_.cellHeight();
+    }
+    return true;
+}
+
+void MDImarginCL::drawRow(HDC window, int top, int width, const MarginRow& row) {
+    const int height = pane_.cellHeight();
+    const HDC dc = picture_.prepare(window, width, height);
+    if (!dc) return;
+    const Selected selected(dc, pane_.font().font.get());
+    FillColour(dc, {0, 0, width, height}, colours_.marginBackground());
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, row.isCurrent ? colours_.colourOf(ColourElement::DefaultText) : colours_.marginText());
+    const std::vector<INT> widths(row.number.size(), pane_.cellWidth());
+    ExtTextOutA(dc, pane_.cellWidth(), 0, 0, nullptr, row.number.data(), static_cast<UINT>(row.number.size()),
+                widths.data());
+    if (row.bookmark != ' ') drawBookmark(dc, row.bookmark);
+    const int mark = width - 2 * markWidth() + 1;
+    if (row.isChanged) FillColour(dc, {mark, 0, mark + markWidth(), height}, colours_.changedMark());
+    picture_.show(window, 0, top, width, height);
+}
+
+void MDImarginCL::drawBookmark(HDC dc, char digit) {
+    FillColour(dc, {0, 0, pane_.cellWidth(), pane_.cellHeight()}, colours_.colourOf(ColourElement::MarkingBackground));
+    SetTextColor(dc, colours_.colourOf(ColourElement::MarkingText));
+    ExtTextOutA(dc, 0, 0, 0, nullptr, &digit, 1, nullptr);
+}
+
+// ---- mouse -------------------------------------------------------------------------------------------------------
+
+bool MDImarginCL::onMousePress(const MouseButtonMessage& press) {
+    POINT place = press.place;
+    ClientToScreen(window(), &place);
+    host_.marginPressed(place, press.shift);
+    return true;
+}
+
+bool MDImarginCL::onWheel(const WheelMessage& turn) {
+    host_.marginWheel(turn);
     return true;
 }
 

@@ -1,28 +1,58 @@
-// The strip at the left of a document's text.
+// The strip at the left of a document's text: line numbers, bookmarks and marks beside changed lines.
 #pragma once
 
+#include <vector>
+
+#include "document/edit_view.h"
+#include "document/margin_row.h"
+#include "framework/gdi.h"
 #include "framework/window.h"
-#include "language/colour_table.h"
+#include "ui/row_painter.h"
 
 namespace vexa {
 
-// A colour that can be told from the background and yet recedes behind it: a little lighter than a dark background, a
-// little darker than a light one.
-Rgb MarginShade(Rgb background);
+// What a margin asks of the window around it.
+class MarginHost {
+  public:
+    virtual ~MarginHost() = default;
+    // The user has pressed the mouse beside a line; the place is one of the screen.
+    virtual void marginPressed(POINT screenPlace, bool shift) = 0;
+    virtual void marginWheel(const WheelMessage& turn) = 0;
+};
 
+// Draws with the font of the pane beside it, row by row at the same heights.
 class MDImarginCL : public WindowCL {
   public:
-    explicit MDImarginCL(const ColourTable& colours) : colours_(colours) {}
+    MDImarginCL(const EditView& view, const RowPainter& pane, const DisplayColours& colours, MarginHost& host)
+        : view_(view), pane_(pane), colours_(colours), host_(host) {}
 
     bool open(HWND parent);
+    // Shows the view as it now is: draws the rows that look different.
+    void refresh();
+    // Draws everything anew, in other colours or another font.
+    void redraw();
+    // In pixels, for the present number of lines.
+    int width() const;
 
   protected:
     bool onSize(UINT kind) override;
     bool onPaint(HDC dc, const RECT& update) override;
     bool onEraseBackground(HDC dc) override;
+    bool onMousePress(const MouseButtonMessage& press) override;
+    bool onWheel(const WheelMessage& turn) override;
 
   private:
-    const ColourTable& colours_;
+    std::size_t rowCount() const;
+    int markWidth() const { return pane_.cellWidth() / 3 + 1; }
+    void drawRow(HDC window, int top, int width, const MarginRow& row);
+    void drawBookmark(HDC dc, char digit);
+
+    const EditView& view_;
+    const RowPainter& pane_;
+    const DisplayColours& colours_;
+    MarginHost& host_;
+    std::vector<MarginRow> rows_;  // as they were last drawn or are about to be
+    OffScreenBitmap picture_;
 };
 
 }  // namespace vexa

@@ -11,7 +11,20 @@ namespace {
 constexpr const char* kFallbackFace = "Courier New";
 constexpr BYTE kFamilyMask = 0xF0;
 
-LOGFONTA Describe(const FontDetails& details, int dpi) {
+bool IsFixedPitch(const TEXTMETRICA& metrics) {
+    // The system's flag says the opposite of its name.
+    return !(metrics.tmPitchAndFamily & TMPF_FIXED_PITCH);
+}
+
+PaneFont Measured(FontHandle font, const TEXTMETRICA& metrics) {
+    const int width = std::max<LONG>(metrics.tmAveCharWidth, 1);
+    const int height = std::max<LONG>(metrics.tmHeight + metrics.tmExternalLeading, 1);
+    return {std::move(font), width, height};
+}
+
+}  // namespace
+
+LOGFONTA DescribeFont(const FontDetails& details, int dpi) {
     LOGFONTA description{};
     description.lfHeight = Scaled(details.Height, dpi);
     description.lfWidth = Scaled(details.Width, dpi);
@@ -26,21 +39,21 @@ LOGFONTA Describe(const FontDetails& details, int dpi) {
     return description;
 }
 
-bool IsFixedPitch(const TEXTMETRICA& metrics) {
-    // The system's flag says the opposite of its name.
-    return !(metrics.tmPitchAndFamily & TMPF_FIXED_PITCH);
+FontDetails DetailsOf(const LOGFONTA& description, int dpi) {
+    FontDetails details;
+    details.Height = MulDiv(description.lfHeight, kNormalDpi, dpi);
+    details.Width = MulDiv(description.lfWidth, kNormalDpi, dpi);
+    details.Weight = description.lfWeight;
+    details.Italic = description.lfItalic != 0;
+    details.Underline = description.lfUnderline != 0;
+    details.StrikeOut = description.lfStrikeOut != 0;
+    details.Family = description.lfPitchAndFamily & kFamilyMask;
+    details.Face = description.lfFaceName;
+    return details;
 }
-
-PaneFont Measured(FontHandle font, const TEXTMETRICA& metrics) {
-    const int width = std::max<LONG>(metrics.tmAveCharWidth, 1);
-    const int height = std::max<LONG>(metrics.tmHeight + metrics.tmExternalLeading, 1);
-    return {std::move(font), width, height};
-}
-
-}  // namespace
 
 PaneFont MakePaneFont(const FontDetails& details, HWND window) {
-    LOGFONTA description = Describe(details, DpiOf(window));
+    LOGFONTA description = DescribeFont(details, DpiOf(window));
     FontHandle font(CreateFontIndirectA(&description));
     TEXTMETRICA metrics = MetricsOf(window, font.get());
     if (!IsFixedPitch(metrics)) {

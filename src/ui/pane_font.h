@@ -15,4 +15,8 @@ struct PaneFont {
 // The font nearest to the details that has one width for all characters, at the resolution of the window's monitor.
 PaneFont MakePaneFont(const FontDetails& details, HWND window);
 
+// What the system's font dialog starts with and answers, at a resolution.
+LOGFONTA DescribeFont(const FontDetails& details, int dpi);
+FontDetails DetailsOf(const LOGFONTA& description, int dpi);
+
 }  // namespace vexa

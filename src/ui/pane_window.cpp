@@ -32,6 +32,12 @@ void PaneWindowCL::refreshFont() {
     fitView();
 }
 
+void PaneWindowCL::refreshColours() {
+    view_.setHighlighting(colours_.isHighlightingOn());
+    refresh();
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
 bool PaneWindowCL::onSize(UINT /*kind*/) {
     fitView();
     // What the system has moved along with the window need not be what belongs there now.
@@ -155,18 +161,27 @@ bool PaneWindowCL::onScroll(int bar, UINT request) {
     return true;
 }
 
-bool PaneWindowCL::onWheel(WheelAxis axis, int delta) {
+bool PaneWindowCL::onWheel(const WheelMessage& turn) {
+    if (turn.control) {
+        const std::int32_t steps = zoom_.add(-turn.delta, 1);
+        if (steps != 0) host_.zoom(steps);
+    } else if (turn.axis == WheelAxis::Horizontal) {
+        scrollByWheel(SB_HORZ, turn.delta);
+    } else {
+        scrollByWheel(turn.shift ? SB_HORZ : SB_VERT, -turn.delta);
+    }
+    return true;
+}
+
+// A delta above 0 goes towards the end of the lines or of the document.
+void PaneWindowCL::scrollByWheel(int bar, int delta) {
     UINT linesPerNotch = 3;
     SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &linesPerNotch, 0);
-    const int bar = axis == WheelAxis::Vertical ? SB_VERT : SB_HORZ;
     const ScrollState state = scrollState(bar);
-    // Turning to the right is a delta above 0, turning down one below.
-    const int down = axis == WheelAxis::Vertical ? delta : -delta;
     const auto most = static_cast<UINT>(state.page);  // also for the setting "one page a notch"
-    const auto lines = wheel_[bar].add(down, static_cast<std::int32_t>(std::min(linesPerNotch, most)));
+    const auto lines = wheel_[bar].add(-delta, static_cast<std::int32_t>(std::min(linesPerNotch, most)));
     const std::int32_t end = std::max({state.last - state.page + 1, state.position, 0});
     if (lines != 0) scrollTo(bar, std::clamp(state.position + lines, 0, end));
-    return true;
 }
 
 // ---- keys --------------------------------------------------------------------------------------------------------
@@ -211,7 +226,19 @@ Cell PaneWindowCL::cellAt(POINT place) const {
     return {cells(place.y, height), cells(x, width)};
 }
 
-bool PaneWindowCL::onMousePress(POINT place, bool shift) {
+bool PaneWindowCL::onMousePress(const MouseButtonMessage& press) {
+    const MousePress plain = press.isDouble ? MousePress::Word : MousePress::Stream;
+    dropsAltRelease_ = press.alt;
+    startDrag(press.place, press.shift, press.alt ? MousePress::Column : plain);
+    return true;
+}
+
+void PaneWindowCL::startMarkingLines(POINT screenPlace, bool extend) {
+    ScreenToClient(window(), &screenPlace);
+    startDrag(screenPlace, extend, MousePress::Lines);
+}
+
+void PaneWindowCL::startDrag(POINT place, bool extend, MousePress how) {
     constexpr UINT kScrollInterval = 50;  // milliseconds between two steps while the mouse is held outside
     SetFocus(window());
     host_.userActs();
@@ -219,9 +246,13 @@ bool PaneWindowCL::onMousePress(POINT place, bool shift) {
     SetTimer(window(), 1, kScrollInterval, nullptr);
     isDragging_ = true;
     dragPlace_ = place;
-    view_.press(cellAt(place), shift);
+    view_.press(cellAt(place), extend, how);
     refresh();
-    return true;
+}
+
+// Alt was held to mark a column; on its own it would now open the menu.
+bool PaneWindowCL::onSystemKeyUp(UINT key) {
+    return key == VK_MENU && std::exchange(dropsAltRelease_, false);
 }
 
 bool PaneWindowCL::onMouseMove(POINT place) {
@@ -234,9 +265,12 @@ bool PaneWindowCL::onMouseMove(POINT place) {
     return true;
 }
 
+// Lines that are marked beside the pane scroll only when the mouse is above or below it.
 bool PaneWindowCL::onTimer(UINT_PTR /*timer*/) {
-    const RECT client = clientArea();
-    if (!isDragging_ || PtInRect(&client, dragPlace_)) return true;
+    RECT client = clientArea();
+    const POINT place = {std::max<LONG>(dragPlace_.x, 0), dragPlace_.y};
+    const bool isInside = PtInRect(&client, view_.isMarkingLines() ? place : dragPlace_);
+    if (!isDragging_ || isInside) return true;
     view_.drag(cellAt(dragPlace_));
     refresh();
     return true;
@@ -260,11 +294,23 @@ void PaneWindowCL::endDrag() {
     refresh();
 }
 
+// The commands of the menu work where it was asked for: at the mouse, unless that is over what is marked.
 bool PaneWindowCL::onContextMenu(std::optional<POINT> screenPlace) {
-    POINT place = view_.caret() ? caretPlace() : POINT{};
-    ClientToScreen(window(), &place);
     host_.userActs();
-    host_.showContextMenu(screenPlace.value_or(place));
+    if (screenPlace) {
+        POINT place = *screenPlace;
+        ScreenToClient(window(), &place);
+        if (!view_.isMarked(cellAt(place))) {
+            view_.press(cellAt(place), false);
+            view_.release();
+            refresh();
+        }
+        host_.showContextMenu(*screenPlace);
+    } else {
+        POINT place = view_.caret() ? caretPlace() : POINT{};
+        ClientToScreen(window(), &place);
+        host_.showContextMenu(place);
+    }
     return true;
 }
 

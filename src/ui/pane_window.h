@@ -21,21 +21,28 @@ class PaneHost {
     virtual void keyUsed(const KeyEvent& event) = 0;
     // The caret, the text or the mode may have changed.
     virtual void viewChanged() = 0;
+    // The user wants larger characters, or smaller ones below 0.
+    virtual void zoom(std::int32_t steps) = 0;
     // The user wants the pop-up menu, at a place of the screen.
     virtual void showContextMenu(POINT screenPlace) = 0;
 };
 
 class PaneWindowCL : public WindowCL {
   public:
-    PaneWindowCL(EditView& view, const ColourTable& colours, const FontDetails& font, PaneHost& host)
-        : view_(view), fontDetails_(font), host_(host), painter_(colours) {}
+    PaneWindowCL(EditView& view, const DisplayColours& colours, const FontDetails& font, PaneHost& host)
+        : view_(view), colours_(colours), fontDetails_(font), host_(host), painter_(colours) {}
 
     bool open(HWND parent);
     // Shows the view as it now is: draws the rows that look different, moves the caret and the scroll bars.
     void refresh();
-    int cellWidth() const { return painter_.cellWidth(); }
-    // Takes over the resolution in force.
+    const RowPainter& painter() const { return painter_; }
+    // Takes over the font and the resolution in force.
     void refreshFont();
+    // Takes over the colours in force.
+    void refreshColours();
+    // Follows the mouse, whose button was pressed at a place of the screen beside the pane, and marks lines.
+    void startMarkingLines(POINT screenPlace, bool extend);
+    bool onWheel(const WheelMessage& turn) override;
 
   protected:
     bool onCreate() override;
@@ -46,13 +53,13 @@ class PaneWindowCL : public WindowCL {
     bool onFocusLost() override;
     bool onKey(const KeyMessage& key) override;
     bool onCharacter(unsigned char character, UINT repeat) override;
+    bool onSystemKeyUp(UINT key) override;
     bool onSystemCharacter(unsigned char character) override;
-    bool onMousePress(POINT place, bool shift) override;
+    bool onMousePress(const MouseButtonMessage& press) override;
     bool onMouseMove(POINT place) override;
     bool onMouseRelease() override;
     bool onCaptureLost() override;
     bool onTimer(UINT_PTR timer) override;
-    bool onWheel(WheelAxis axis, int delta) override;
     bool onScroll(int bar, UINT request) override;
     bool onContextMenu(std::optional<POINT> screenPlace) override;
 
@@ -61,23 +68,28 @@ class PaneWindowCL : public WindowCL {
     void refreshRows();
     void refreshCaret();
     void refreshScrollBar(int bar);
+    void startDrag(POINT place, bool extend, MousePress how);
     void endDrag();
+    void scrollByWheel(int bar, int delta);
     Cell cellAt(POINT place) const;
     POINT caretPlace() const;
     ScrollState scrollState(int bar) const;
     void scrollTo(int bar, std::int32_t position);
 
     EditView& view_;
+    const DisplayColours& colours_;
     const FontDetails& fontDetails_;
     PaneHost& host_;
     RowPainter painter_;
     KeyTranslator keys_;
-    WheelSteps wheel_[2];         // by axis
+    WheelSteps wheel_[2];  // by bar
+    WheelSteps zoom_;
     std::vector<ViewRow> rows_;   // as they were last drawn or are about to be
     ScrollState shownScroll_[2];  // by bar
     SIZE caretSize_ = {};         // none while the window has not the focus
     POINT dragPlace_ = {};
     bool isDragging_ = false;
+    bool dropsAltRelease_ = false;
 };
 
 }  // namespace vexa

@@ -4,10 +4,6 @@
 
 namespace vexa {
 
-COLORREF ColourRef(Rgb colour) {
-    return RGB(colour.red, colour.green, colour.blue);
-}
-
 void RowPainter::paint(HDC window, int top, int width, const ViewRow& row) {
     const HDC dc = picture_.prepare(window, width, cellHeight());
     if (!dc) return;
@@ -25,8 +21,8 @@ void RowPainter::drawRun(HDC dc, const CellRun& run, int right, const std::strin
     const auto length = std::min(static_cast<std::size_t>(run.length), cells.size() - start);
     const int left = run.start * cellWidth();
     const RECT area = {left, 0, right, cellHeight()};
-    SetTextColor(dc, ColourRef(colours_.colourOf(run.text)));
-    SetBkColor(dc, ColourRef(colours_.colourOf(run.background)));
+    SetTextColor(dc, colours_.colourOf(run.text));
+    SetBkColor(dc, colours_.colourOf(run.background));
     ExtTextOutA(dc, left, 0, ETO_OPAQUE | ETO_CLIPPED, &area, cells.data() + start, static_cast<UINT>(length),
                 widths_.data());
 }

@@ -5,18 +5,17 @@
 
 #include "document/row_renderer.h"
 #include "framework/gdi.h"
-#include "language/colour_table.h"
+#include "ui/display_colours.h"
 #include "ui/pane_font.h"
 
 namespace vexa {
 
-COLORREF ColourRef(Rgb colour);
-
 class RowPainter {
   public:
-    explicit RowPainter(const ColourTable& colours) : colours_(colours) {}
+    explicit RowPainter(const DisplayColours& colours) : colours_(colours) {}
 
     void setFont(PaneFont font) { font_ = std::move(font); }
+    const PaneFont& font() const { return font_; }
     int cellWidth() const { return font_.cellWidth; }
     int cellHeight() const { return font_.cellHeight; }
     // Draws a row at a height of the window, which is that many pixels wide; what lies right of the last cell gets the
@@ -26,7 +25,7 @@ class RowPainter {
   private:
     void drawRun(HDC dc, const CellRun& run, int right, const std::string& cells);
 
-    const ColourTable& colours_;
+    const DisplayColours& colours_;
     PaneFont font_;
     OffScreenBitmap picture_;
     std::vector<INT> widths_;  // one cell each: keeps every character in its cell whatever the font says

@@ -10,6 +10,7 @@
 #include "base/platform.h"
 #include "framework/file_dialog.h"
 #include "framework/message_box.h"
+#include "framework/title_bar.h"
 #include "shell/hand_off.h"
 #include "ui/file_selection.h"
 #include "ui/for_each_document.h"
@@ -71,6 +72,8 @@ bool VexaFrame::onCreate() {
     fileMenu_ = GetSubMenu(bar.get(), 0);
     const HMENU windowMenu = GetSubMenu(bar.get(), static_cast<int>(rows.windowMenu));
     setMenu(std::move(bar));
+    application_.clipboard.setOwner(window());
+    SetDarkTitleBar(window(), application_.display.isDark());
     setAccelerators(MakeAccelerators(AcceleratorKeys()));
     if (!toolBar_.open(window()) || !statusBar_.open(window()) || !openClient(windowMenu)) return false;
     toolBar_.show(application_.options.ToolBar);
@@ -83,11 +86,26 @@ void VexaFrame::onSettingChange() {
     statusBar_.refreshFont();
     toolBar_.refreshPictures();
     layOut();
+    application_.display.refresh();
+    refreshColours();
+}
+
+void VexaFrame::refreshColours() {
+    SetDarkTitleBar(window(), application_.display.isDark());
+    forEachDocument([](DocumentWindow& window) { window.refreshColours(); });
+}
+
+// Finds out about comments that span lines before these are shown.
+bool VexaFrame::workWhileIdle() {
+    constexpr std::int32_t kLinesAtOnce = 2000;
+    bool hasMore = false;
+    forEachDocument([&](DocumentWindow& window) { hasMore |= window.document().lookAheadForComments(kLinesAtOnce); });
+    return hasMore;
 }
 
 bool VexaFrame::onDpiChanged(const RECT& suggested) {
     onSettingChange();
-    forEachDocument([](DocumentWindow& window) { window.refreshFont(); });
+    refreshFonts();
     return MDIframeCL::onDpiChanged(suggested);
 }
 

@@ -47,6 +47,7 @@ class VexaFrame : public MDIframeCL,
     // Runs until the frame is closed; the program's exit code.
     int run() { return loop_.run(); }
     bool translate(MSG& message) override;
+    bool workWhileIdle() override;
 
   protected:
     bool onCreate() override;
@@ -79,6 +80,9 @@ class VexaFrame : public MDIframeCL,
     template <class Use>
     void forEachDocument(Use use) const;
     void refreshToolBar();
+    void refreshFonts();
+    // Shows the colours in force in all windows.
+    void refreshColours();
 
     // ---- commands ----
 
@@ -91,7 +95,12 @@ class VexaFrame : public MDIframeCL,
     void exit();
     void undo();
     void redo();
+    void cut();
+    void copy();
+    void paste();
     void clear();
+    template <CaseChange kChange>
+    void changeCase();
     void selectAll();
     void toMatchingBracket();
     void toWindowStart();
@@ -109,6 +118,7 @@ class VexaFrame : public MDIframeCL,
     void gotoLine();
     void gotoBookmark();
     void changeOptions();
+    void changeFont();
     void toggleToolBar();
     void toggleStatusBar();
     void closeAllDocuments();
@@ -136,6 +146,7 @@ class VexaFrame : public MDIframeCL,
 
     void userActs() override { notices_.clearStatus(); }
     void keyUsed(const KeyEvent& event) override { macro_.recordKey(event); }
+    void zoom(std::int32_t steps) override;
     void documentChanged(const DocumentWindow& window) override;
     bool mayCloseDocument(DocumentWindow& window) override;
     void showContextMenu(POINT screenPlace) override;

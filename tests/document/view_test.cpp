@@ -3,6 +3,7 @@
 #include <string>
 
 #include "document/edit_view.h"
+#include "document/margin_row.h"
 #include "support/recording_notices.h"
 
 namespace vexa {
@@ -109,6 +110,54 @@ TEST_F(View, TheMousePlacesTheCaretAndMarks) {
     view_.press({0, 0}, false);
     view_.release();
     EXPECT_FALSE(document_.marked().active);
+}
+
+TEST_F(View, MouseMarksColumnsLinesAndWords) {
+    const auto area = [this](MarkMode mode, int fromLine, int fromColumn, int toLine, int toColumn) {
+        return MarkedArea{
+            mode, true, {LineIndex(fromLine), DisplayColumn(fromColumn)}, {LineIndex(toLine), DisplayColumn(toColumn)}};
+    };
+    view_.press({2, 4}, false, MousePress::Column);
+    view_.drag({1, 7});
+    view_.release();
+    EXPECT_EQ(document_.marked(), area(MarkMode::Column, 1, 4, 2, 7));
+    view_.press({5, -2}, false, MousePress::Lines);
+    EXPECT_EQ(document_.marked(), area(MarkMode::Lines, 5, 0, 5, 0)) << "the pressed line at once";
+    view_.drag({3, -2});
+    view_.release();
+    EXPECT_EQ(document_.marked(), area(MarkMode::Lines, 3, 0, 5, 0));
+    view_.press({6, 6}, false, MousePress::Word);
+    EXPECT_EQ(document_.marked(), area(MarkMode::Stream, 6, 5, 6, 6));
+    view_.drag({6, 1});
+    EXPECT_EQ(document_.marked(), area(MarkMode::Stream, 6, 0, 6, 6)) << "both words, whichever comes first";
+    view_.drag({7, 2});
+    view_.release();
+    EXPECT_EQ(document_.marked(), area(MarkMode::Stream, 6, 5, 7, 4));
+    view_.press({0, 20}, false, MousePress::Word);
+    EXPECT_FALSE(document_.marked().active) << "there is no word";
+}
+
+TEST_F(View, MarginShowsNumbersBookmarksAndChangedLines) {
+    const auto margin = [this](int line) { return RenderMarginRow(document_, LineIndex(line)); };
+    EXPECT_EQ(margin(0), (MarginRow{"   1", ' ', false, true}));
+    EXPECT_EQ(margin(99), (MarginRow{" 100", ' ', false, false}));
+    EXPECT_EQ(margin(300), (MarginRow{"    ", ' ', false, false})) << "beyond the end";
+    press(kKeyDelete);
+    view_.undo();  // from here on the text counts as loaded
+    view_.goTo(LineIndex(99), CharColumn(0));
+    view_.dropBookmark(7);
+    view_.dropBookmark(3);
+    press(kKeyEnter);
+    EXPECT_EQ(margin(99), (MarginRow{" 100", '3', true, false}));
+    EXPECT_EQ(margin(100), (MarginRow{" 101", ' ', true, true}));
+    EXPECT_FALSE(margin(101).isChanged);
+    view_.undo();
+    EXPECT_FALSE(margin(99).isChanged) << "all changes have been undone";
+    press(kKeyDelete);
+    EXPECT_TRUE(margin(99).isChanged);
+    EXPECT_FALSE(margin(100).isChanged) << "a line that had only been changed before the undo";
+    options_.LineNumbers = false;
+    EXPECT_EQ(margin(99).number, "");
 }
 
 TEST_F(View, DraggingOutsideScrolls) {

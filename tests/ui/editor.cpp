@@ -42,6 +42,15 @@ INPUT MouseInput(POINT screenPlace, DWORD flags) {
     return input;
 }
 
+INPUT KeyInput(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, 0));
+    input.ki.dwFlags = flags;
+    return input;
+}
+
 }  // namespace
 
 std::string TextOf(HWND window) {
@@ -217,6 +226,15 @@ void Editor::keys(const std::string& script) const {
     PressKeys(script);
 }
 
+void Editor::dragWithAlt(POINT from, POINT to) const {
+    moveMouse(from, 0);
+    ClientToScreen(activePane(), &from);
+    ClientToScreen(activePane(), &to);
+    INPUT inputs[] = {KeyInput(VK_MENU, 0), MouseInput(from, MOUSEEVENTF_LEFTDOWN), MouseInput(to, 0),
+                      MouseInput(to, MOUSEEVENTF_LEFTUP), KeyInput(VK_MENU, KEYEVENTF_KEYUP)};
+    SendInput(std::size(inputs), inputs, sizeof(INPUT));
+}
+
 void Editor::moveMouse(POINT place, DWORD flags) const {
     ClientToScreen(activePane(), &place);
     INPUT input = MouseInput(place, flags);
@@ -225,6 +243,11 @@ void Editor::moveMouse(POINT place, DWORD flags) const {
 
 void Editor::point(POINT place) const {
     moveMouse(place, 0);
+}
+
+void Editor::rightClick(POINT place) const {
+    moveMouse(place, MOUSEEVENTF_RIGHTDOWN);
+    moveMouse(place, MOUSEEVENTF_RIGHTUP);
 }
 
 void Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile) const {

@@ -80,10 +80,13 @@ class Editor {
     void kill() { program_.kill(); }
     // Presses the left button at a place of the active pane, in pixels, and lets it go at the last of the places.
     void click(POINT place) const { drag({place}); }
+    void rightClick(POINT place) const;
     // Moves the mouse to a place of the active pane.
     void point(POINT place) const;
     // The button is held at the last place until meanwhile is done.
     void drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile = nullptr) const;
+    // All in one go: the system would else believe the keyboard of the display, where no key is down.
+    void dragWithAlt(POINT from, POINT to) const;
     void requestClose() const { PostMessageA(frame_, WM_CLOSE, 0, 0); }
 
     // ---- dialogs and end ----

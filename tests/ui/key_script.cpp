@@ -16,11 +16,17 @@ struct NamedKey {
 };
 
 constexpr NamedKey kNamedKeys[] = {
-    {"Enter", VK_RETURN, false}, {"Esc", VK_ESCAPE, false}, {"Tab", VK_TAB, false},   {"Backspace", VK_BACK, false},
-    {"Left", VK_LEFT, true},     {"Right", VK_RIGHT, true}, {"Up", VK_UP, true},      {"Down", VK_DOWN, true},
-    {"Home", VK_HOME, true},     {"End", VK_END, true},     {"PgUp", VK_PRIOR, true}, {"PgDn", VK_NEXT, true},
-    {"Del", VK_DELETE, true},    {"Minus", 0xBD, false},    {"F5", VK_F5, false},     {"F6", VK_F6, false},
-    {"F7", VK_F7, false},        {"F8", VK_F8, false},      {"F10", VK_F10, false},
+    {"Enter", VK_RETURN, false},   {"Esc", VK_ESCAPE, false},
+    {"Tab", VK_TAB, false},        {"Backspace", VK_BACK, false},
+    {"Left", VK_LEFT, true},       {"Right", VK_RIGHT, true},
+    {"Up", VK_UP, true},           {"Down", VK_DOWN, true},
+    {"Home", VK_HOME, true},       {"End", VK_END, true},
+    {"PgUp", VK_PRIOR, true},      {"PgDn", VK_NEXT, true},
+    {"Del", VK_DELETE, true},      {"Ins", VK_INSERT, true},
+    {"KeypadPlus", VK_ADD, false}, {"KeypadMinus", VK_SUBTRACT, false},
+    {"Minus", 0xBD, false},        {"F5", VK_F5, false},
+    {"F6", VK_F6, false},          {"F7", VK_F7, false},
+    {"F8", VK_F8, false},          {"F10", VK_F10, false},
 };
 
 struct Modifier {
