@@ -35,6 +35,10 @@ BARS = [
     ("lines_at_top/C/vexa", 15000, 1),
     ("startup/c.txt/vexa", "startup/c.txt/notepad", 1.5),
     ("startup/small.txt/vexa", "startup/small.txt/notepad", 1.5),
+    ("paint/key/vexa/median", "paint/key/notepad/median", 1),
+    ("paint/key/vexa/percentile_95", "paint/key/notepad/percentile_95", 1),
+    ("paint/scroll_line/vexa/longest", 16, 1),
+    ("paint/comment_opened/vexa", 16, 1),
 ]
 
 

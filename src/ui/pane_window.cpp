@@ -1,6 +1,8 @@
 #include "ui/pane_window.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "framework/dpi.h"
 
@@ -12,6 +14,19 @@ constexpr POINT kOutOfSight = {-1000, -1000};
 
 std::int32_t CellsIn(LONG pixels, int cell) {
     return std::max<std::int32_t>(pixels / cell, 1);
+}
+
+// The window shows rows of one height from its top down; they begin so many rows further on than they did (back below
+// 0). Most of the picture is there already and only has to move, and the rows with it; those that come into sight are
+// left empty and are to be drawn. Does nothing when nothing of the picture stays.
+void ScrollPicture(HWND window, std::vector<ViewRow>& rows, std::int32_t moved, int rowHeight) {
+    const auto count = static_cast<std::int32_t>(rows.size());
+    if (moved == 0 || std::abs(moved) >= count) return;
+    UpdateWindow(window);  // what is still to be drawn belongs to the rows as they stood
+    ScrollWindowEx(window, 0, -moved * rowHeight, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
+    std::rotate(rows.begin(), rows.begin() + (moved > 0 ? moved : count + moved), rows.end());
+    const auto fresh = moved > 0 ? rows.end() - moved : rows.begin();
+    std::fill(fresh, fresh + std::abs(moved), ViewRow{});
 }
 
 }  // namespace
@@ -63,6 +78,9 @@ void PaneWindowCL::refresh() {
 }
 
 void PaneWindowCL::refreshRows() {
+    const std::int32_t moved = view_.topLine() - std::exchange(shownTop_, view_.topLine());
+    const bool isSideways = view_.leftColumn() != std::exchange(shownLeft_, view_.leftColumn());
+    if (!isSideways) ScrollPicture(window(), rows_, moved, painter_.cellHeight());
     const RECT client = clientArea();
     const int height = painter_.cellHeight();
     rows_.resize(static_cast<std::size_t>((client.bottom + height - 1) / height));

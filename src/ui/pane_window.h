@@ -84,7 +84,9 @@ class PaneWindowCL : public WindowCL {
     KeyTranslator keys_;
     WheelSteps wheel_[2];  // by bar
     WheelSteps zoom_;
-    std::vector<ViewRow> rows_;   // as they were last drawn or are about to be
+    std::vector<ViewRow> rows_;  // as they were last drawn or are about to be
+    LineIndex shownTop_;         // where the rows began then
+    DisplayColumn shownLeft_;
     ScrollState shownScroll_[2];  // by bar
     SIZE caretSize_ = {};         // none while the window has not the focus
     POINT dragPlace_ = {};
