@@ -7,6 +7,22 @@
 
 namespace vexa {
 
+namespace {
+
+constexpr std::string_view kFilePrefix = "Vexa";
+constexpr std::string_view kFileSuffix = ".PRF";
+
+// What stands for the extension in the name of a profile file; empty in any other name. A search for files may find
+// names with a longer suffix, too.
+std::string_view ExtensionIn(std::string_view fileName) {
+    const std::size_t around = kFilePrefix.size() + kFileSuffix.size();
+    if (fileName.size() <= around) return {};
+    if (!EqualIgnoringCase(fileName.substr(fileName.size() - kFileSuffix.size()), kFileSuffix)) return {};
+    return fileName.substr(kFilePrefix.size(), fileName.size() - around);
+}
+
+}  // namespace
+
 std::string_view ExtensionOf(std::string_view fileName) {
     fileName.remove_prefix(fileName.find_last_of("\\/:") + 1);
     const std::size_t dot = fileName.rfind('.');
@@ -24,7 +40,16 @@ const ExtensionProfile& ProfileList::profileFor(std::string_view fileName) {
 }
 
 std::string ProfileList::profilePath(std::string_view extension) const {
-    return directory_ + "\\Vexa" + std::string(extension) + ".PRF";
+    return directory_ + "\\" + std::string(kFilePrefix) + std::string(extension) + std::string(kFileSuffix);
+}
+
+std::vector<std::string> ProfileList::extensions() const {
+    std::vector<std::string> found;
+    for (const std::string& name : platform::FindFiles(profilePath("*"))) {
+        if (const std::string_view extension = ExtensionIn(name); !extension.empty()) found.emplace_back(extension);
+    }
+    std::ranges::sort(found, LessIgnoringCase);
+    return found;
 }
 
 const ExtensionProfile* ProfileList::findLoaded(std::string_view extension) const {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "language/extension_profile.h"
@@ -14,7 +15,8 @@ namespace vexa {
 // none.
 std::string_view ExtensionOf(std::string_view fileName);
 
-// Profiles stay where they are for as long as the list lives, so documents may keep references to them.
+// Profiles stay where they are, so documents may keep references to them: until the list goes, or until the second call
+// of forgetLoaded() after they were given out.
 class ProfileList {
   public:
     // The directory of the profile files, without a "\" at its end.
@@ -26,6 +28,11 @@ class ProfileList {
 
     // The profile file of an extension.
     std::string profilePath(std::string_view extension) const;
+    // The extensions that have a profile file, as the files' names have them, letter case ignored in their order.
+    std::vector<std::string> extensions() const;
+
+    // Files have been written or deleted: each is read anew when its profile is next asked for.
+    void forgetLoaded() { forgotten_ = std::exchange(loaded_, {}); }
 
   private:
     // The extension that a file was read for need not be the one that it holds.
@@ -40,6 +47,7 @@ class ProfileList {
     std::string directory_;
     ExtensionProfile builtIn_;
     std::vector<std::unique_ptr<LoadedProfile>> loaded_;
+    std::vector<std::unique_ptr<LoadedProfile>> forgotten_;  // documents may still have them
 };
 
 }  // namespace vexa

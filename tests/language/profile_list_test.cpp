@@ -79,6 +79,20 @@ TEST_F(Profiles, AFileIsReadOnceARun) {
     EXPECT_EQ(&list.profileFor("b.PAS"), &profile) << "profiles stay where they are";
 }
 
+TEST_F(Profiles, WhatHasBeenForgottenIsReadAnew) {
+    store("pas", "first", "pas");
+    const ExtensionProfile& first = list.profileFor("a.pas");
+    store("pas", "second", "pas");
+    store("bas", "Basic", "bas");
+    list.forgetLoaded();
+    EXPECT_EQ(first.description(), "first") << "for documents that have it";
+    EXPECT_EQ(list.profileFor("a.pas").description(), "second");
+    EXPECT_EQ(list.profileFor("a.bas").description(), "Basic");
+    ASSERT_TRUE(platform::RemoveFile(list.profilePath("pas")));
+    list.forgetLoaded();
+    EXPECT_TRUE(isBuiltIn("a.pas"));
+}
+
 TEST_F(Profiles, AFileThatHoldsAnotherExtensionServesBoth) {
     store("pas", "Pascal", "inc");
     const ExtensionProfile& profile = list.profileFor("a.pas");
