@@ -2,8 +2,7 @@
 
 namespace vexa {
 
-// Colours that were in effect before and are a preset's too are shown as that preset.
-ColourPreset ColourSetupModel::preset() const {
+ColourPreset ColourSetupModel::presetOfWorkingSet() const {
     const ElementColours& colours = working_.elementColours();
     for (std::size_t i = 0; i + 1 < kPresetCount; ++i) {
         const auto preset = static_cast<ColourPreset>(i);
@@ -14,6 +13,12 @@ ColourPreset ColourSetupModel::preset() const {
 
 void ColourSetupModel::choosePreset(ColourPreset preset) {
     working_.setElementColours(PresetColours(preset, current_.elementColours()));
+    preset_ = preset;
+}
+
+void ColourSetupModel::chooseColour(std::int32_t index) {
+    working_.setElementColour(element_, index);
+    preset_ = presetOfWorkingSet();
 }
 
 }  // namespace vexa

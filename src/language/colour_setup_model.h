@@ -8,16 +8,18 @@ namespace vexa {
 // Works on a copy of the colours; only update() takes it into effect.
 class ColourSetupModel {
   public:
-    explicit ColourSetupModel(const ColourTable& current) : current_(current), working_(current) {}
+    explicit ColourSetupModel(const ColourTable& current)
+        : current_(current), working_(current), preset_(presetOfWorkingSet()) {}
 
-    // The preset that the list shows: the one whose colours the working set has, else "User Defined".
-    ColourPreset preset() const;
+    // The preset that the list shows: the one that was chosen, or whose colours the working set has come to have; else
+    // "User Defined".
+    ColourPreset preset() const { return preset_; }
     void choosePreset(ColourPreset preset);
     ColourElement element() const { return element_; }
     void chooseElement(ColourElement element) { element_ = element; }
     // The palette entry that the colour list selects for the chosen element.
     std::int32_t colour() const { return working_.indexOf(element_) & (kPaletteSize - 1); }
-    void chooseColour(std::int32_t index) { working_.setElementColour(element_, index); }
+    void chooseColour(std::int32_t index);
     bool isHighlightingOn() const { return working_.isHighlightingOn(); }
     void setHighlighting(bool on) { working_.setHighlighting(on); }
 
@@ -26,8 +28,11 @@ class ColourSetupModel {
     void update(ColourTable& table) const { table = working_; }
 
   private:
+    ColourPreset presetOfWorkingSet() const;
+
     const ColourTable current_;
     ColourTable working_;
+    ColourPreset preset_;
     ColourElement element_ = ColourElement::Background;
 };
 

@@ -31,6 +31,8 @@ class ExtensionEditModel {
     std::string commentEnd;
     std::string delimiters;
 
+    // The extension without what stands around it by mistake.
+    std::string_view wantedExtension() const;
     // The extension names the file and stays with it.
     bool isExtensionEnabled() const { return isNew_; }
     // In ascending byte order, each once.
@@ -57,7 +59,6 @@ class ExtensionEditModel {
     };
 
     static std::string Summary(const ImportCount& count);
-    std::string_view wantedExtension() const;
     void takeFields(const ExtensionProfile& profile);
     ExtensionProfile profile() const;
     void add(const KeywordWords& words, ImportCount& count);

@@ -31,7 +31,7 @@ FileCommands::FileCommands(Notices& notices, FileQuestions& questions, ProfileLi
 bool FileCommands::open(TextDocument& document, const std::optional<std::string>& path) {
     document.setName(path.value_or(kUntitled));
     const bool opened = path && platform::PathExists(*path) ? document.load() : document.newEmpty();
-    document.setProfile(profiles_.profileFor(document.fullPath()));
+    takeProfile(document);
     if (!opened) {
         notices_.status(FillText(4130, {"VXEPAN01", "2562"}), true, true);
         notices_.box(FillText(3108, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
@@ -76,7 +76,7 @@ bool FileCommands::writeUnder(TextDocument& document, const std::string& path) {
         tellWriteFailed(newName);
         return false;
     }
-    if (SuffixDiffers(oldPath, path)) document.setProfile(profiles_.profileFor(path));
+    if (SuffixDiffers(oldPath, path)) takeProfile(document);
     questions_.nameChanged(document);
     notices_.status("Write successful.", false, false);
     return true;

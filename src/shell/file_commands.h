@@ -30,6 +30,8 @@ class FileCommands {
     // True when the document's text is on the disk.
     bool save(TextDocument& document);
     bool saveAs(TextDocument& document);
+    // Gives a document the profile of its name, as that profile now is.
+    void takeProfile(TextDocument& document) { document.setProfile(profiles_.profileFor(document.fullPath())); }
     // Asks about unsaved changes; true when the document may be closed.
     bool queryClose(TextDocument& document);
 

@@ -22,9 +22,10 @@ struct Application {
           directories(executable),
           profiles(directories.GetDirectory(kConfigDirectory)) {
         options.Load(store);
+        coloursInEffect.load(store);
+        colours = coloursInEffect;
         font.Load(store);
         searchOptions.Load(store);
-        colours.load(store);
     }
 
     ConfigStore store;
@@ -33,7 +34,8 @@ struct Application {
     SearchOptions searchOptions;
     Directories directories;
     ProfileList profiles;
-    ColourTable colours;
+    ColourTable coloursInEffect;  // those of the settings
+    ColourTable colours;          // those that are shown: others while the user tries some out
     DisplayColours display{colours};
     SystemClipboard clipboard;
 };

@@ -3,10 +3,6 @@
 namespace vexa {
 namespace {
 
-COLORREF ColourRef(Rgb colour) {
-    return RGB(colour.red, colour.green, colour.blue);
-}
-
 int SystemColour(ColourElement element) {
     switch (element) {
         case ColourElement::Background:
@@ -32,6 +28,10 @@ bool IsDark(COLORREF colour) {
 }
 
 }  // namespace
+
+COLORREF ColourRef(Rgb colour) {
+    return RGB(colour.red, colour.green, colour.blue);
+}
 
 void DisplayColours::refresh() {
     HIGHCONTRASTA contrast{};

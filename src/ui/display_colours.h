@@ -7,6 +7,8 @@
 
 namespace vexa {
 
+COLORREF ColourRef(Rgb colour);
+
 // With the system's high contrast on, all text has its window colours and what is marked those of its selections.
 class DisplayColours {
   public:

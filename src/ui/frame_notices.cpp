@@ -51,8 +51,11 @@ void FrameNotices::endHelp() {
     showNotice();
 }
 
+// A modal dialog, which has switched the frame off, has to wait for the answer itself.
 BoxAnswer FrameNotices::box(std::string_view text, std::string_view caption, BoxButtons buttons) {
-    return AnswerOf(ShowBox(frame_.window(), std::string(text), std::string(caption), ButtonsOf(buttons)), buttons);
+    const HWND frame = frame_.window();
+    const HWND owner = IsWindowEnabled(frame) ? frame : GetLastActivePopup(frame);
+    return AnswerOf(ShowBox(owner, std::string(text), std::string(caption), ButtonsOf(buttons)), buttons);
 }
 
 void FrameNotices::setBusy(bool busy) {

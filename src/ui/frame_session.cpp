@@ -119,7 +119,7 @@ void VexaFrame::saveSession() {
     recentFiles_.SaveRecentFiles(application_.store);
     application_.options.Save(application_.store);
     application_.searchOptions.Save(application_.store);
-    application_.colours.save(application_.store);
+    application_.coloursInEffect.save(application_.store);
     application_.font.Save(application_.store);
 }
 

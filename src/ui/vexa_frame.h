@@ -119,6 +119,10 @@ class VexaFrame : public MDIframeCL,
     void gotoBookmark();
     void changeOptions();
     void changeFont();
+    void changeColours();
+    void showColours(const ColourTable& colours);
+    void changeExtensions();
+    void takeProfilesAnew();
     void toggleToolBar();
     void toggleStatusBar();
     void closeAllDocuments();

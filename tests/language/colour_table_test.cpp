@@ -98,6 +98,10 @@ TEST(ColourSetupModel, OnlyUpdateTakesTheChoicesIntoEffect) {
     EXPECT_EQ(table, ColourTable());
     model.update(table);
     EXPECT_EQ(table.indexOf(E::Strings), 12);
+    model.chooseColour(5);
+    EXPECT_EQ(model.preset(), ColourPreset::ClassicVexa) << "its colours again";
+    model.choosePreset(ColourPreset::UserDefined);
+    EXPECT_EQ(model.preset(), ColourPreset::UserDefined) << "as it was chosen, though the colours are Classic Vexa's";
     EXPECT_FALSE(table.isHighlightingOn());
 }
 
