@@ -16,17 +16,27 @@ announce_windows_preset() {
     has_wine32 || say "This machine has no 32-bit Wine: the 64-bit program is used instead of the 32-bit one."
 }
 
-# Builds the program that this machine can run, without the tests, and prints its path.
-build_program() {
+# Builds targets of the Windows program that this machine can run, without the tests, and prints the folder of the build.
+build_targets() {
     local preset build log=$root/build/logs/program.log
     preset=$(windows_preset)
     build=$root/build/program-$preset
     mkdir -p "$root/build/logs"
     {
         cmake -S "$root" --preset "$preset" -B "$build" -DVEXA_TESTS=OFF &&
-            cmake --build "$build" -j "$(nproc)" --target vexa
+            cmake --build "$build" -j "$(nproc)" --target "$@"
     } >"$log" 2>&1 </dev/null || { tail -n 40 "$log" >&2; fail "The build failed; all of it is in $log"; }
-    find "$build" -name vexa.exe -print -quit
+    echo "$build"
+}
+
+# The program in the folder of a build.
+program_of() { find "$1" -name vexa.exe -print -quit; }
+
+# Builds the program that this machine can run, without the tests, and prints its path.
+build_program() {
+    local build
+    build=$(build_targets vexa)
+    program_of "$build"
 }
 
 # Ends a process that this script has started, and waits until it has ended.
