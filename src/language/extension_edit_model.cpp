@@ -44,6 +44,12 @@ bool IsGoodExtension(std::string_view extension) {
            std::ranges::all_of(extension, CanStandInAFileName);
 }
 
+std::vector<std::string> SortedOnceEach(std::vector<std::string> words) {
+    std::ranges::sort(words);
+    words.erase(std::unique(words.begin(), words.end()), words.end());
+    return words;
+}
+
 void Tell(Notices& notices, const std::string& text) {
     notices.box(text, kErrorCaption, BoxButtons::Ok);
 }
@@ -69,9 +75,7 @@ void ExtensionEditModel::takeFields(const ExtensionProfile& profile) {
     commentStart = profile.commentStart();
     commentEnd = profile.commentEnd();
     delimiters = profile.delimiters();
-    keywords_ = profile.keywords();
-    std::ranges::sort(keywords_);
-    keywords_.erase(std::ranges::unique(keywords_).begin(), keywords_.end());
+    keywords_ = SortedOnceEach(profile.keywords());
 }
 
 ExtensionProfile ExtensionEditModel::profile() const {
@@ -92,9 +96,7 @@ ExtensionProfile ExtensionEditModel::profile() const {
 
 // Sorted once for all the words, as an import may bring very many.
 void ExtensionEditModel::add(const KeywordWords& words, ImportCount& count) {
-    std::vector<std::string> fresh = words.words;
-    std::ranges::stable_sort(fresh);
-    fresh.erase(std::ranges::unique(fresh).begin(), fresh.end());
+    std::vector<std::string> fresh = SortedOnceEach(words.words);
     std::erase_if(fresh, [this](const std::string& word) { return std::ranges::binary_search(keywords_, word); });
     count.known += words.words.size() - fresh.size();
     count.tooLong += words.tooLong;
