@@ -12,37 +12,14 @@ namespace {
 
 constexpr DisplayColumn kToTheEdge{std::numeric_limits<std::int32_t>::max()};
 
-// Display columns from begin up to end; none when they are equal.
-struct Span {
-    DisplayColumn begin;
-    DisplayColumn end;
-};
-
 DisplayColumn TextEnd(const TextDocument& document, LineIndex line) {
     return document.toDisplay(line, CharColumn(static_cast<std::int32_t>(document.text(line).size())));
 }
 
-// A marked line end is shown as one cell behind the text.
-Span MarkedStream(const TextDocument& document, const MarkedArea& area, LineIndex line) {
+ColumnSpan MarkedStream(const TextDocument& document, const MarkedArea& area, LineIndex line) {
     const DisplayColumn begin = line == area.start.line ? area.start.column : DisplayColumn(0);
     const DisplayColumn lineEnd = std::max(TextEnd(document, line), begin) + 1;
     return {begin, line == area.end.line ? area.end.column : lineEnd};
-}
-
-Span MarkedIn(const TextDocument& document, LineIndex line) {
-    const MarkedArea& area = document.marked();
-    if (!area.active || line < area.start.line || line > area.end.line) return {};
-    switch (area.mode) {
-        case MarkMode::Lines:
-            return {DisplayColumn(0), kToTheEdge};
-        case MarkMode::Stream:
-            return MarkedStream(document, area, line);
-        case MarkMode::Column:
-            return {area.start.column, area.end.column};
-        case MarkMode::None:
-            break;
-    }
-    return {};
 }
 
 std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns) {
@@ -131,11 +108,8 @@ void LayTokens(const TextDocument& document, LineIndex line, DisplayColumn left,
     }
 }
 
-}  // namespace
-
-ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
-                  bool highlighting) {
-    const Span marked = MarkedIn(document, line);
+ViewRow Render(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
+               bool highlighting, ColumnSpan marked) {
     const auto cell = [left](DisplayColumn column) { return std::int64_t{column.value} - left.value; };
     RowColours colours(columns, cell(marked.begin), cell(marked.end));
     if (highlighting && document.tokenRules()) LayTokens(document, line, left, colours);
@@ -143,8 +117,36 @@ ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn le
     return {VisibleCells(document.text(line), document.tabSize(), left, columns), colours.take()};
 }
 
+}  // namespace
+
+ColumnSpan MarkedColumns(const TextDocument& document, LineIndex line) {
+    const MarkedArea& area = document.marked();
+    if (!area.active || line < area.start.line || line > area.end.line) return {};
+    switch (area.mode) {
+        case MarkMode::Lines:
+            return {DisplayColumn(0), kToTheEdge};
+        case MarkMode::Stream:
+            return MarkedStream(document, area, line);
+        case MarkMode::Column:
+            return {area.start.column, area.end.column};
+        case MarkMode::None:
+            break;
+    }
+    return {};
+}
+
+ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
+                  bool highlighting) {
+    return Render(document, line, left, columns, highlighting, MarkedColumns(document, line));
+}
+
+ViewRow RenderUnmarkedRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
+                          bool highlighting) {
+    return Render(document, line, left, columns, highlighting, {});
+}
+
 bool IsMarkedAt(const TextDocument& document, LineIndex line, DisplayColumn column) {
-    const Span marked = MarkedIn(document, line);
+    const ColumnSpan marked = MarkedColumns(document, line);
     return marked.begin <= column && column < marked.end;
 }
 

@@ -29,10 +29,22 @@ struct ViewRow {
     bool operator==(const ViewRow&) const = default;
 };
 
+// Display columns from begin up to end; none when they are equal.
+struct ColumnSpan {
+    DisplayColumn begin;
+    DisplayColumn end;
+};
+
+// The columns of a line that are shown as marked. A marked line end counts as one column behind the text.
+ColumnSpan MarkedColumns(const TextDocument& document, LineIndex line);
+
 // The row of a line in a window that shows that many columns from left on. A line beyond the document is empty. Text
 // has the colours of its tokens, or without highlighting that of default text; what is marked has those of the marking.
 ViewRow RenderRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
                   bool highlighting = true);
+// The same row as if nothing were marked.
+ViewRow RenderUnmarkedRow(const TextDocument& document, LineIndex line, DisplayColumn left, std::int32_t columns,
+                          bool highlighting);
 
 // Whether what stands at a column of a line is marked.
 bool IsMarkedAt(const TextDocument& document, LineIndex line, DisplayColumn column);
