@@ -6,6 +6,7 @@
 #include "base/config_store.h"
 #include "base/directories.h"
 #include "base/editor_options.h"
+#include "document/print_options.h"
 #include "language/colour_table.h"
 #include "language/profile_list.h"
 #include "search/search_options.h"
@@ -26,12 +27,14 @@ struct Application {
         colours = coloursInEffect;
         font.Load(store);
         searchOptions.Load(store);
+        printOptions.Load(store);
     }
 
     ConfigStore store;
     EditorOptions options;
     FontDetails font;
     SearchOptions searchOptions;
+    PrintOptions printOptions;
     Directories directories;
     ProfileList profiles;
     ColourTable coloursInEffect;  // those of the settings

@@ -10,6 +10,8 @@
 #define IDD_FILE_EXTENSIONS 2600
 #define IDD_EDIT_EXTENSION 2800
 #define IDD_MACRO_REPEAT 2900
+#define IDD_PAGE_SETUP 3100
+#define IDD_PRINTING 3110
 
 // The one field of the dialogs that ask for a number.
 #define IDC_NUMBER 101
@@ -74,3 +76,16 @@
 #define IDC_KEYWORDS 471
 #define IDC_REMOVE_KEYWORD 472
 #define IDC_IMPORT_KEYWORDS 473
+
+// "Page Setup" and "Printing".
+#define IDC_MARGINS 1001
+#define IDC_MARGIN_LEFT 1002
+#define IDC_MARGIN_TOP 1003
+#define IDC_MARGIN_RIGHT 1004
+#define IDC_MARGIN_BOTTOM 1005
+#define IDC_PRINT_COLORS 1006
+#define IDC_PRINT_LINE_NUMBERS 1007
+#define IDC_PRINT_HEADER 1008
+#define IDC_PRINTER 1009
+#define IDC_PRINTED_DOCUMENT 1010
+#define IDC_PRINTED_PAGE 1011

@@ -29,6 +29,8 @@ struct FrameCommands {
         {203, &VexaFrame::saveDocument},
         {204, &VexaFrame::saveDocumentAs},
         {205, &VexaFrame::saveAllDocuments},
+        {206, &VexaFrame::setUpPrinting},
+        {207, &VexaFrame::printDocument},
         {208, &VexaFrame::exit},
         {300, &VexaFrame::undo},
         {301, &VexaFrame::redo},

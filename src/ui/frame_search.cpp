@@ -66,6 +66,7 @@ void VexaFrame::search(const Search& search) {
 
 // The frame looks at these keys before the system does, which would go to the next window with Ctrl+F6.
 bool VexaFrame::translate(MSG& message) {
+    if (!IsWindowEnabled(window())) return false;  // a dialog has the keys
     if (message.message == WM_KEYDOWN) {
         const KeyEvent event = KeyEventOf(message);
         if (useOptionKey(event)) {

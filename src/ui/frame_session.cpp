@@ -121,6 +121,7 @@ void VexaFrame::saveSession() {
     application_.searchOptions.Save(application_.store);
     application_.coloursInEffect.save(application_.store);
     application_.font.Save(application_.store);
+    application_.printOptions.Save(application_.store);
 }
 
 void VexaFrame::onDestroy() {

@@ -22,6 +22,20 @@ PaneFont Measured(FontHandle font, const TEXTMETRICA& metrics) {
     return {std::move(font), width, height};
 }
 
+// Metrics are those of a font where it will be used.
+template <class MetricsOfFont>
+PaneFont MakeFixedPitch(LOGFONTA description, MetricsOfFont metricsOf) {
+    FontHandle font(CreateFontIndirectA(&description));
+    TEXTMETRICA metrics = metricsOf(font.get());
+    if (!IsFixedPitch(metrics)) {
+        std::strcpy(description.lfFaceName, kFallbackFace);
+        description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
+        font.reset(CreateFontIndirectA(&description));
+        metrics = metricsOf(font.get());
+    }
+    return Measured(std::move(font), metrics);
+}
+
 }  // namespace
 
 LOGFONTA DescribeFont(const FontDetails& details, int dpi) {
@@ -53,16 +67,18 @@ FontDetails DetailsOf(const LOGFONTA& description, int dpi) {
 }
 
 PaneFont MakePaneFont(const FontDetails& details, HWND window) {
-    LOGFONTA description = DescribeFont(details, DpiOf(window));
-    FontHandle font(CreateFontIndirectA(&description));
-    TEXTMETRICA metrics = MetricsOf(window, font.get());
-    if (!IsFixedPitch(metrics)) {
-        std::strcpy(description.lfFaceName, kFallbackFace);
-        description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
-        font.reset(CreateFontIndirectA(&description));
-        metrics = MetricsOf(window, font.get());
-    }
-    return Measured(std::move(font), metrics);
+    return MakeFixedPitch(DescribeFont(details, DpiOf(window)), [window](HFONT font) { return MetricsOf(window, font); });
+}
+
+PaneFont MakePaperFont(const FontDetails& details, HDC dc) {
+    LOGFONTA description = DescribeFont(details, GetDeviceCaps(dc, LOGPIXELSY));
+    description.lfOutPrecision = OUT_TT_ONLY_PRECIS;  // at any resolution: paper is no screen
+    return MakeFixedPitch(description, [dc](HFONT font) {
+        const Selected selected(dc, font);
+        TEXTMETRICA metrics{};
+        GetTextMetricsA(dc, &metrics);
+        return metrics;
+    });
 }
 
 }  // namespace vexa

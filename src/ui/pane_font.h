@@ -14,6 +14,8 @@ struct PaneFont {
 
 // The font nearest to the details that has one width for all characters, at the resolution of the window's monitor.
 PaneFont MakePaneFont(const FontDetails& details, HWND window);
+// The like for a device context, as that of a printer, in its dots.
+PaneFont MakePaperFont(const FontDetails& details, HDC dc);
 
 // What the system's font dialog starts with and answers, at a resolution.
 LOGFONTA DescribeFont(const FontDetails& details, int dpi);

@@ -25,6 +25,7 @@
 #include "ui/document_window.h"
 #include "ui/frame_notices.h"
 #include "ui/keyboard_watch.h"
+#include "ui/print_dialogs.h"
 #include "ui/search_dialog.h"
 
 namespace vexa {
@@ -92,6 +93,13 @@ class VexaFrame : public MDIframeCL,
     void saveDocument();
     void saveDocumentAs();
     void saveAllDocuments();
+    void setUpPrinting();
+    void printDocument();
+    void print(const TextDocument& document, const PrintOrder& order);
+    PrintResult runPrintJob(const TextDocument& document, const PrintLayout& layout, const PrintSequence& sequence,
+                            PrintTarget& target);
+    void tellPrintResult(PrintResult result, const TextDocument& document);
+    void tellPrintError(const std::string& text);
     void exit();
     void undo();
     void redo();
@@ -183,6 +191,7 @@ class VexaFrame : public MDIframeCL,
     KeyboardWatch watch_;
     FindCommands search_;
     std::unique_ptr<SearchDialog> searchDialog_;  // the last one; its window may be gone
+    PrinterChoice printer_;
     AutoBackup backup_;
     RecentFiles recentFiles_;
     StartupFiles startupFiles_;

@@ -27,7 +27,7 @@ TEST(Command, WithoutADocumentKeysAndCommandsSaySo) {
 TEST(Command, CommandsThatAreNotThereYetDoNothing) {
     const TestFolder folder;
     const Editor editor(folder);
-    for (const int id : {206, 452, 430, 500})
+    for (const int id : {452, 430, 500})
         editor.command(static_cast<WORD>(id));
     editor.keys("{F10}x");
     EXPECT_TRUE(editor.hasCaption("[untitled.txt *]"));
