@@ -71,6 +71,7 @@ void VexaFrame::print(const TextDocument& document, const PrintOrder& order) {
 
 PrintResult VexaFrame::runPrintJob(const TextDocument& document, const PrintLayout& layout,
                                    const PrintSequence& sequence, PrintTarget& target) {
+    if (sequence.count() == 0) return PrintResult::NothingToPrint;
     PrintProgressDialog progress(application_.store, notices_, document.baseName());
     const BusyCursor busy(notices_);
     if (!progress.open(window())) return PrintResult::Failed;

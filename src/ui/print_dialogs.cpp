@@ -34,6 +34,14 @@ PrintSequence::Range RangeOf(const PRINTDLGA& request) {
     return range;
 }
 
+// A number of copies is meant once, unlike the paper.
+void ForgetCopies(HGLOBAL settings) {
+    auto* mode = static_cast<DEVMODEA*>(GlobalLock(settings));
+    if (!mode) return;
+    if (mode->dmFields & DM_COPIES) mode->dmCopies = 1;
+    GlobalUnlock(settings);
+}
+
 }  // namespace
 
 // ---- the printer -------------------------------------------------------------------------------------------------
@@ -83,6 +91,7 @@ PrinterAnswer PrinterChoice::setUp(HWND owner) {
 }
 
 PrinterAnswer PrinterChoice::ask(HWND owner, bool hasMarkedArea, PrintOrder& order) {
+    if (settings_) ForgetCopies(settings_.get());
     PRINTDLGA request{};
     request.hwndOwner = owner;
     request.Flags = PD_RETURNDC | PD_HIDEPRINTTOFILE | (hasMarkedArea ? PD_SELECTION : PD_NOSELECTION);

@@ -1,11 +1,9 @@
-// Printing as far as it goes without a printer, and the "Page Setup" dialog.
+// Printing, with a printer and without one, and the "Page Setup" dialog.
 #include <gtest/gtest.h>
-#include <windows.h>
-
-#include <winspool.h>
 
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/test_printer.h"
 
 namespace vexa::test {
 namespace {
@@ -14,13 +12,6 @@ constexpr const char* kNoPrinter = "There is no printer to print on.";
 
 // The controls in their order on the dialog.
 enum Field { kLeft, kRight, kTop, kBottom };
-
-bool HasPrinter() {
-    DWORD size = 0;
-    DWORD count = 0;
-    EnumPrintersA(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 4, nullptr, 0, &size, &count);
-    return size > 0;
-}
 
 class PrintTest : public ::testing::Test {
   protected:
@@ -115,6 +106,103 @@ TEST_F(PrintTest, PageSetupRefusesBadMarginsAndKnowsOfMissingPrinters) {
         ASSERT_TRUE(Press(box, IDOK));
     }
     EXPECT_TRUE(Press(dialog, IDOK));
+}
+
+// ---- with a printer ----------------------------------------------------------------------------------------------
+
+class PrinterTest : public PrintTest {
+  protected:
+    void SetUp() override {
+        if (!printer.isThere()) GTEST_SKIP() << "no printer can be made here";
+    }
+    void putLines(int count) const {
+        std::string text;
+        for (int i = 1; i <= count; ++i)
+            text += "\tint line = " + std::to_string(i) + "; // of many\r\n";
+        folder.put("a.c", text);
+    }
+    // Of the job that was printed last; each begins with a comment of its own.
+    int printedPages() const {
+        const std::string job = folder.get("printed.ps");
+        int pages = 0;
+        for (std::size_t at = job.find("\n%%Page: "); at != std::string::npos; at = job.find("\n%%Page: ", at + 1))
+            ++pages;
+        return pages;
+    }
+    bool printsPages(int count) const {
+        return WaitUntil([&] { return printedPages() == count; });
+    }
+    static HWND askToPrint(const Editor& editor) {
+        editor.keys("{Alt+P}");
+        return editor.dialog("Print");
+    }
+
+    TestPrinter printer{folder.path("printed.ps")};
+};
+
+TEST_F(PrinterTest, ADocumentComesOutOnPagesAndStaysAsItIs) {
+    putLines(150);
+    const Editor editor(folder, {"a.c"});
+    const HWND dialog = askToPrint(editor);
+    ASSERT_TRUE(dialog);
+    editor.takePicture("print-dialog");
+    ASSERT_TRUE(Press(dialog, IDOK));
+    EXPECT_TRUE(editor.showsMessage("Printing completed."));
+    EXPECT_TRUE(printsPages(3));
+    editor.keys("x");  // the editor has the keys again
+    EXPECT_TRUE(editor.hasCaption("a.c *]"));
+}
+
+TEST_F(PrinterTest, WhatIsMarkedIsOfferedFirst) {
+    putLines(150);
+    const Editor editor(folder, {"a.c"});
+    editor.keys("{Shift+Down*2}");
+    ASSERT_TRUE(editor.showsPosition(3, 1));
+    const HWND dialog = askToPrint(editor);
+    ASSERT_TRUE(dialog);
+    ASSERT_TRUE(Press(dialog, IDOK));
+    EXPECT_TRUE(editor.showsMessage("Printing completed."));
+    EXPECT_TRUE(printsPages(1));
+}
+
+TEST_F(PrinterTest, MarginsWithoutRoomAndEmptyDocumentsAreRefused) {
+    folder.put("vexa.INI", "[Print]\r\nLeftMargin=10160\r\nRightMargin=10160\r\n");
+    putLines(1);
+    const Editor editor(folder, {"a.c"});
+    HWND dialog = askToPrint(editor);
+    ASSERT_TRUE(dialog && Press(dialog, IDOK));
+    const HWND box = editor.dialog("Vexa Error");
+    ASSERT_TRUE(box);
+    EXPECT_EQ(BoxText(box), "The margins leave no room for text on the page.");
+    ASSERT_TRUE(Press(box, IDOK));
+    const HWND setupDialog = setup(editor);
+    ASSERT_TRUE(setupDialog);
+    fill(setupDialog, kLeft, "1");
+    fill(setupDialog, kRight, "1");
+    ASSERT_TRUE(Press(setupDialog, IDOK));
+    editor.command(200);
+    ASSERT_TRUE(editor.hasCaption("[untitled.txt]"));
+    dialog = askToPrint(editor);
+    ASSERT_TRUE(dialog && Press(dialog, IDOK));
+    EXPECT_TRUE(editor.showsMessage("There is nothing to print."));
+    EXPECT_EQ(printedPages(), 0);
+}
+
+TEST_F(PrinterTest, ALongJobShowsItsPagesAndCanBeCancelled) {
+    putLines(60000);
+    const Editor editor(folder, {"a.c"});
+    const HWND dialog = askToPrint(editor);
+    ASSERT_TRUE(dialog && Press(dialog, IDOK));
+    const HWND progress = editor.dialog("Printing");
+    ASSERT_TRUE(progress);
+    EXPECT_TRUE(WaitUntil([&] { return BoxText(progress).find("Page ") == 0; }));
+    EXPECT_FALSE(IsWindowEnabled(editor.frame()));
+    editor.takePicture("printing");
+    ASSERT_TRUE(Press(progress, IDCANCEL));
+    EXPECT_TRUE(editor.showsMessage("The printing was canceled."));
+    EXPECT_TRUE(IsWindowEnabled(editor.frame()));
+    editor.keys("x");
+    EXPECT_TRUE(editor.hasCaption("a.c *]"));
 }
 
 }  // namespace
