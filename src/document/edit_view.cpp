@@ -5,6 +5,7 @@
 
 #include "base/strings.h"
 #include "document/clipboard_block.h"
+#include "document/electric_expansion.h"
 #include "document/matching_bracket.h"
 #include "document/word_motion.h"
 
@@ -102,8 +103,13 @@ void EditView::documentEnd() {
 
 void EditView::typeCharacter(char c) {
     marker_.deleteMarked();
+    if (c == ' ' && expandElectricWord()) return;
     if (options_.LineWrap && document_.displayColumn().value >= options_.WrapColumn) editor_.wordWrap();
     editor_.type(c, 1);
+}
+
+bool EditView::expandElectricWord() {
+    return electric_ && options_.InsertMode && ExpandElectricWord(document_, editor_, electric_->list());
 }
 
 void EditView::enter() {

@@ -16,6 +16,7 @@
 #include "document/marker.h"
 #include "document/row_renderer.h"
 #include "document/text_document.h"
+#include "language/electric_list.h"
 
 namespace vexa {
 
@@ -60,6 +61,8 @@ class EditView {
     bool changeCase(CaseChange change);
     // The clipboard, without which the three commands do nothing.
     void setClipboard(ClipboardStore& clipboard) { clipboard_ = &clipboard; }
+    // The words that a blank typed in insert mode expands; none without them.
+    void setElectric(ElectricWords& words) { electric_ = &words; }
     void cut();
     void copy();
     void paste();
@@ -143,6 +146,7 @@ class EditView {
     void documentEnd();
 
     void typeCharacter(char c);
+    bool expandElectricWord();
     void enter();
     void tab();
     void backTab();
@@ -173,6 +177,7 @@ class EditView {
     std::int32_t columns_ = 1;
     bool highlighting_ = true;
     ClipboardStore* clipboard_ = nullptr;
+    ElectricWords* electric_ = nullptr;
     // How often in a row the last key was pressed: Home and End go further each time.
     KeyEvent lastKey_;
     int pressesInARow_ = 0;

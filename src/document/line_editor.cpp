@@ -189,11 +189,9 @@ void LineEditor::splitLine() {
     run<SplitLine>();
 }
 
-void LineEditor::newLine(bool force) {
+void LineEditor::breakLine() {
     const CharColumn column = document_.column();
-    if (!options_.InsertMode && !force) {
-        cursorDown();
-    } else if (column < textEnd()) {
+    if (column < textEnd()) {
         if (column.value == 0) {
             run<InsertEmptyLine>();
         } else {
@@ -205,6 +203,15 @@ void LineEditor::newLine(bool force) {
         run<InsertEmptyLine>();
     }
     moveToLineStart();
+}
+
+void LineEditor::newLine(bool force) {
+    if (options_.InsertMode || force) {
+        breakLine();
+    } else {
+        cursorDown();
+        moveToLineStart();
+    }
     if (options_.SmartIndent) smartIndent(0);
 }
 

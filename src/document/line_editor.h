@@ -55,6 +55,8 @@ class LineEditor {
     void pad();
     // Inserts a tab, or blanks as UseTabs says, up to the next tab stop; in overwrite mode too.
     void insertIndent();
+    // Makes a new line of what is behind the cursor and goes to its start.
+    void breakLine();
     // Enter. Forced, it makes a new line in overwrite mode too.
     void newLine(bool force);
     // Gives the current line the indentation of the nearest line above that is not blank.

@@ -9,6 +9,7 @@
 #include "document/memory_clipboard.h"
 #include "document/shown_document.h"
 #include "support/recording_notices.h"
+#include "support/test_disk.h"
 
 namespace vexa::test {
 
@@ -151,6 +152,20 @@ int UndoAll(EditView& view) {
     return commands;
 }
 
+// "Electric:keyword=expansion" is an electric word, up to the end of its line.
+ElectricList ElectricWordsOf(std::string& options) {
+    ElectricList list;
+    const std::string name = "Electric:";
+    for (std::size_t at; (at = options.find(name)) != std::string::npos;) {
+        const std::size_t end = options.find('\n', at);
+        const std::string word = options.substr(at + name.size(), end - at - name.size());
+        const std::size_t equals = word.find('=');
+        EXPECT_EQ(list.set(word.substr(0, equals), word.substr(equals + 1)), ElectricSet::Done) << word;
+        options.erase(at, end - at);
+    }
+    return list;
+}
+
 }  // namespace
 
 std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::string& content) {
@@ -173,7 +188,7 @@ std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::st
         } else if (line[0] == '=') {
             now.steps.back().clipboard = rest;
         } else if (now.before.empty()) {
-            now.options += line + " ";
+            now.options += line + "\n";
         } else {
             now.steps.push_back({line, {}, {}, {}});
         }
@@ -182,13 +197,20 @@ std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::st
 }
 
 void RunReplayCase(const ReplayCase& replayCase) {
-    EditorOptions options = ParseOptions(replayCase.options);
+    std::string optionText = replayCase.options;
+    const TestDisk disk;
+    ElectricWords words(disk.path());
+    EXPECT_TRUE(words.replace(ElectricWordsOf(optionText)));
+    EditorOptions options = ParseOptions(optionText);
     RecordingNotices notices;
+    const ExtensionProfile profile;
     TextDocument document(options, notices);
+    document.setProfile(profile);
     EditView view(document, options, notices);
     view.resize(10, 80);
     MemoryClipboard clipboard;
     view.setClipboard(clipboard);
+    view.setElectric(words);
     FillDocument(document, replayCase.before);
     const std::vector<std::string> before = ShowDocument(document);
     for (const ReplayStep& step : replayCase.steps) {

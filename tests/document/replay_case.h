@@ -2,6 +2,7 @@
 //
 //   # Enter splits a line           the case's name
 //   SmartIndent=0 TabSize=8         options of the editor, where they differ from the defaults
+//   Electric:if=if (\c)             an electric word, in the form in which the list has it
 //   < ab|cd                         the text before: "|" is the caret, "~" a column beyond the line's end
 //   Enter                           keys and commands, with any modifiers and a count: Shift+Right*3 "typed text";
 //                                   Clipboard:text puts a text of another program on the clipboard, Clipboard2:text one
