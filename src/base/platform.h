@@ -71,6 +71,8 @@ bool ChangeDirectory(const std::string& path);
 bool ChangeDrive(int drive);
 // The full path of the executable.
 std::string ProgramPath();
+// The value of an environment variable; empty when there is none of that name.
+std::string EnvironmentValue(const std::string& name);
 
 // ---- settings files (INI) ----------------------------------------------------------------------------------------
 

@@ -192,6 +192,20 @@ std::optional<std::size_t> DialogFrameCL::chosenRowOf(int number) const {
     return static_cast<std::size_t>(row);
 }
 
+void DialogFrameCL::moveListFrom(int field, int list) {
+    const auto original = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(control(field), GWLP_WNDPROC));
+    listKeys_.push_back(std::make_unique<ListKeys>(ListKeys{original, control(list)}));
+    SetWindowLongPtrA(control(field), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(listKeys_.back().get()));
+    SetWindowLongPtrA(control(field), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&DialogFrameCL::FieldProcedure));
+}
+
+LRESULT CALLBACK DialogFrameCL::FieldProcedure(HWND field, UINT number, WPARAM wParam, LPARAM lParam) noexcept {
+    const auto* keys = reinterpret_cast<const ListKeys*>(GetWindowLongPtrA(field, GWLP_USERDATA));
+    const bool moves = wParam == VK_UP || wParam == VK_DOWN || wParam == VK_PRIOR || wParam == VK_NEXT;
+    if (number == WM_KEYDOWN && moves) return SendMessageA(keys->list, number, wParam, lParam);
+    return CallWindowProcA(keys->original, field, number, wParam, lParam);
+}
+
 void DialogFrameCL::markComboText(int number) {
     SendDlgItemMessageA(window_, number, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
 }

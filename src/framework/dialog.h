@@ -3,9 +3,11 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace vexa {
 
@@ -61,11 +63,20 @@ class DialogFrameCL {
     // Checks one of the radio buttons that are numbered from first to last.
     void checkRadio(int first, int last, int checked);
     void enable(int control, bool enabled);
+    // Lets the arrow and page keys that are pressed in a field move through a list.
+    void moveListFrom(int field, int list);
     // Puts the caret into a field with all of its text selected.
     void focusOn(int control);
     HWND control(int number) const { return GetDlgItem(window_, number); }
 
   private:
+    // What a field needs whose keys move through a list.
+    struct ListKeys {
+        WNDPROC original;
+        HWND list;
+    };
+
+    static LRESULT CALLBACK FieldProcedure(HWND field, UINT number, WPARAM wParam, LPARAM lParam) noexcept;
     static INT_PTR CALLBACK Procedure(HWND window, UINT number, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR receive(UINT number, WPARAM wParam, LPARAM lParam);
     void open();
@@ -76,6 +87,7 @@ class DialogFrameCL {
     const int resource_;
     HWND window_ = nullptr;
     bool isModal_ = false;
+    std::vector<std::unique_ptr<ListKeys>> listKeys_;  // their fields point to them
 };
 
 }  // namespace vexa

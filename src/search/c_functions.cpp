@@ -17,6 +17,9 @@ constexpr std::string_view kNoNames[] = {
     "requires",      "return",     "short",    "signed", "sizeof", "static_assert", "switch",
     "throw",         "typeof",     "unsigned", "using",  "void",   "while"};
 constexpr std::string_view kTypeWords[] = {"class", "enum", "interface", "namespace", "struct", "union"};
+// Words that no function has behind its parameters: what was before them was a macro without a semicolon.
+constexpr std::string_view kStarts[] = {"class",  "enum",     "extern",  "inline", "namespace", "static",
+                                        "struct", "template", "typedef", "union",  "using"};
 constexpr std::string_view kExpressionWords[] = {"case", "delete", "goto", "new", "return", "typedef", "using"};
 constexpr std::string_view kFunctionEnds[] = {"const", "final",  "noexcept", "override", "requires",
                                               "throw", "throws", "try",      "volatile"};
@@ -135,9 +138,12 @@ std::size_t CFunctionScanner::takeWord(std::string_view text, std::size_t at) {
     if (skippedBraces_ > 0 || statement_.parentheses > 0) return end;
     const std::string_view word = text.substr(at, end - at);
     if (word == "operator") end = EndOfOperator(text, end);
+    if (statement_.stage == Stage::BehindParameters && IsIn(kStarts, word)) begin();
     beginAt(at);
     place_ = {line_, begin_, end};
-    last_ = {'\0', !IsIn(kNoNames, word)};
+    // Behind the parameters stand macros that say more of the function.
+    const bool isMacro = statement_.function && std::ranges::equal(word, word, {}, UpperAscii);
+    last_ = {'\0', !isMacro && !IsIn(kNoNames, word)};
     noteWord(word);
     return end;
 }
@@ -148,6 +154,7 @@ void CFunctionScanner::noteWord(std::string_view word) {
     if (statement_.stage == Stage::Head) {
         const bool canBeType = isFirst || (statement_.isTemplate && statement_.angles == 0);
         statement_.isType |= canBeType && IsIn(kTypeWords, word);
+        statement_.isScope |= canBeType && word == "namespace";
         statement_.isExpression |= IsIn(kExpressionWords, word);
     } else if (statement_.stage == Stage::BehindParameters) {
         statement_.hasTrailingWord |= !IsIn(kFunctionEnds, word);
@@ -178,7 +185,7 @@ void CFunctionScanner::takeSign(std::string_view text, std::size_t at) {
 void CFunctionScanner::openParenthesis() {
     if (statement_.parentheses++ > 0) return;
     statement_.behindParentheses = statement_.stage;
-    if (last_.isName && statement_.stage != Stage::Initialisers) {
+    if (last_.isName && statement_.stage != Stage::Initialisers && statement_.angles == 0) {
         statement_.behindParentheses = Stage::BehindParameters;
         statement_.function = place_;
         statement_.hasTrailingWord = false;
@@ -192,8 +199,8 @@ void CFunctionScanner::closeParenthesis() {
 }
 
 bool CFunctionScanner::isDefinition() const {
-    if (!statement_.function || statement_.isExpression) return false;
-    return !(statement_.isType && (statement_.hasBases || statement_.hasTrailingWord));
+    if (!statement_.function || statement_.isExpression || statement_.isScope) return false;
+    return !(statement_.isType && statement_.hasTrailingWord);
 }
 
 // A brace opens a function's body, a list that is passed over, or a scope that may hold functions.
@@ -225,7 +232,7 @@ void CFunctionScanner::colon() {
     if (statement_.stage == Stage::BehindParameters) {
         statement_.stage = Stage::Initialisers;
     } else if (statement_.isType) {
-        statement_.hasBases = true;
+        statement_.isScope = true;
     } else if (statement_.stage == Stage::Head) {
         begin();
     }

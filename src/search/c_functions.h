@@ -40,7 +40,7 @@ class CFunctionScanner {
         int words = 0;                          // outside parentheses
         std::optional<FunctionPlace> function;  // the last name with parameters
         bool isType = false;                    // it begins as a class or a namespace does
-        bool hasBases = false;
+        bool isScope = false;                   // nothing but a class or a namespace
         bool isTemplate = false;
         bool isExpression = false;     // nothing that can define a function
         bool hasTrailingWord = false;  // a word behind the parameters that is none of a function's

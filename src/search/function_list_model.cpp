@@ -9,7 +9,8 @@ namespace vexa {
 namespace {
 
 bool Contains(std::string_view text, std::string_view part) {
-    return !std::ranges::search(text, part, {}, LowerAscii, LowerAscii).empty() || part.empty();
+    const auto same = [](char a, char b) { return LowerAscii(a) == LowerAscii(b); };
+    return part.empty() || std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
 }
 
 }  // namespace

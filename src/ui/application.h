@@ -8,6 +8,7 @@
 #include "base/editor_options.h"
 #include "document/print_options.h"
 #include "language/colour_table.h"
+#include "language/electric_list.h"
 #include "language/profile_list.h"
 #include "search/search_options.h"
 #include "ui/display_colours.h"
@@ -21,7 +22,8 @@ struct Application {
     explicit Application(const std::string& executable)
         : store(SettingsFileOf(executable)),
           directories(executable),
-          profiles(directories.GetDirectory(kConfigDirectory)) {
+          profiles(directories.GetDirectory(kConfigDirectory)),
+          electric(directories.GetDirectory(kConfigDirectory)) {
         options.Load(store);
         coloursInEffect.load(store);
         colours = coloursInEffect;
@@ -37,6 +39,7 @@ struct Application {
     PrintOptions printOptions;
     Directories directories;
     ProfileList profiles;
+    ElectricWords electric;
     ColourTable coloursInEffect;  // those of the settings
     ColourTable colours;          // those that are shown: others while the user tries some out
     DisplayColours display{colours};

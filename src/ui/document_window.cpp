@@ -17,6 +17,7 @@ DocumentWindow::DocumentWindow(MDIframeCL& frame, DocumentHost& host, Applicatio
       margin_(view_, pane_.painter(), application.display, *this) {
     view_.setHighlighting(application.display.isHighlightingOn());
     view_.setClipboard(application.clipboard);
+    view_.setElectric(application.electric);
 }
 
 std::string DocumentWindow::caption() const {

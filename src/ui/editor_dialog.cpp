@@ -1,6 +1,7 @@
 #include "ui/editor_dialog.h"
 
 #include "base/dialog_position.h"
+#include "base/notices.h"
 #include "ui/help.h"
 
 namespace vexa {
@@ -8,6 +9,11 @@ namespace vexa {
 // The topics of the dialogs have the dialogs' numbers.
 void EditorDialog::onHelp() {
     ShowHelp(window(), HELP_CONTEXT, static_cast<DWORD>(dialog_));
+}
+
+void EditorDialog::tell(const std::string& text) const {
+    MessageBeep(MB_ICONEXCLAMATION);
+    MessageBoxA(window(), text.c_str(), std::string(kErrorCaption).c_str(), MB_OK | MB_ICONEXCLAMATION);
 }
 
 std::optional<POINT> EditorDialog::openingCorner(POINT owner) {

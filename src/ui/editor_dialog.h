@@ -12,6 +12,8 @@ class EditorDialog : public DialogFrameCL {
     EditorDialog(ConfigStore& store, int dialog) : DialogFrameCL(dialog), store_(store), dialog_(dialog) {}
 
   protected:
+    // Shows, with a beep, why something cannot be done.
+    void tell(const std::string& text) const;
     void onHelp() override;
     std::optional<POINT> openingCorner(POINT owner) override;
     void keepCorner(POINT owner, POINT corner) override;

@@ -1,6 +1,5 @@
 #include "ui/editor_options_dialog.h"
 
-#include "base/notices.h"
 #include "base/strings.h"
 #include "ui/dialog_controls.h"
 
@@ -95,9 +94,7 @@ void EditorOptionsDialog::onControl(int /*control*/, UINT notification) {
 void EditorOptionsDialog::onAccept() {
     read();
     if (const auto refusal = model_.update(options_)) {
-        const std::string text(LoadText(*refusal));
-        MessageBeep(MB_ICONEXCLAMATION);
-        MessageBoxA(window(), text.c_str(), std::string(kErrorCaption).c_str(), MB_OK | MB_ICONEXCLAMATION);
+        tell(std::string(LoadText(*refusal)));
         focusOn(IDC_TAB_SIZE);
         return;
     }

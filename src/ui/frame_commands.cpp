@@ -40,10 +40,12 @@ struct FrameCommands {
         {305, &VexaFrame::clear},
         {401, &VexaFrame::changeColours},
         {403, &VexaFrame::changeFont},
+        {405, &VexaFrame::changeElectric},
         {406, &VexaFrame::changeExtensions},
         {800, &VexaFrame::changeCase<CaseChange::Toggle>},
         {801, &VexaFrame::changeCase<CaseChange::Lower>},
         {802, &VexaFrame::changeCase<CaseChange::Upper>},
+        {803, &VexaFrame::openInclude},
         {312, &VexaFrame::selectAll},
         {605, &VexaFrame::closeAllDocuments},
         {606, &VexaFrame::activateNext},
@@ -252,7 +254,7 @@ void VexaFrame::repeatMacro() {
 
 void VexaFrame::playKey(const KeyEvent& event) {
     DocumentWindow* active = activeDocument();
-    if (!useOptionKey(event) && active) active->view().key(event);
+    if (!useFrameKey(event, active != nullptr) && active) active->view().key(event);
 }
 
 void VexaFrame::playMessage(const MacroMessage& message) {

@@ -67,7 +67,8 @@ FontDetails DetailsOf(const LOGFONTA& description, int dpi) {
 }
 
 PaneFont MakePaneFont(const FontDetails& details, HWND window) {
-    return MakeFixedPitch(DescribeFont(details, DpiOf(window)), [window](HFONT font) { return MetricsOf(window, font); });
+    return MakeFixedPitch(DescribeFont(details, DpiOf(window)),
+                          [window](HFONT font) { return MetricsOf(window, font); });
 }
 
 PaneFont MakePaperFont(const FontDetails& details, HDC dc) {

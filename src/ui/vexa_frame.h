@@ -16,6 +16,7 @@
 #include "shell/command_dispatcher.h"
 #include "shell/file_commands.h"
 #include "shell/file_opening.h"
+#include "shell/frame_keys.h"
 #include "shell/frame_placement.h"
 #include "shell/key_macro.h"
 #include "shell/macro_repeat_model.h"
@@ -73,6 +74,7 @@ class VexaFrame : public MDIframeCL,
 
   private:
     friend struct FrameCommands;  // the table of commands that the frame carries out
+    friend struct FrameKeys;      // the table of keys that it carries out
 
     void registerCommands();
     bool isMet(CommandNeed need) const;
@@ -121,8 +123,14 @@ class VexaFrame : public MDIframeCL,
     void findPrevious();
     template <class Dialog>
     void openSearchDialog();
-    // A key that switches an option of searching; false for any other.
-    bool useOptionKey(const KeyEvent& event);
+    // Carries out a key that is the frame's own; false for any other.
+    bool useFrameKey(const KeyEvent& event, bool inText);
+    void toggleMatchCase();
+    void toggleRegularExpression();
+    void dispatchOpenInclude();
+    void openInclude();
+    void listFunctions();
+    void changeElectric();
     void gotoLine();
     void gotoBookmark();
     void changeOptions();

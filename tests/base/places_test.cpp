@@ -61,6 +61,14 @@ TEST_F(Places, TheProgramIsAFile) {
     EXPECT_NE(DirectoryOf(platform::ProgramPath()), "");
 }
 
+TEST_F(Places, EnvironmentVariablesHaveAnyLength) {
+    for (const std::size_t length : {std::size_t{1}, std::size_t{255}, std::size_t{256}, std::size_t{30000}}) {
+        const test::EnvironmentSetting setting("VEXA_TEST_VALUE", std::string(length, 'x'));
+        EXPECT_EQ(platform::EnvironmentValue("VEXA_TEST_VALUE"), std::string(length, 'x')) << length;
+    }
+    EXPECT_EQ(platform::EnvironmentValue("VEXA_TEST_VALUE"), "") << "there is none";
+}
+
 TEST_F(Places, TheDirectoriesBesideTheExecutableAreMade) {
     const Directories directories(disk.programPath());
     EXPECT_EQ(directories.GetDirectory(kHelpDirectory), disk.path("vHelp"));

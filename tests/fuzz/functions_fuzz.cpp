@@ -1,4 +1,4 @@
-// Whatever a document holds and is called, the functions found lie in it, in the order of the lines.
+// Whatever a text holds, the functions found in it lie in it, in the order of the lines.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>

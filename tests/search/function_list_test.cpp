@@ -61,6 +61,9 @@ TEST(FunctionList, FindsDefinitionsInC) {
          "1 int f;3 __declspec(dllexport) int g;"},
         {"int broken(\n}\nint f() {}", "3 int f;"},
         {"BEGIN(a)\nEND()\nvoid f() {}", "3 void f;"},
+        {"PUSH(1)\nclass A {\n  void f() {}\n};\nPOP()\ntemplate <class T, bool = F(1)>\nstruct S { void g() {} };",
+         "3 void f;7 void g;"},
+        {"namespace n VISIBLE(all)\n{\nvoid f()\n  NO_THROW(1) {\n}\n}", "3 void f;"},
         {"int f() { return 1'000 + 0x1'F; }\nint g() {}", "1 int f;2 int g;"},
     };
     for (const Case& one : cases)

@@ -11,6 +11,7 @@
 
 #include "document/view_keys.h"
 #include "shell/command_table.h"
+#include "shell/frame_keys.h"
 
 namespace vexa {
 namespace {
@@ -56,6 +57,13 @@ std::string CommandKeys() {
     return rows;
 }
 
+std::string FrameKeys() {
+    std::string rows;
+    for (const FrameKeyHelp& help : FrameKeyList())
+        rows += "| " + std::string(help.key) + " | " + std::string(help.description) + " |\n";
+    return rows;
+}
+
 std::string ViewKeys() {
     std::string rows;
     for (const ViewKeyHelp& help : ViewKeyList())
@@ -71,7 +79,7 @@ std::string KeysPage() {
            CommandKeys() +
            "\n## Editing\n\nIn a document; a key that is also a command's is the command's.\n\n"
            "| Key | What it does |\n|---|---|\n" +
-           ViewKeys();
+           FrameKeys() + ViewKeys();
 }
 
 TEST(KeysPage, IsWhatTheTablesSay) {

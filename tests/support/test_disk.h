@@ -40,6 +40,18 @@ class TestDisk {
     std::string dosPath_;           // without "\" at the end
 };
 
+// An environment variable has this value while it lives, and none afterwards.
+class EnvironmentSetting {
+  public:
+    EnvironmentSetting(const std::string& name, const std::string& value);
+    ~EnvironmentSetting();
+    EnvironmentSetting(const EnvironmentSetting&) = delete;
+    EnvironmentSetting& operator=(const EnvironmentSetting&) = delete;
+
+  private:
+    const std::string name_;
+};
+
 // Another program has the file open for itself alone while this lives.
 class LockedFile {
   public:

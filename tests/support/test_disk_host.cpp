@@ -37,6 +37,14 @@ void TestDisk::setHidden(std::string_view name) const {
     EXPECT_TRUE(real(name).filename().string().starts_with('.')) << name;
 }
 
+EnvironmentSetting::EnvironmentSetting(const std::string& name, const std::string& value) : name_(name) {
+    EXPECT_EQ(setenv(name.c_str(), value.c_str(), 1), 0) << name;
+}
+
+EnvironmentSetting::~EnvironmentSetting() {
+    unsetenv(name_.c_str());
+}
+
 LockedFile::LockedFile(const std::string& path) : handle_(platform::host::LockFile(path)) {
     EXPECT_GE(handle_, 0) << "cannot lock " << path;
 }

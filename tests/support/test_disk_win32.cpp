@@ -39,6 +39,14 @@ void TestDisk::setHidden(std::string_view name) const {
     EXPECT_TRUE(SetFileAttributesA(path(name).c_str(), FILE_ATTRIBUTE_HIDDEN)) << name;
 }
 
+EnvironmentSetting::EnvironmentSetting(const std::string& name, const std::string& value) : name_(name) {
+    EXPECT_TRUE(SetEnvironmentVariableA(name.c_str(), value.c_str())) << name;
+}
+
+EnvironmentSetting::~EnvironmentSetting() {
+    SetEnvironmentVariableA(name_.c_str(), nullptr);
+}
+
 LockedFile::LockedFile(const std::string& path)
     : handle_(reinterpret_cast<std::intptr_t>(
           CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))) {

@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 #include "base/ascii.h"
@@ -87,6 +88,11 @@ bool ChangeDrive(int drive) {
 
 std::string ProgramPath() {
     return host::ThePlaces().programPath;
+}
+
+std::string EnvironmentValue(const std::string& name) {
+    const char* value = std::getenv(name.c_str());
+    return value ? value : std::string();
 }
 
 }  // namespace vexa::platform

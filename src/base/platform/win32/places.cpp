@@ -42,4 +42,15 @@ std::string ProgramPath() {
     return FilledPath([](DWORD size, char* buffer) { return GetModuleFileNameA(nullptr, buffer, size); });
 }
 
+std::string EnvironmentValue(const std::string& name) {
+    std::string value;
+    // The size that is wanted counts the end of the text, the length that is given back does not.
+    for (DWORD needed = GetEnvironmentVariableA(name.c_str(), nullptr, 0); needed > value.size();) {
+        value.resize(needed);
+        needed = GetEnvironmentVariableA(name.c_str(), value.data(), needed);
+        if (needed < value.size()) value.resize(needed);
+    }
+    return value;
+}
+
 }  // namespace vexa::platform

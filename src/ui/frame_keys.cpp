@@ -1,0 +1,70 @@
+// The keys that the frame carries out itself.
+#include "ui/vexa_frame.h"
+
+namespace vexa {
+namespace {
+
+constexpr CommandId kOpenInclude{803};
+
+KeyEvent KeyEventOf(const MSG& message) {
+    KeyEvent event;
+    event.key = static_cast<std::uint16_t>(message.wParam);
+    event.shift = GetKeyState(VK_SHIFT) < 0;
+    event.control = GetKeyState(VK_CONTROL) < 0;
+    event.alt = GetKeyState(VK_MENU) < 0;
+    return event;
+}
+
+}  // namespace
+
+struct FrameKeys {
+    struct Row {
+        FrameAction action;
+        void (VexaFrame::*run)();
+    };
+    static constexpr Row kRows[] = {
+        {FrameAction::ToggleMatchCase, &VexaFrame::toggleMatchCase},
+        {FrameAction::ToggleRegularExpression, &VexaFrame::toggleRegularExpression},
+        {FrameAction::OpenInclude, &VexaFrame::dispatchOpenInclude},
+        {FrameAction::ListFunctions, &VexaFrame::listFunctions},
+    };
+};
+
+// The frame looks at these keys before the system does, which would go to the next window with Ctrl+F6.
+bool VexaFrame::translate(MSG& message) {
+    if (!IsWindowEnabled(window())) return false;  // a dialog has the keys
+    if (message.message == WM_KEYDOWN) {
+        const DocumentWindow* active = activeDocument();
+        const KeyEvent event = KeyEventOf(message);
+        if (useFrameKey(event, active && IsChild(active->window(), message.hwnd))) {
+            macro_.recordKey(event);
+            return true;
+        }
+    }
+    return MDIframeCL::translate(message);
+}
+
+bool VexaFrame::useFrameKey(const KeyEvent& event, bool inText) {
+    const auto action = FrameActionOf(event, inText);
+    if (!action) return false;
+    for (const FrameKeys::Row& row : FrameKeys::kRows) {
+        if (row.action == *action) (this->*row.run)();
+    }
+    return true;
+}
+
+void VexaFrame::toggleMatchCase() {
+    search_.toggleMatchCase();
+    if (searchDialog_) searchDialog_->refreshOptions(application_.searchOptions);
+}
+
+void VexaFrame::toggleRegularExpression() {
+    search_.toggleRegularExpression();
+    if (searchDialog_) searchDialog_->refreshOptions(application_.searchOptions);
+}
+
+void VexaFrame::dispatchOpenInclude() {
+    dispatcher_.Dispatch(kOpenInclude);
+}
+
+}  // namespace vexa

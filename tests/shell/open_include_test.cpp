@@ -1,0 +1,140 @@
+// Opening the file that is named at the caret.
+#include "shell/open_include.h"
+
+#include <gtest/gtest.h>
+
+#include "base/platform.h"
+#include "search/name_at_caret.h"
+#include "support/recording_notices.h"
+#include "support/test_disk.h"
+
+namespace vexa {
+namespace {
+
+struct Named {
+    std::string line;  // with "|" at the caret
+    std::string names;
+};
+
+CharColumn TakeCaret(std::string& line) {
+    const std::size_t caret = line.find('|');
+    line.erase(caret, 1);
+    return CharColumn(static_cast<std::int32_t>(caret));
+}
+
+TEST(NameAtCaret, IsWhatTheLineNames) {
+    const Named rows[] = {
+        {"|#include \"a.h\"", "a.h"},
+        {"  #  include<sys/a.h>  // and \"b.h\"|", "sys/a.h"},
+        {"#include \"my file.h|", "my file.h"},
+        {"#import \"a.h\"|", "a.h"},
+        {"#include_next <a.h>|", "a.h"},
+        {"#include MA|CRO", "MACRO"},
+        {"#include \"\"|", ""},
+        {"|", ""},
+        {" | x", ""},
+        {"x = (|);", ""},
+        {"see a.c|.", "a.c"},
+        {"see |a.c, b.c", "a.c"},
+        {"see a.c, |b.c", "b.c"},
+        {"(..\\x\\|a.c)", "..\\x\\a.c"},
+        {"open(\"my |dir/a.txt\")", "my dir/a.txt;dir/a.txt"},
+        {"f(\"a\", \"b\"|)", "b"},
+        {"f(\"a\"|, \"b\")", "a"},
+        {"import x from './a|.js'", "./a.js"},
+        {"std <vec|tor>", "vector"},
+        {"a.c:12|: error", "a.c 12"},
+        {"C:\\s\\a|.c:12:34: error", "C:\\s\\a.c 12"},
+        {"C:\\s\\|a.c(12) : error", "C:\\s\\a.c 12"},
+        {"|a.c(12,34): error", "a.c 12"},
+        {"|f(x)", "f"},
+        {"f(12|)", "12"},
+        {"a.c:99999999999|", "a.c 2147483647"},
+        {":12|", ":12"},
+        {"'a.c:7|'", "a.c 7"},
+    };
+    for (const Named& row : rows) {
+        std::string line = row.line;
+        const CharColumn caret = TakeCaret(line);
+        std::string shown;
+        for (const NamedPlace& place : NamesAtCaret(line, caret))
+            shown += (shown.empty() ? "" : ";") + place.name + (place.line ? " " + std::to_string(place.line) : "");
+        EXPECT_EQ(shown, row.names) << row.line;
+    }
+    EXPECT_TRUE(NamesAtCaret("a.c", CharColumn(4)).empty()) << "in the space behind the text";
+}
+
+class ShownFiles : public DocumentFrame {
+  public:
+    bool activateShowing(const std::string&, LineIndex) override { return false; }
+    bool openWindow(const std::optional<std::string>& path, LineIndex line) override {
+        opened = path.value_or("new") + " " + std::to_string(line.value + 1);
+        return true;
+    }
+    void bringToFront() override {}
+    void restoreIfMinimised() override {}
+
+    std::string opened;
+};
+
+class OpenIncludeTest : public testing::Test {
+  protected:
+    OpenIncludeTest() {
+        for (const char* directory : {"src", "src\\sub", "work", "inc1", "inc 2"})
+            disk_.makeDirectory(directory);
+        platform::ChangeDirectory(disk_.path("work"));
+        document_.newEmpty();
+        document_.setName(disk_.path("src\\main.c"));
+    }
+    // What is opened for a line, from the disk on; else the status text.
+    std::string open(std::string line) {
+        const CharColumn caret = TakeCaret(line);
+        document_.lines().put(document_.makeLine(line), 0);
+        document_.setCurrentLine(LineIndex(0));
+        document_.current().setColumn(caret);
+        frame_.opened.clear();
+        const bool opened = OpenInclude(document_, opening_, notices_);
+        if (!opened) return notices_.lastStatus();
+        EXPECT_EQ(frame_.opened.substr(0, disk_.path().size()), disk_.path());
+        return frame_.opened.substr(disk_.path().size());
+    }
+
+    test::TestDisk disk_;
+    test::RecordingNotices notices_;
+    EditorOptions options_;
+    TextDocument document_{options_, notices_};
+    ShownFiles frame_;
+    FileOpening opening_{frame_, options_, notices_};
+};
+
+TEST_F(OpenIncludeTest, LooksBesideTheDocumentThenHereThenInTheVariable) {
+    const test::EnvironmentSetting include("INCLUDE",
+                                           ";" + disk_.path("inc1") + "; \"" + disk_.path("inc 2") + "\\\" ;;");
+    const char* const name = "#include <a.h>|";
+    EXPECT_EQ(open(name), "Unable to find the file 'a.h'.");
+    for (const char* place : {"inc 2", "inc1", "work", "src"}) {
+        disk_.put(std::string(place) + "\\a.h", "");
+        EXPECT_EQ(open(name), "\\" + std::string(place) + "\\a.h 1");
+    }
+}
+
+TEST_F(OpenIncludeTest, TakesPathsLinesAndTheSecondChoice) {
+    disk_.put("src\\sub\\b.h", "");
+    disk_.put("c.txt", "");
+    EXPECT_EQ(open("#include \"sub/b.h\"|"), "\\src\\sub\\b.h 1");
+    EXPECT_EQ(open("..\\c.t|xt:40: note"), "\\c.txt 40");
+    EXPECT_EQ(open(disk_.path("c.txt") + "|(7)"), "\\c.txt 7");
+    EXPECT_EQ(open("\"look at sub/b|.h\""), "\\src\\sub\\b.h 1") << "the text in quotes is no file";
+}
+
+TEST_F(OpenIncludeTest, TellsWhatItDoesNotFind) {
+    EXPECT_EQ(open(" |"), "No file name at the cursor.");
+    EXPECT_EQ(open("sub|"), "Unable to find the file 'sub'.") << "a directory";
+    EXPECT_EQ(open("\\\\server\\share\\x.h|"), "Unable to find the file '\\\\server\\share\\x.h'.");
+    EXPECT_EQ(open("#include \"" + std::string(280, 'x') + "\"|"),
+              "Unable to find the file '" + std::string(280, 'x') + "'.");
+    EXPECT_EQ(frame_.opened, "");
+}
+
+}  // namespace
+}  // namespace vexa
