@@ -38,6 +38,7 @@ class PrintTest : public ::testing::Test {
 };
 
 TEST_F(PrintTest, WithoutAPrinterTheUserIsToldAndNothingIsLost) {
+    RemoveTestPrinter();
     if (HasPrinter()) GTEST_SKIP() << "there is a printer";
     folder.put("a.txt", "one\r\ntwo\r\n");
     const Editor editor(folder, {"a.txt"});
@@ -163,6 +164,26 @@ TEST_F(PrinterTest, WhatIsMarkedIsOfferedFirst) {
     ASSERT_TRUE(Press(dialog, IDOK));
     EXPECT_TRUE(editor.showsMessage("Printing completed."));
     EXPECT_TRUE(printsPages(1));
+}
+
+TEST_F(PrinterTest, PaperThatIsChosenOnceIsKept) {
+    putLines(150);
+    const Editor editor(folder, {"a.c"});
+    const HWND pageSetup = setup(editor);
+    ASSERT_TRUE(pageSetup);
+    click(pageSetup, "&Printer...");
+    const HWND printerSetup = editor.dialog("Print Setup");
+    ASSERT_TRUE(printerSetup);
+    editor.takePicture("print-setup");
+    const HWND landscape = button(printerSetup, "L&andscape");
+    ASSERT_TRUE(landscape);
+    SendMessageA(landscape, BM_CLICK, 0, 0);
+    ASSERT_TRUE(Press(printerSetup, IDOK));
+    ASSERT_TRUE(Press(pageSetup, IDOK));
+    const HWND dialog = askToPrint(editor);
+    ASSERT_TRUE(dialog && Press(dialog, IDOK));
+    EXPECT_TRUE(editor.showsMessage("Printing completed."));
+    EXPECT_TRUE(printsPages(4));  // one more than on upright paper
 }
 
 TEST_F(PrinterTest, MarginsWithoutRoomAndEmptyDocumentsAreRefused) {

@@ -118,6 +118,10 @@ TestPrinter::TestPrinter(const std::string& file) {
 }
 
 TestPrinter::~TestPrinter() {
+    RemoveTestPrinter();
+}
+
+void RemoveTestPrinter() {
     HANDLE printer = nullptr;
     PRINTER_DEFAULTSA wanted{nullptr, nullptr, PRINTER_ALL_ACCESS};
     if (!OpenPrinterA(kPrinter, &printer, &wanted)) return;

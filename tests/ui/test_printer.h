@@ -21,6 +21,8 @@ class TestPrinter {
     bool isThere_ = false;
 };
 
+// Takes away what a test that was killed has left behind.
+void RemoveTestPrinter();
 // Whether the user has a printer.
 bool HasPrinter();
 
