@@ -35,7 +35,7 @@ struct PrintOrder {
 // the program.
 class PrinterChoice {
   public:
-    // Lets the user choose a printer and its paper. Nothing changes unless the answer is Chosen.
+    // Lets the user choose a printer and its paper. A dialog that is cancelled leaves the choice as it was.
     PrinterAnswer setUp(HWND owner);
     // Lets the user choose what to print; with a marked area that is offered first. Fills the order when the answer is
     // Chosen.
