@@ -126,8 +126,7 @@ void ColourSetupDialog::drawSample(const DRAWITEMSTRUCT& item) {
         top += painter_.cellHeight();
     }
     const RECT below = {0, top, item.rcItem.right, item.rcItem.bottom};
-    if (below.top < below.bottom)
-        FillColour(item.hDC, below, ColourRef(model_.working().colourOf(ColourElement::Background)));
+    if (below.top < below.bottom) FillColour(item.hDC, below, sampleColours_.colourOf(ColourElement::Background));
 }
 
 }  // namespace vexa
