@@ -92,9 +92,9 @@ void RunWord(FindSession& session, const std::string& word) {
 // Words, and the two texts in quotes behind "find" and "replace".
 void RunLine(FindSession& session, const std::string& line) {
     std::string before;
-    for (std::size_t i = 0; (i = line.find_first_not_of(' ', i)) != std::string::npos;) {
+    for (std::size_t i = 0; (i = line.find_first_not_of(" \n", i)) != std::string::npos;) {
         const bool quoted = line[i] == '"';
-        const std::size_t end = std::min(line.find(quoted ? '"' : ' ', i + 1), line.size());
+        const std::size_t end = std::min(line.find_first_of(quoted ? "\"" : " \n", i + 1), line.size());
         const std::string word = quoted ? line.substr(i + 1, end - i - 1) : line.substr(i, end - i);
         if (quoted && before == "find") {
             session.options.setFindText(word, false);
