@@ -19,8 +19,8 @@ KeyEvent Control(std::uint16_t key) {
 TEST(FrameKeys, WorkWithControlAloneAndSomeOnlyInAText) {
     EXPECT_EQ(FrameActionOf(Control('E'), true), FrameAction::OpenInclude);
     EXPECT_EQ(FrameActionOf(Control('G'), true), FrameAction::ListFunctions);
-    for (const std::uint16_t key : {'E', 'G'})
-        EXPECT_EQ(FrameActionOf(Control(key), false), std::nullopt) << key;
+    for (const char key : {'E', 'G'})
+        EXPECT_EQ(FrameActionOf(Control(static_cast<std::uint16_t>(key)), false), std::nullopt) << key;
     for (const bool inText : {true, false})
         EXPECT_EQ(FrameActionOf(Control(0x75), inText), FrameAction::ToggleRegularExpression);
     KeyEvent shifted = Control('E');
