@@ -245,6 +245,18 @@ void Editor::point(POINT place) const {
     moveMouse(place, 0);
 }
 
+void Editor::click(POINT place) const {
+    drag({place});
+    // A press of another button in between: the next click at this place is never the second of a double one.
+    moveMouse(place, MOUSEEVENTF_MIDDLEDOWN);
+    moveMouse(place, MOUSEEVENTF_MIDDLEUP);
+}
+
+void Editor::doubleClick(POINT place) const {
+    drag({place});
+    drag({place});
+}
+
 void Editor::rightClick(POINT place) const {
     moveMouse(place, MOUSEEVENTF_RIGHTDOWN);
     moveMouse(place, MOUSEEVENTF_RIGHTUP);

@@ -79,7 +79,8 @@ class Editor {
     bool answers() const;
     void kill() { program_.kill(); }
     // Presses the left button at a place of the active pane, in pixels, and lets it go at the last of the places.
-    void click(POINT place) const { drag({place}); }
+    void click(POINT place) const;
+    void doubleClick(POINT place) const;
     void rightClick(POINT place) const;
     // Moves the mouse to a place of the active pane.
     void point(POINT place) const;

@@ -49,8 +49,7 @@ class MouseTest : public ::testing::Test {
 TEST_F(MouseTest, DoubleClickMarksTheWord) {
     const Editor editor(folder, {"a.cpp"});
     const POINT place = placeOf(editor, 6, 20);
-    editor.click(place);
-    editor.click(place);
+    editor.doubleClick(place);
     EXPECT_TRUE(editor.showsPosition(6, 21));
     editor.takePicture("coloured-word-marked");
     const std::string expected = without("text");
