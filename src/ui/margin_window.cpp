@@ -1,5 +1,8 @@
 #include "ui/margin_window.h"
 
+#include <utility>
+#include <vector>
+
 namespace vexa {
 namespace {
 
@@ -22,17 +25,9 @@ std::size_t MDImarginCL::rowCount() const {
 
 void MDImarginCL::refresh() {
     if (!window()) return;
-    const LONG right = clientArea().right;
-    const int height = pane_.cellHeight();
-    rows_.resize(rowCount());
-    int top = 0;
-    for (std::size_t i = 0; i < rows_.size(); ++i, top += height) {
-        MarginRow row = RenderMarginRow(view_.document(), view_.topLine() + static_cast<std::int32_t>(i));
-        if (row == rows_[i]) continue;
-        rows_[i] = std::move(row);
-        const RECT area = {0, top, right, top + height};
-        InvalidateRect(window(), &area, FALSE);
-    }
+    const std::int32_t moved = view_.topLine() - std::exchange(shownTop_, view_.topLine());
+    rows_.show(window(), rowCount(), pane_.cellHeight(), moved,
+               [this](std::int32_t row) { return RenderMarginRow(view_.document(), view_.topLine() + row); });
 }
 
 void MDImarginCL::redraw() {
@@ -54,11 +49,7 @@ bool MDImarginCL::onEraseBackground(HDC /*dc*/) {
 
 bool MDImarginCL::onPaint(HDC dc, const RECT& update) {
     const LONG right = clientArea().right;
-    int top = 0;
-    for (const MarginRow& row : rows_) {
-        if (top < update.bottom && top + pane_.cellHeight() > update.top) drawRow(dc, top, right, row);
-        top += pane_.cellHeight();
-    }
+    rows_.paint(update, pane_.cellHeight(), [&](int top, const MarginRow& row) { drawRow(dc, top, right, row); });
     return true;
 }
 

@@ -1,13 +1,12 @@
 // The strip at the left of a document's text: line numbers, bookmarks and marks beside changed lines.
 #pragma once
 
-#include <vector>
-
 #include "document/edit_view.h"
 #include "document/margin_row.h"
 #include "framework/gdi.h"
 #include "framework/window.h"
 #include "ui/row_painter.h"
+#include "ui/shown_rows.h"
 
 namespace vexa {
 
@@ -51,7 +50,8 @@ class MDImarginCL : public WindowCL {
     const RowPainter& pane_;
     const DisplayColours& colours_;
     MarginHost& host_;
-    std::vector<MarginRow> rows_;  // as they were last drawn or are about to be
+    ShownRows<MarginRow> rows_;
+    LineIndex shownTop_;  // where the rows begin
     OffScreenBitmap picture_;
 };
 

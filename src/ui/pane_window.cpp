@@ -16,19 +16,6 @@ std::int32_t CellsIn(LONG pixels, int cell) {
     return std::max<std::int32_t>(pixels / cell, 1);
 }
 
-// The window shows rows of one height from its top down; they begin so many rows further on than they did (back below
-// 0). Most of the picture is there already and only has to move, and the rows with it; those that come into sight are
-// left empty and are to be drawn. Does nothing when nothing of the picture stays.
-void ScrollPicture(HWND window, std::vector<ViewRow>& rows, std::int32_t moved, int rowHeight) {
-    const auto count = static_cast<std::int32_t>(rows.size());
-    if (moved == 0 || std::abs(moved) >= count) return;
-    UpdateWindow(window);  // what is still to be drawn belongs to the rows as they stood
-    ScrollWindowEx(window, 0, -moved * rowHeight, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
-    std::rotate(rows.begin(), rows.begin() + (moved > 0 ? moved : count + moved), rows.end());
-    const auto fresh = moved > 0 ? rows.end() - moved : rows.begin();
-    std::fill(fresh, fresh + std::abs(moved), ViewRow{});
-}
-
 }  // namespace
 
 bool PaneWindowCL::open(HWND parent) {
@@ -80,18 +67,9 @@ void PaneWindowCL::refresh() {
 void PaneWindowCL::refreshRows() {
     const std::int32_t moved = view_.topLine() - std::exchange(shownTop_, view_.topLine());
     const bool isSideways = view_.leftColumn() != std::exchange(shownLeft_, view_.leftColumn());
-    if (!isSideways) ScrollPicture(window(), rows_, moved, painter_.cellHeight());
-    const RECT client = clientArea();
     const int height = painter_.cellHeight();
-    rows_.resize(static_cast<std::size_t>((client.bottom + height - 1) / height));
-    int top = 0;
-    for (std::size_t i = 0; i < rows_.size(); ++i, top += height) {
-        ViewRow row = view_.render(static_cast<std::int32_t>(i));
-        if (row == rows_[i]) continue;
-        rows_[i] = std::move(row);
-        const RECT area = {0, top, client.right, top + height};
-        InvalidateRect(window(), &area, FALSE);
-    }
+    const auto count = static_cast<std::size_t>((clientArea().bottom + height - 1) / height);
+    rows_.show(window(), count, height, isSideways ? 0 : moved, [this](std::int32_t row) { return view_.render(row); });
 }
 
 bool PaneWindowCL::onEraseBackground(HDC /*dc*/) {
@@ -99,12 +77,9 @@ bool PaneWindowCL::onEraseBackground(HDC /*dc*/) {
 }
 
 bool PaneWindowCL::onPaint(HDC dc, const RECT& update) {
-    const RECT client = clientArea();
-    const int height = painter_.cellHeight();
-    const auto last = std::min(static_cast<std::size_t>((update.bottom + height - 1) / height), rows_.size());
-    for (auto i = static_cast<std::size_t>(update.top / height); i < last; ++i) {
-        painter_.paint(dc, static_cast<int>(i) * height, client.right, rows_[i]);
-    }
+    const LONG right = clientArea().right;
+    rows_.paint(update, painter_.cellHeight(),
+                [&](int top, const ViewRow& row) { painter_.paint(dc, top, right, row); });
     return true;
 }
 
@@ -156,7 +131,11 @@ void PaneWindowCL::refreshScrollBar(int bar) {
     info.nMax = state.last;
     info.nPage = static_cast<UINT>(state.page);
     info.nPos = state.position;
-    SetScrollInfo(window(), bar, &info, TRUE);
+    const RECT client = clientArea();
+    std::optional<ScrollState>& drawn = drawnScroll_[bar];
+    const bool draws = !drawn || ThumbMoves(*drawn, state, bar == SB_VERT ? client.bottom : client.right);
+    if (draws) drawn = state;
+    SetScrollInfo(window(), bar, &info, draws);
 }
 
 void PaneWindowCL::scrollTo(int bar, std::int32_t position) {

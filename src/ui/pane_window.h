@@ -1,13 +1,14 @@
 // The window that shows an edit view: hands it keys and mouse, and draws the rows that come out of it.
 #pragma once
 
-#include <vector>
+#include <optional>
 
 #include "document/edit_view.h"
 #include "framework/window.h"
 #include "ui/key_translation.h"
 #include "ui/row_painter.h"
 #include "ui/scroll_rules.h"
+#include "ui/shown_rows.h"
 
 namespace vexa {
 
@@ -84,11 +85,12 @@ class PaneWindowCL : public WindowCL {
     KeyTranslator keys_;
     WheelSteps wheel_[2];  // by bar
     WheelSteps zoom_;
-    std::vector<ViewRow> rows_;  // as they were last drawn or are about to be
-    LineIndex shownTop_;         // where the rows began then
+    ShownRows<ViewRow> rows_;
+    LineIndex shownTop_;  // where the rows begin
     DisplayColumn shownLeft_;
-    ScrollState shownScroll_[2];  // by bar
-    SIZE caretSize_ = {};         // none while the window has not the focus
+    ScrollState shownScroll_[2];                 // by bar
+    std::optional<ScrollState> drawnScroll_[2];  // the same, when the bar was last drawn
+    SIZE caretSize_ = {};                        // none while the window has not the focus
     POINT dragPlace_ = {};
     bool isDragging_ = false;
     bool dropsAltRelease_ = false;

@@ -22,11 +22,29 @@ constexpr Target kTargets[] = {
     [](const ScrollState& s, std::int32_t) { return s.last - s.page + 1; },
 };
 
+// A thumb's start and length in halves of a pixel; that of a bar with nothing to scroll fills it.
+struct Thumb {
+    std::int64_t start;
+    std::int64_t length;
+    bool operator==(const Thumb&) const = default;
+};
+
+Thumb ThumbOf(const ScrollState& state, std::int32_t pixels) {
+    const std::int64_t halves = std::int64_t{2} * pixels;
+    const std::int64_t all = state.last + std::int64_t{1};
+    if (state.page >= all) return {0, halves};
+    return {halves * state.position / all, halves * state.page / all};
+}
+
 }  // namespace
 
 ScrollState Shown(ScrollState state) {
     state.last = std::max(state.last, state.position + state.page - 1);
     return state;
+}
+
+bool ThumbMoves(const ScrollState& from, const ScrollState& to, std::int32_t pixels) {
+    return ThumbOf(from, pixels) != ThumbOf(to, pixels);
 }
 
 std::int32_t ScrollTarget(unsigned request, const ScrollState& state, std::int32_t track) {

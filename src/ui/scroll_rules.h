@@ -17,6 +17,10 @@ struct ScrollState {
 // The state as it is shown: a window scrolled beyond the last line has its bar at the end.
 ScrollState Shown(ScrollState state);
 
+// Whether the thumb of a bar of so many pixels looks different in the two states; a thumb that would move by less than
+// half a pixel does not. Drawing a bar costs more than a line of text.
+bool ThumbMoves(const ScrollState& from, const ScrollState& to, std::int32_t pixels);
+
 // The position that a request of a scroll bar asks for, not below 0. Requests are numbered as Windows numbers them
 // (SB_LINEUP and so on); track is the place that the user has dragged the thumb to. Unknown requests move nothing.
 std::int32_t ScrollTarget(unsigned request, const ScrollState& state, std::int32_t track);

@@ -52,6 +52,19 @@ TEST(ScrollRules, ShownBarReachesAWindowBeyondTheText) {
     EXPECT_EQ(Shown({.last = 99, .page = 20, .position = 50}).last, 99);
 }
 
+TEST(ScrollRules, ThumbMovesWhereItWouldLookDifferent) {
+    const ScrollState state{.last = 89999, .page = 40, .position = 45010};
+    const auto moves = [&](ScrollState to) { return ThumbMoves(state, to, 700); };
+    EXPECT_FALSE(moves({.last = 89999, .page = 40, .position = 45011}));  // 128 lines a pixel
+    EXPECT_FALSE(moves({.last = 90000, .page = 40, .position = 45010}));
+    EXPECT_TRUE(moves({.last = 89999, .page = 40, .position = 45075}));
+    EXPECT_TRUE(moves({.last = 89999, .page = 400, .position = 45010}));
+    EXPECT_TRUE(moves({.last = 39, .page = 40, .position = 0}));
+    // A bar that has nothing to scroll looks the same for every text.
+    EXPECT_FALSE(ThumbMoves({.last = 3, .page = 40, .position = 0}, {.last = 39, .page = 40, .position = 0}, 700));
+    EXPECT_TRUE(ThumbMoves({.last = 39, .page = 40, .position = 0}, {.last = 40, .page = 40, .position = 0}, 700));
+}
+
 TEST(ScrollRules, SmallWheelStepsAddUpToLines) {
     WheelSteps wheel;
     EXPECT_EQ(wheel.add(-120, 3), 3);
