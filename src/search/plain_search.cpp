@@ -27,10 +27,10 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint8_t kCaseBit = 'a' ^ 'A';
+constexpr char kCaseBit = 'a' ^ 'A';
 
-std::uint8_t FoldOf(char folded, LetterCase letterCase) {
-    return letterCase == LetterCase::Ignored && folded >= 'a' && folded <= 'z' ? kCaseBit : std::uint8_t{0};
+char FoldOf(char folded, LetterCase letterCase) {
+    return letterCase == LetterCase::Ignored && folded >= 'a' && folded <= 'z' ? kCaseBit : '\0';
 }
 
 #ifdef VEXA_SSE2
@@ -62,8 +62,10 @@ PlainSearch::PlainSearch(std::string_view literal, LetterCase letterCase)
     : literal_(literal), letterCase_(letterCase), instructions_(BestInstructions()) {
     if (literal.empty()) return;
     if (letterCase == LetterCase::Ignored) std::ranges::transform(literal_, literal_.begin(), LowerAscii);
-    firstFold_ = FoldOf(literal_.front(), letterCase);
-    lastFold_ = FoldOf(literal_.back(), letterCase);
+    first_.fill(literal_.front());
+    last_.fill(literal_.back());
+    firstFold_.fill(FoldOf(literal_.front(), letterCase));
+    lastFold_.fill(FoldOf(literal_.back(), letterCase));
 }
 
 const char* PlainSearch::find(std::string_view text) const {
@@ -92,8 +94,7 @@ bool PlainSearch::equalsAt(const char* place) const {
 const char* PlainSearch::findPlain(const char* place, std::size_t places) const {
     const std::size_t last = literal_.size() - 1;
     for (const char* end = place + places; place != end; ++place) {
-        if ((*place | firstFold_) == literal_.front() && (place[last] | lastFold_) == literal_.back() &&
-            equalsAt(place))
+        if ((*place | firstFold_[0]) == first_[0] && (place[last] | lastFold_[0]) == last_[0] && equalsAt(place))
             return place;
     }
     return nullptr;
@@ -108,10 +109,10 @@ class PlainSearch::Sse2 {
     VEXA_SSE2_TARGET explicit Sse2(const PlainSearch& search)
         : search_(search),
           distance_(search.literal_.size() - 1),
-          first_(_mm_set1_epi8(search.literal_.front())),
-          last_(_mm_set1_epi8(search.literal_.back())),
-          firstFold_(_mm_set1_epi8(static_cast<char>(search.firstFold_))),
-          lastFold_(_mm_set1_epi8(static_cast<char>(search.lastFold_))) {}
+          first_(load<16>(search.first_.data())),
+          last_(load<16>(search.last_.data())),
+          firstFold_(load<16>(search.firstFold_.data())),
+          lastFold_(load<16>(search.lastFold_.data())) {}
 
     VEXA_SSE2_TARGET const char* find(const char* text, std::size_t places) const {
         if (places >= 16) return findInBlocks(text, text + places);

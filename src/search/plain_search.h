@@ -1,6 +1,7 @@
 // The search for a literal in a line of text: the plain find, and the literals that a regular expression calls for.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -39,10 +40,14 @@ class PlainSearch {
     std::string literal_;  // folded when letter case is ignored
     LetterCase letterCase_ = LetterCase::Sensitive;
     Instructions instructions_ = Instructions::Plain;
-    // What a byte is or-ed with before it is compared with the literal's first and last: the bit that tells lower case
-    // from upper where that byte is a letter and case is ignored, else nothing.
-    std::uint8_t firstFold_ = 0;
-    std::uint8_t lastFold_ = 0;
+    // A byte, as often as a vector has bytes, so that a search of a short line begins with a load.
+    using Repeated = std::array<char, 16>;
+    Repeated first_{};  // the literal's first byte
+    Repeated last_{};
+    // What a byte is or-ed with before it is compared with those: the bit that tells lower case from upper where that
+    // byte is a letter and case is ignored, else nothing.
+    Repeated firstFold_{};
+    Repeated lastFold_{};
 };
 
 }  // namespace vexa
