@@ -65,11 +65,6 @@ DynArray::~DynArray() {
     clear();
 }
 
-const TextLine* DynArray::at(std::int32_t i) const {
-    if (i < 0 || i >= capacity_) return nullptr;
-    return i < slots_.size() ? slots_[i] : &vacant_;
-}
-
 TextLine* DynArray::occupied(std::int32_t i) const {
     if (i < 0 || i >= slots_.size() || slots_[i] == &vacant_) return nullptr;
     return slots_[i];

@@ -54,7 +54,10 @@ class DynArray {
     void setGrowBy(std::int32_t slots) { growBy_ = slots; }
 
     // The line in a slot, or none beyond the capacity.
-    const TextLine* at(std::int32_t i) const;
+    const TextLine* at(std::int32_t i) const {
+        if (i < 0 || i >= capacity_) return nullptr;
+        return i < slots_.size() ? slots_[i] : &vacant_;
+    }
     // The line of a slot that is not vacant; none for a vacant slot or beyond the capacity.
     TextLine* occupied(std::int32_t i) const;
     bool isVacant(std::int32_t i) const;
