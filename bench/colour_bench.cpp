@@ -4,20 +4,15 @@
 #include <benchmark/benchmark.h>
 
 #include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/clipboard_store.h"
 #include "language/block_comment.h"
 #include "language/line_tokenizer.h"
+#include "support/fail.h"
 #include "support/peers.h"
 #include "support/session.h"
-
-// Last, because they make macros of common words.
-#include <Qsci/qsciscintillabase.h>
-
-#include <QApplication>
 
 namespace vexa::bench {
 namespace {
@@ -45,7 +40,7 @@ void TokensFloor(benchmark::State& state) {
     }
     CountLines(state, ReadLines(CorpusPath("c.txt")).size());
 }
-BENCHMARK(TokensFloor)->Unit(benchmark::kMillisecond);
+BENCHMARK(TokensFloor)->Name("tokens/C/bytes")->Unit(benchmark::kMillisecond);
 
 void TokensVexa(benchmark::State& state) {
     const std::vector<std::string> lines = ReadLines(CorpusPath("c.txt"));
@@ -63,32 +58,23 @@ void TokensVexa(benchmark::State& state) {
     benchmark::DoNotOptimize(tokens);
     CountLines(state, lines.size());
 }
-BENCHMARK(TokensVexa)->Unit(benchmark::kMillisecond);
+BENCHMARK(TokensVexa)->Name("tokens/C/vexa")->Unit(benchmark::kMillisecond);
 
 void TokensScintilla(benchmark::State& state) {
-    using Sci = QsciScintillaBase;
-    static int argumentCount = 1;
-    static char name[] = "bench";
-    static char* arguments[] = {name, nullptr};
-    std::optional<QApplication> application;
-    if (QApplication::instance() == nullptr) application.emplace(argumentCount, arguments);
     const Bytes bytes = ReadBytes(CorpusPath("c.txt"));
-    Sci editor;
     std::string keywords;
     const ExtensionProfile profile;
     for (const std::string& keyword : profile.keywords())
         keywords += keyword + " ";
-    editor.SendScintilla(Sci::SCI_SETLEXERLANGUAGE, 0UL, "cpp");
-    editor.SendScintilla(Sci::SCI_SETKEYWORDS, 0UL, keywords.c_str());
-    editor.SendScintilla(Sci::SCI_SETTEXT, 0UL, bytes.data.get());
+    Scintilla editor;
+    editor.setText(bytes.view());
+    editor.useCppLexer(keywords);
     for (auto _ : state)
-        editor.SendScintilla(Sci::SCI_COLOURISE, 0UL, -1L);
-    const std::size_t sample = bytes.view().find("struct ");
-    if (editor.SendScintilla(Sci::SCI_GETSTYLEAT, static_cast<unsigned long>(sample)) == 0)
-        state.SkipWithError("nothing was coloured");
+        editor.colour();
+    if (!editor.isColouredAt(bytes.view().find("struct "))) Fail("nothing was coloured");
     CountLines(state, ReadLines(CorpusPath("c.txt")).size());
 }
-BENCHMARK(TokensScintilla)->Unit(benchmark::kMillisecond);
+BENCHMARK(TokensScintilla)->Name("tokens/C/scintilla")->Unit(benchmark::kMillisecond);
 
 // ---- comments that span lines ----
 
@@ -128,7 +114,7 @@ void CommentsOfWholeText(benchmark::State& state) {
     }
     CountLines(state, static_cast<std::size_t>(last));
 }
-BENCHMARK(CommentsOfWholeText)->Unit(benchmark::kMillisecond);
+BENCHMARK(CommentsOfWholeText)->Name("comments/C/vexa")->Unit(benchmark::kMillisecond);
 
 // Opening a comment on the first line and painting the window, and taking it back and painting.
 void OpenCommentOnTopAndPaint(benchmark::State& state) {
@@ -143,7 +129,7 @@ void OpenCommentOnTopAndPaint(benchmark::State& state) {
         session.paint();
     }
 }
-BENCHMARK(OpenCommentOnTopAndPaint)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OpenCommentOnTopAndPaint)->Name("comment_on_top_painted/C/vexa")->Unit(benchmark::kMicrosecond);
 
 // The same, and then the window at the text's other end.
 void OpenCommentOnTopAndLookAtEnd(benchmark::State& state) {
@@ -158,7 +144,7 @@ void OpenCommentOnTopAndLookAtEnd(benchmark::State& state) {
         session.takeAllBack();
     }
 }
-BENCHMARK(OpenCommentOnTopAndLookAtEnd)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OpenCommentOnTopAndLookAtEnd)->Name("comment_on_top_seen_at_end/C/vexa")->Unit(benchmark::kMicrosecond);
 
 void ScrollThroughTextAndPaint(benchmark::State& state) {
     Disk disk;
@@ -170,7 +156,7 @@ void ScrollThroughTextAndPaint(benchmark::State& state) {
         session.paint();
     }
 }
-BENCHMARK(ScrollThroughTextAndPaint)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ScrollThroughTextAndPaint)->Name("scroll_line/C/vexa")->Unit(benchmark::kMicrosecond);
 
 // ---- clipboard ----
 
@@ -208,7 +194,10 @@ void CutAndPasteThousandLines(benchmark::State& state) {
         state.ResumeTiming();
     }
 }
-BENCHMARK(CutAndPasteThousandLines)->ArgName("kind")->DenseRange(1, 3)->Unit(benchmark::kMillisecond);
+BENCHMARK(CutAndPasteThousandLines)
+    ->Name("cut_and_paste_1000_lines/vexa")
+    ->DenseRange(static_cast<int>(MarkMode::Lines), static_cast<int>(MarkMode::Column))
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace vexa::bench

@@ -1,34 +1,23 @@
-// Find and replace over whole documents: replacing every "int" of C code by "INTEGER" with undo recorded, taking that
-// back, and looking for what is not there, each against vim or against the search engine alone on the same lines. Times
-// are of the whole document; ns_hit and ns_line are nanoseconds a replacement and a line. The corpora are files of
-// lines, in the folder that the environment variable VEXA_CORPORA names.
+// Find and replace over whole documents: replacing every "int" of C code by "INTEGER" with undo recorded, and taking
+// that back, beside vim and emacs; and looking for what is not there, beside the search engine alone on the same lines.
+// Times are of the whole document; ns_hit and ns_line are nanoseconds a replacement and a line.
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/platform/host/sandbox.h"
 #include "search/find_commands.h"
 #include "search/plain_search.h"
 #include "search/regexp.h"
+#include "support/fail.h"
+#include "support/session.h"
 
-namespace vexa {
+namespace vexa::bench {
 namespace {
-
-class SilentNotices : public Notices {
-  public:
-    void status(std::string_view, bool, bool) override {}
-    BoxAnswer box(std::string_view, std::string_view, BoxButtons) override { return BoxAnswer::Ok; }
-    void setBusy(bool) override {}
-    bool pumpMessages() override { return false; }
-};
 
 class PatientWatch : public SearchWatch {
   public:
@@ -39,41 +28,13 @@ class PatientWatch : public SearchWatch {
     using Clock = std::chrono::steady_clock;
 };
 
-std::string CorpusPath(const std::string& name) {
-    const char* folder = std::getenv("VEXA_CORPORA");
-    return std::string(folder != nullptr ? folder : ".") + "/" + name;
-}
-
-// Makes the corpora drive C of the sandbox that the program sees.
-class Disk {
-  public:
-    Disk() : root_(std::filesystem::temp_directory_path() / ("vexa-find-bench-" + std::to_string(getpid()))) {
-        std::filesystem::create_directories(root_);
-        std::filesystem::create_directory_symlink(std::filesystem::absolute(CorpusPath("")), root_ / "c");
-        platform::host::SetSandboxRoot(root_.string());
-    }
-    ~Disk() { std::filesystem::remove_all(root_); }
-
-  private:
-    std::filesystem::path root_;
-};
-
 // A loaded document with everything that searches in it.
-struct Session {
-    explicit Session(const std::string& name) {
-        document.setName("C:\\" + name);
-        loaded = document.load();
-        view.resize(40, 100);
-    }
+struct SearchSession : Session {
+    explicit SearchSession(const std::string& name) : Session(name) {}
 
-    SilentNotices notices;
     PatientWatch watch;
-    EditorOptions editorOptions;
-    TextDocument document{editorOptions, notices};
-    EditView view{document, editorOptions, notices};
-    SearchOptions options;
-    Finder finder{options, notices, watch};
-    bool loaded = false;
+    SearchOptions searchOptions;
+    Finder finder{searchOptions, notices, watch};
 };
 
 template <typename Work>
@@ -97,11 +58,11 @@ struct ReplaceTimes {
 };
 
 ReplaceTimes ReplaceInVexa() {
-    Session session("c.txt");
-    session.options.setMatchCase(true);
-    session.options.setReplaceAll(true);
-    session.options.setFindText("int", false);
-    session.options.setReplaceText("INTEGER");
+    SearchSession session("c.txt");
+    session.searchOptions.setMatchCase(true);
+    session.searchOptions.setReplaceAll(true);
+    session.searchOptions.setFindText("int", false);
+    session.searchOptions.setReplaceText("INTEGER");
     session.finder.attach(&session.view);
     ReplaceTimes times;
     times.replace = Seconds([&] { times.hits = session.finder.replace(); });
@@ -109,19 +70,32 @@ ReplaceTimes ReplaceInVexa() {
     return times;
 }
 
+// Of an editor that prints the seconds of replacing and of undoing.
+ReplaceTimes ReplaceIn(const std::string& command) {
+    ReplaceTimes times;
+    FILE* editor = popen((command + " 2>&1").c_str(), "r");
+    if (editor == nullptr || std::fscanf(editor, "%lf %lf", &times.replace, &times.undo) != 2)
+        Fail("This printed no times: " + command);
+    pclose(editor);
+    return times;
+}
+
 ReplaceTimes ReplaceInVim() {
-    const std::string command =
+    return ReplaceIn(
         "vim -u NONE -N -i NONE -n -es -c 'set noswapfile ul=1000' -c 'let t = reltime()' "
         "-c '%s/int/INTEGER/g' -c 'let a = reltimefloat(reltime(t))' -c 'let t = reltime()' -c undo "
-        "-c 'let b = reltimefloat(reltime(t))' -c 'verbose echo printf(\"%.9f %.9f\", a, b)' -c "
-        "'qa!' '" +
-        CorpusPath("c.txt") + "' 2>&1";
-    ReplaceTimes times;
-    FILE* vim = popen(command.c_str(), "r");
-    if (vim == nullptr) return times;
-    if (std::fscanf(vim, "%lf %lf", &times.replace, &times.undo) != 2) times = {};
-    pclose(vim);
-    return times;
+        "-c 'let b = reltimefloat(reltime(t))' -c 'verbose echo printf(\"%.9f %.9f\", a, b)' -c 'qa!' '" +
+        CorpusPath("c.txt") + "'");
+}
+
+ReplaceTimes ReplaceInEmacs() {
+    return ReplaceIn(
+        "emacs -Q --batch --insert '" + CorpusPath("c.txt") +
+        "' --eval '(progn (buffer-enable-undo) (undo-boundary) (goto-char (point-min))"
+        " (let* ((case-fold-search nil) (start (float-time)) (undone nil)"
+        " (replaced (progn (while (search-forward \"int\" nil t) (replace-match \"INTEGER\" t t)) (float-time))))"
+        " (undo-boundary) (primitive-undo 1 (cdr buffer-undo-list)) (setq undone (float-time))"
+        " (princ (format \"%.9f %.9f\" (- replaced start) (- undone replaced)))))'");
 }
 
 template <typename Replace>
@@ -131,9 +105,7 @@ void RegisterReplace(const std::string& editor, Replace replace) {
         benchmark::RegisterBenchmark((work + "/C/" + editor).c_str(),
                                      [=](benchmark::State& state) {
                                          for (auto _ : state) {
-                                             const double seconds = replace().*time;
-                                             if (seconds == 0) return state.SkipWithError("not run");
-                                             state.SetIterationTime(seconds);
+                                             state.SetIterationTime(replace().*time);
                                          }
                                          Report(state, "ns_hit", hits);
                                          state.counters["hits"] = hits;
@@ -162,11 +134,10 @@ const Absent kAbsent[] = {
 };
 
 void FindInDocument(benchmark::State& state, const char* file, const Absent& absent) {
-    Session session(file);
-    if (!session.loaded) return state.SkipWithError("no corpus");
-    session.options.setMatchCase(absent.matchCase);
-    session.options.setRegularExpression(absent.regularExpression);
-    session.options.setFindText(absent.text, false);
+    SearchSession session(file);
+    session.searchOptions.setMatchCase(absent.matchCase);
+    session.searchOptions.setRegularExpression(absent.regularExpression);
+    session.searchOptions.setFindText(absent.text, false);
     session.finder.attach(&session.view);
     for (auto _ : state) {
         if (session.finder.findNext()) return state.SkipWithError("it is there");
@@ -188,7 +159,6 @@ void SearchLines(benchmark::State& state, const TextDocument& document, Search s
 
 void FindWithEngine(benchmark::State& state, const char* file, const Absent& absent) {
     const Session session(file);
-    if (!session.loaded) return state.SkipWithError("no corpus");
     if (absent.regularExpression) {
         SetRegExpIgnoreCase(!absent.matchCase);
         const std::unique_ptr<RegExp> program = RegExp::Compile(absent.text);
@@ -214,14 +184,15 @@ void RegisterAbsent(const char* corpus, const char* file) {
 }
 
 }  // namespace
-}  // namespace vexa
+}  // namespace vexa::bench
 
 int main(int argc, char** argv) {
-    const vexa::Disk disk;
-    vexa::RegisterReplace("vexa", vexa::ReplaceInVexa);
-    vexa::RegisterReplace("vim", vexa::ReplaceInVim);
-    vexa::RegisterAbsent("C", "c.txt");
-    vexa::RegisterAbsent("WIDE", "wide.txt");
+    const vexa::bench::Disk disk;
+    vexa::bench::RegisterReplace("vexa", vexa::bench::ReplaceInVexa);
+    vexa::bench::RegisterReplace("vim", vexa::bench::ReplaceInVim);
+    vexa::bench::RegisterReplace("emacs", vexa::bench::ReplaceInEmacs);
+    vexa::bench::RegisterAbsent("C", "c.txt");
+    vexa::bench::RegisterAbsent("WIDE", "wide.txt");
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

@@ -39,6 +39,26 @@ BARS = [
     ("paint/key/vexa/percentile_95", "paint/key/notepad/percentile_95", 1),
     ("paint/scroll_line/vexa/longest", 16, 1),
     ("paint/comment_opened/vexa", 16, 1),
+    ("replace_all/C/vexa", "replace_all/C/vim", 0.25),
+    ("replace_all/C/vexa", "replace_all/C/emacs", 0.25),
+    ("ns_hit/replace_all/C/vexa", 500, 1),
+    ("ns_hit/undo_replace_all/C/vexa", 300, 1),
+    ("tokens/C/vexa", "tokens/C/scintilla", 1),
+    ("comment_on_top_painted/C/vexa", 16e6, 1),
+    ("scroll_line/C/vexa", 16e6, 1),
+]
+
+# The same for all the work whose names begin alike: the start of the names, what is measured, the peers of which the best
+# counts, or a number, and how often that it may be. The work that comes out worst is printed.
+GROUP_BARS = [
+    ("kept/", "vexa", ["pcre2"], 1),
+    ("kept/", "vexa", ["pcre2_jit"], 2),
+    ("each/", "vexa_matcher", ["pcre2"], 0.5),
+    ("plain/", "vexa", ["memmem", "strstr", "string_view"], 1.3),
+    ("plain/", "vexa", ["strcasestr"], 0.5),
+    ("bad/", "vexa", ["pcre2"], 0.01),
+    ("not_there/", "vexa", ["engine"], 2),
+    ("cut_and_paste_1000_lines/", "vexa", 10e6, 1),
 ]
 
 
@@ -65,13 +85,38 @@ def read_figures(folder):
                 figures[name] = 1e9 / run["items_per_second"]
             else:
                 figures[name] = run["cpu_time" if clocked == run["name"] else "real_time"] * UNITS[run["time_unit"]]
-            if "bytes_step" in run:
-                figures["bytes_step/" + name] = run["bytes_step"]
+            for counter in ("bytes_step", "ns_hit"):
+                if counter in run:
+                    figures[f"{counter}/{name}"] = run[counter]
     for path in sorted(folder.glob("*.txt")):
         for line in path.read_text().splitlines():
             name, value, *_ = line.split()
             figures[name] = float(value)
     return figures
+
+
+def worst_of_group(figures, start, subject, peer):
+    """The highest ratio among the work whose names start so and that has such a peer, and that work's name."""
+    ratios = []
+    for name, value in figures.items():
+        place, _, last = name.rpartition("/")
+        if last != subject or not name.startswith(start):
+            continue
+        bases = [figures[f"{place}/{p}"] for p in peer if f"{place}/{p}" in figures] if isinstance(peer, list) else [peer]
+        if bases:
+            ratios.append((value / min(bases), place))
+    return max(ratios, default=None)
+
+
+def print_group_bars(figures):
+    for start, subject, peer, most in GROUP_BARS:
+        worst = worst_of_group(figures, start, subject, peer)
+        peers = ", ".join(peer) if isinstance(peer, list) else f"{peer} ns"
+        if worst is None:
+            print(f"{start + ' ' + subject + ' : ' + peers:60} {'-':>8} {most:>8} not measured")
+            continue
+        ratio, place = worst
+        print(f"{place + '/' + subject + ' : ' + peers:60} {ratio:8.2f} {most:8} {'' if ratio <= most else 'MISSED'}")
 
 
 def print_bars(figures):
@@ -106,6 +151,7 @@ def print_peers(figures):
 def main():
     figures = read_figures(Path(sys.argv[1]))
     print_bars(figures)
+    print_group_bars(figures)
     print_peers(figures)
 
 

@@ -116,4 +116,18 @@ long Scintilla::length() const {
     return editor_->SendScintilla(Sci::SCI_GETLENGTH);
 }
 
+void Scintilla::useCppLexer(const std::string& keywords) {
+    editor_->SendScintilla(Sci::SCI_SETLEXERLANGUAGE, 0UL, "cpp");
+    editor_->SendScintilla(Sci::SCI_SETKEYWORDS, 0UL, keywords.c_str());
+}
+
+void Scintilla::colour() {
+    constexpr long kToEnd = -1;
+    editor_->SendScintilla(Sci::SCI_COLOURISE, 0UL, kToEnd);
+}
+
+bool Scintilla::isColouredAt(std::size_t position) const {
+    return editor_->SendScintilla(Sci::SCI_GETSTYLEAT, static_cast<unsigned long>(position)) != 0;
+}
+
 }  // namespace vexa::bench

@@ -47,6 +47,10 @@ class Scintilla {
     void undo();
     void redo();
     long length() const;
+    // Colours as C++ with these keywords, separated by blanks; colour() does the whole text again.
+    void useCppLexer(const std::string& keywords);
+    void colour();
+    bool isColouredAt(std::size_t position) const;
 
   private:
     std::unique_ptr<QsciScintillaBase> editor_;
