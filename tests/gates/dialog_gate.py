@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """Checks the dialogs that a person uses by keyboard: in each, no two controls share a mnemonic or a place, all lie inside,
-one button is the default, one leaves, and every field has its label just before it.
+one button is the default, one leaves, every field has its label just before it, and texts have room.
 
 usage: dialog_gate.py DIALOGS.RC
 """
@@ -15,6 +15,10 @@ CONTROL = re.compile(r'^\s+(\w+) (?:"((?:[^"]|"")*)", )?(-?\w+)((?:, [^,]+)*)$')
 FIELDS = {"EDITTEXT", "COMBOBOX", "LISTBOX"}
 LABELS = {"LTEXT", "RTEXT", "GROUPBOX"}
 BUTTONS = {"DEFPUSHBUTTON", "PUSHBUTTON"}
+# What a control shows beside its text, in dialog units: a button's frame, a box and the blank after it.
+BESIDE_TEXT = {"LTEXT": 0, "RTEXT": 0, "DEFPUSHBUTTON": 6, "PUSHBUTTON": 6, "AUTOCHECKBOX": 12, "AUTORADIOBUTTON": 12}
+# A dialog unit is a quarter of the mean width of a letter; texts of the usual letters take a little less than four.
+CHARACTER = 3.5
 
 
 class Control:
@@ -81,6 +85,13 @@ def misplaced(controls, width, height):
                 yield f"{control} lies on {other}"
 
 
+def clipped(controls):
+    for control in controls:
+        characters = len(re.sub("&(.)", r"\1", control.text))
+        if control.kind in BESIDE_TEXT and control.width - BESIDE_TEXT[control.kind] < CHARACTER * characters:
+            yield f"{control} has no room for its text"
+
+
 def missing_labels(controls):
     for before, control in zip([None] + controls, controls):
         if control.kind in FIELDS and (before is None or before.kind not in LABELS | {"AUTOCHECKBOX"}):
@@ -97,7 +108,7 @@ def missing_buttons(controls):
 
 def faults(text):
     for name, width, height, controls in read_dialogs(text):
-        for find in (shared_mnemonics, missing_labels, missing_buttons):
+        for find in (shared_mnemonics, clipped, missing_labels, missing_buttons):
             yield from (f"{name}: {fault}" for fault in find(controls))
         yield from (f"{name}: {fault}" for fault in misplaced(controls, width, height))
 
