@@ -1,27 +1,14 @@
 // Any bytes give a list of electric words within its limits, which comes back from its file as it was; and any
 // expansion in any document is taken back whole by undo.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "document/electric_expansion.h"
+#include "fuzz/fuzzing.h"
 
+namespace vexa::fuzz {
 namespace {
-
-using namespace vexa;
-
-void Require(bool held) {
-    if (!held) std::abort();
-}
-
-class SilentNotices : public Notices {
-  public:
-    void status(std::string_view, bool, bool) override {}
-    BoxAnswer box(std::string_view, std::string_view, BoxButtons) override { return BoxAnswer::Ok; }
-    void setBusy(bool) override {}
-    bool pumpMessages() override { return false; }
-};
 
 void CheckList(const ElectricList& list) {
     Require(list.entries().size() <= kElectricEntryLimit);
@@ -30,13 +17,6 @@ void CheckList(const ElectricList& list) {
         Require(!entry.expansion.empty() && entry.expansion.size() <= kElectricExpansionLimit);
     }
     Require(DecodeElectricList(EncodeElectricList(list)) == list);
-}
-
-std::vector<std::string> LinesOf(const TextDocument& document) {
-    std::vector<std::string> lines;
-    for (LineIndex line(0); line.value <= document.lineCount(LastUsed::Text); ++line)
-        lines.emplace_back(document.text(line));
-    return lines;
 }
 
 // The keyword stands between the two parts of a line, of which the first part may have more lines before it.
@@ -85,3 +65,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!list.entries().empty()) CheckExpansion(list, text, options);
     return 0;
 }
+
+}  // namespace vexa::fuzz

@@ -1,70 +1,35 @@
 // Whatever a document holds and whatever is looked for: finding and replacing come to an end, a replaced place is
 // replaced once, and undoing everything brings back every byte.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "fuzz/fuzzing.h"
 #include "search/find_commands.h"
 
+namespace vexa::fuzz {
 namespace {
 
-class SilentNotices : public vexa::Notices {
-  public:
-    void status(std::string_view, bool, bool) override {}
-    vexa::BoxAnswer box(std::string_view, std::string_view, vexa::BoxButtons) override { return vexa::BoxAnswer::Ok; }
-    void setBusy(bool) override {}
-    bool pumpMessages() override { return false; }
-};
-
-class StoppedClock : public vexa::SearchWatch {
+class StoppedClock : public SearchWatch {
   public:
     std::int64_t milliseconds() override { return 0; }
     bool stopAsked() override { return false; }
 };
 
-void Require(bool held) {
-    if (!held) std::abort();
-}
-
-class Input {
-  public:
-    Input(const std::uint8_t* data, std::size_t size) : rest_(data, data + size) {}
-
-    std::uint8_t byte() {
-        const std::string one = text(1);
-        return one.empty() ? std::uint8_t{0} : static_cast<std::uint8_t>(one[0]);
-    }
-    std::string text(std::size_t length) {
-        const std::string taken = rest_.substr(0, length);
-        rest_.erase(0, taken.size());
-        return taken;
-    }
-    // The largest document: the longest line and the number of matches multiply.
-    std::vector<std::string> lines() {
-        std::vector<std::string> all(1);
-        for (const char c : text(3000)) {
-            if (c == '\n') {
-                all.emplace_back();
-            } else {
-                all.back() += c;
-            }
+// The largest document: the longest line and the number of matches multiply.
+std::vector<std::string> TakeLines(Input& input) {
+    std::vector<std::string> all(1);
+    for (const char c : input.text(3000)) {
+        if (c == '\n') {
+            all.emplace_back();
+        } else {
+            all.back() += c;
         }
-        return all;
     }
-
-  private:
-    std::string rest_;
-};
-
-std::vector<std::string> LinesOf(const vexa::TextDocument& document) {
-    std::vector<std::string> lines;
-    for (vexa::LineIndex i; i.value <= document.lineCount(vexa::LastUsed::Text); ++i)
-        lines.emplace_back(document.text(i));
-    return lines;
+    return all;
 }
 
-void SetOptions(vexa::SearchOptions& options, Input& input) {
+void SetOptions(SearchOptions& options, Input& input) {
     const std::uint8_t flags = input.byte();
     options.setForward(flags & 1);
     options.setMatchCase(flags & 2);
@@ -78,7 +43,7 @@ void SetOptions(vexa::SearchOptions& options, Input& input) {
 }
 
 // Each search must find a later place, or nothing.
-void FindAll(vexa::Finder& finder, std::size_t places) {
+void FindAll(Finder& finder, std::size_t places) {
     while (finder.findNext())
         Require(places-- > 0);
 }
@@ -89,29 +54,29 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Input input(data, size);
     SilentNotices notices;
     StoppedClock clock;
-    vexa::EditorOptions editorOptions;
-    const vexa::ExtensionProfile profile;
-    vexa::TextDocument document(editorOptions, notices);
+    EditorOptions editorOptions;
+    const ExtensionProfile profile;
+    TextDocument document(editorOptions, notices);
     document.newEmpty();
     document.setProfile(profile);
-    vexa::EditView view(document, editorOptions, notices);
-    vexa::SearchOptions options;
+    EditView view(document, editorOptions, notices);
+    SearchOptions options;
     SetOptions(options, input);
-    const vexa::LineIndex line(input.byte());
-    const vexa::CharColumn column(input.byte());
+    const LineIndex line(input.byte());
+    const CharColumn column(input.byte());
     const bool findsFirst = input.byte() % 2 != 0;
 
     // A place at each character and line end, also of the empty lines above a cursor below the text.
     std::size_t places = static_cast<std::size_t>(line.value) + 1;
     std::int32_t index = 0;
-    for (const std::string& text : input.lines()) {
+    for (const std::string& text : TakeLines(input)) {
         places += text.size() + 1;
         document.lines().put(document.makeLine(text), index++);
     }
     const std::vector<std::string> before = LinesOf(document);
     view.goTo(line, column);
 
-    vexa::Finder finder(options, notices, clock);
+    Finder finder(options, notices, clock);
     finder.attach(&view);
     if (findsFirst) finder.findNext();
     Require(static_cast<std::size_t>(finder.replace()) <= places);
@@ -127,3 +92,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FindAll(finder, places);
     return 0;
 }
+
+}  // namespace vexa::fuzz

@@ -1,26 +1,20 @@
 // Whatever a text holds, the functions found in it lie in it, in the order of the lines.
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "fuzz/fuzzing.h"
 #include "search/c_functions.h"
 
-namespace {
-
-void Require(bool held) {
-    if (!held) std::abort();
-}
-
-}  // namespace
+namespace vexa::fuzz {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);
     std::string_view rest = bytes;
     std::vector<std::string_view> lines;
-    vexa::CFunctionScanner scanner;
+    CFunctionScanner scanner;
     while (!rest.empty()) {
         const std::size_t length = std::min(rest.find('\n'), rest.size());
         lines.push_back(rest.substr(0, length));
@@ -28,10 +22,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         rest.remove_prefix(std::min(length + 1, rest.size()));
     }
     std::int32_t before = 0;
-    for (const vexa::FunctionPlace& place : scanner.found()) {
+    for (const FunctionPlace& place : scanner.found()) {
         Require(place.line >= before && static_cast<std::size_t>(place.line) < lines.size());
         Require(place.begin < place.end && place.end <= lines[static_cast<std::size_t>(place.line)].size());
         before = place.line;
     }
     return 0;
 }
+
+}  // namespace vexa::fuzz

@@ -7,6 +7,7 @@
 
 #include "../search/reference_check.h"
 
+namespace vexa::fuzz {
 namespace {
 
 constexpr std::uint8_t kIgnoreCase = 1;
@@ -17,13 +18,13 @@ constexpr std::size_t kLongestSubject = 80;
 
 // Writes the bytes, as pairs of a place and a value, over a program.
 void ExecuteDamaged(const std::string& pattern, const std::string& subject, std::string_view changes) {
-    const std::unique_ptr<vexa::RegExp> good = vexa::RegExp::Compile(pattern.c_str());
+    const std::unique_ptr<RegExp> good = RegExp::Compile(pattern.c_str());
     if (!good) return;
     std::vector<std::uint8_t> bytes(good->program().begin(), good->program().end());
     for (std::size_t i = 0; i + 1 < changes.size(); i += 2)
         bytes[static_cast<std::uint8_t>(changes[i]) % bytes.size()] = static_cast<std::uint8_t>(changes[i + 1]);
-    const std::unique_ptr<vexa::RegExp> damaged = vexa::RegExp::FromProgram(bytes);
-    vexa::RegExp::Execute(damaged.get(), subject.c_str());
+    const std::unique_ptr<RegExp> damaged = RegExp::FromProgram(bytes);
+    RegExp::Execute(damaged.get(), subject.c_str());
 }
 
 }  // namespace
@@ -43,8 +44,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         ExecuteDamaged(pattern, subject, rest);
         return 0;
     }
-    const std::string difference = vexa::test::DifferenceFromReference(pattern, subject, (data[0] & kIgnoreCase) != 0);
+    const std::string difference = test::DifferenceFromReference(pattern, subject, (data[0] & kIgnoreCase) != 0);
     if (difference.empty()) return 0;
     std::fprintf(stderr, "\"%s\" on \"%s\": %s\n", pattern.c_str(), subject.c_str(), difference.c_str());
     std::abort();
 }
+
+}  // namespace vexa::fuzz

@@ -1,0 +1,69 @@
+// What fuzz targets share.
+#pragma once
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "base/notices.h"
+#include "base/platform/host/sandbox.h"
+#include "document/text_document.h"
+
+namespace vexa::fuzz {
+
+// Ends the program, which the fuzzer takes for a fault, unless a rule has held.
+inline void Require(bool held) {
+    if (!held) std::abort();
+}
+
+class SilentNotices : public Notices {
+  public:
+    void status(std::string_view, bool, bool) override {}
+    BoxAnswer box(std::string_view, std::string_view, BoxButtons) override { return BoxAnswer::Ok; }
+    void setBusy(bool) override {}
+    bool pumpMessages() override { return false; }
+};
+
+// Takes what a target needs off the front of its input; an input that has come to its end gives zeros and "".
+class Input {
+  public:
+    Input(const std::uint8_t* data, std::size_t size) : rest_(data, data + size) {}
+
+    std::uint8_t byte() {
+        const std::string one = text(1);
+        return one.empty() ? std::uint8_t{0} : static_cast<std::uint8_t>(one[0]);
+    }
+    std::string text(std::size_t length) {
+        const std::string taken = rest_.substr(0, length);
+        rest_.erase(0, taken.size());
+        return taken;
+    }
+    const std::string& rest() const { return rest_; }
+
+  private:
+    std::string rest_;
+};
+
+// Gives the process a drive C: of its own.
+inline void MakeDisk() {
+    static const bool made = [] {
+        const auto root = std::filesystem::temp_directory_path() / ("vexa-fuzz-" + std::to_string(getpid()));
+        std::filesystem::create_directories(root / "c");
+        platform::host::SetSandboxRoot(root.string());
+        return true;
+    }();
+    static_cast<void>(made);
+}
+
+inline std::vector<std::string> LinesOf(const TextDocument& document) {
+    std::vector<std::string> lines;
+    for (LineIndex i; i.value <= document.lineCount(LastUsed::Text); ++i)
+        lines.emplace_back(document.text(i));
+    return lines;
+}
+
+}  // namespace vexa::fuzz
