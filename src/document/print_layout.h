@@ -40,8 +40,8 @@ struct PrintHeading {
 };
 
 struct PrintedRow {
-    std::optional<std::int32_t>
-        lineNumber;  // counted from 1; none for a line that goes on, and where none are asked for
+    // Counted from 1; none for a line that goes on, and where none are asked for.
+    std::optional<std::int32_t> lineNumber;
     ViewRow text;
 
     bool operator==(const PrintedRow&) const = default;

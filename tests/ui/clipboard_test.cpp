@@ -85,6 +85,7 @@ TEST_F(ClipboardTest, TextOfAnotherProgramIsPastedAsWholeLinesInOneUndoStep) {
     const Editor editor(folder, {"a.txt"});
     PutForeignText("x\r\ny\r\nz");
     editor.keys("{Down}");
+    ASSERT_TRUE(editor.showsPosition(2, 1));
     editor.command(304);
     EXPECT_TRUE(editor.showsPosition(4, 1));
     const std::string expected = "one 1\r\nx\r\ny\r\ntwo 2\r\nthree 3\r\n";
