@@ -65,11 +65,6 @@ DynArray::~DynArray() {
     clear();
 }
 
-TextLine* DynArray::occupied(std::int32_t i) const {
-    if (i < 0 || i >= slots_.size() || slots_[i] == &vacant_) return nullptr;
-    return slots_[i];
-}
-
 bool DynArray::isVacant(std::int32_t i) const {
     return i >= 0 && i < capacity_ && occupied(i) == nullptr;
 }

@@ -59,7 +59,10 @@ class DynArray {
         return i < slots_.size() ? slots_[i] : &vacant_;
     }
     // The line of a slot that is not vacant; none for a vacant slot or beyond the capacity.
-    TextLine* occupied(std::int32_t i) const;
+    TextLine* occupied(std::int32_t i) const {
+        if (i < 0 || i >= slots_.size() || slots_[i] == &vacant_) return nullptr;
+        return slots_[i];
+    }
     bool isVacant(std::int32_t i) const;
     std::int32_t lastUsed(LastUsed mode) const;
 

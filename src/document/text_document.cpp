@@ -88,7 +88,8 @@ void TextDocument::countChange(std::int32_t step) {
 void TextDocument::clearChangedLines() {
     const std::int32_t last = lines_.lastUsed(LastUsed::Plain);
     for (std::int32_t i = 0; i <= last; ++i) {
-        if (TextLine* line = lines_.occupied(i)) line->clearChanged();
+        TextLine* line = lines_.occupied(i);
+        if (line && line->isChanged()) line->clearChanged();
     }
 }
 
@@ -101,15 +102,6 @@ bool TextDocument::isLineChanged(LineIndex index) const {
 
 std::int32_t TextDocument::lineCount(LastUsed mode) const {
     return loaded_ ? lines_.lastUsed(mode) : kNewDocumentLine;
-}
-
-const TextLine* TextDocument::line(LineIndex index) const {
-    return lines_.at(index.value);
-}
-
-std::string_view TextDocument::text(LineIndex index) const {
-    const TextLine* found = line(index);
-    return found ? found->text() : std::string_view();
 }
 
 TextLine& TextDocument::editableLine(LineIndex index) {

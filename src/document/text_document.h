@@ -77,8 +77,11 @@ class TextDocument {
     // The index of the last line in use; that of a new document's line before the first load.
     std::int32_t lineCount(LastUsed mode) const;
     // The line at an index; none beyond the capacity of the line store. Vacant slots read as an empty line.
-    const TextLine* line(LineIndex index) const;
-    std::string_view text(LineIndex index) const;
+    const TextLine* line(LineIndex index) const { return lines_.at(index.value); }
+    std::string_view text(LineIndex index) const {
+        const TextLine* found = line(index);
+        return found ? found->text() : std::string_view();
+    }
     // The line at an index, to be changed (before another one is asked for) or to keep a cursor column; a vacant slot
     // gets a line of its own first.
     TextLine& editableLine(LineIndex index);

@@ -28,6 +28,10 @@ class BufferedOutput {
         std::memcpy(buffer_.get() + used_, bytes.data(), bytes.size());
         used_ += bytes.size();
     }
+    void put(char byte) {
+        if (used_ == kBuffer) flush();
+        buffer_[used_++] = byte;
+    }
     bool flush() {
         good_ = good_ && file_.write({buffer_.get(), used_});
         used_ = 0;
@@ -57,13 +61,13 @@ class BufferedOutput {
 
 bool WriteLines(const TextDocument& document, File& file, bool bytes) {
     BufferedOutput output(file);
-    const std::string_view lineEnd = bytes ? "\n" : "\r\n";
     const std::int32_t last = document.lineCount(LastUsed::Text);
     for (LineIndex i; i.value <= last; ++i) {
         output.put(document.text(i));
-        output.put(lineEnd);
+        if (!bytes) output.put('\r');
+        output.put('\n');
     }
-    if (bytes) output.put({&kCtrlZ, 1});
+    if (bytes) output.put(kCtrlZ);
     return output.flush();
 }
 
