@@ -1,6 +1,7 @@
 #include "framework/dpi.h"
 
 #include "framework/gdi.h"
+#include "framework/system_function.h"
 
 namespace vexa {
 namespace {
@@ -10,20 +11,12 @@ int SystemDpi() {
     return dc ? GetDeviceCaps(dc.get().dc, LOGPIXELSY) : kNormalDpi;
 }
 
-using DpiForWindow = UINT(WINAPI*)(HWND);
-
-// Only newer systems have the function, so it is looked up by name.
-DpiForWindow FindDpiForWindow() {
-    const HMODULE user = GetModuleHandleA("user32.dll");
-    const FARPROC found = user ? GetProcAddress(user, "GetDpiForWindow") : nullptr;
-    // Through void*: the compiler cannot know that the signature is the right one.
-    return reinterpret_cast<DpiForWindow>(reinterpret_cast<void*>(found));
-}
+using DpiForWindow = UINT WINAPI(HWND);
 
 }  // namespace
 
 int DpiOf(HWND window) {
-    static const DpiForWindow dpiForWindow = FindDpiForWindow();
+    static DpiForWindow* const dpiForWindow = FindSystemFunction<DpiForWindow>("user32.dll", "GetDpiForWindow");
     const int dpi = dpiForWindow ? static_cast<int>(dpiForWindow(window)) : 0;
     return dpi > 0 ? dpi : SystemDpi();
 }

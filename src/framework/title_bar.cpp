@@ -1,25 +1,20 @@
 #include "framework/title_bar.h"
 
+#include "framework/system_function.h"
+
 namespace vexa {
 namespace {
 
 // The attribute's number on present systems; younger than the headers this is built for.
 constexpr DWORD kUseDarkMode = 20;
 
-using SetWindowAttribute = HRESULT(WINAPI*)(HWND, DWORD, const void*, DWORD);
-
-// Only newer systems have the library, which then stays loaded for as long as the program runs.
-SetWindowAttribute FindSetWindowAttribute() {
-    const HMODULE library = LoadLibraryA("dwmapi.dll");
-    const FARPROC found = library ? GetProcAddress(library, "DwmSetWindowAttribute") : nullptr;
-    // Through void*: the compiler cannot know that the signature is the right one.
-    return reinterpret_cast<SetWindowAttribute>(reinterpret_cast<void*>(found));
-}
+using SetWindowAttribute = HRESULT WINAPI(HWND, DWORD, const void*, DWORD);
 
 }  // namespace
 
 void SetDarkTitleBar(HWND window, bool dark) {
-    static const SetWindowAttribute setAttribute = FindSetWindowAttribute();
+    static SetWindowAttribute* const setAttribute =
+        FindSystemFunction<SetWindowAttribute>("dwmapi.dll", "DwmSetWindowAttribute");
     const BOOL value = dark;
     if (setAttribute) setAttribute(window, kUseDarkMode, &value, sizeof(value));
 }
