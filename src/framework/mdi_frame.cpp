@@ -8,6 +8,21 @@ namespace {
 // The numbers of the child windows' menu items, above those of all commands.
 constexpr UINT kFirstChildItem = 0x6000;
 
+// While it lives, the children of the client window come and go unseen; then all is drawn at once.
+class DrawingPause {
+  public:
+    explicit DrawingPause(HWND client) : client_(client) { SendMessageA(client, WM_SETREDRAW, FALSE, 0); }
+    ~DrawingPause() {
+        SendMessageA(client_, WM_SETREDRAW, TRUE, 0);
+        RedrawWindow(client_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
+    DrawingPause(const DrawingPause&) = delete;
+    DrawingPause& operator=(const DrawingPause&) = delete;
+
+  private:
+    HWND client_;
+};
+
 }  // namespace
 
 bool MDIframeCL::openClient(HMENU windowMenu) {
@@ -67,14 +82,21 @@ bool MDIframeCL::adopt(std::unique_ptr<MDIchildCL> child, const WindowClass& win
                        ChildShow show) {
     MDIchildCL& opened = *child;
     children_.push_back(std::move(child));
-    if (!opened.open(windowClass, title)) {
+    if (!openAs(opened, windowClass, title, show == ChildShow::Maximised)) {
         forget(opened);
         return false;
     }
-    const auto handle = reinterpret_cast<WPARAM>(opened.window());
     if (show == ChildShow::Minimised) ShowWindow(opened.window(), SW_MINIMIZE);
-    if (show == ChildShow::Maximised) SendMessageA(client_, WM_MDIMAXIMIZE, handle, 0);
     if (show == ChildShow::Tiled) arrange(Arrangement::Tile);
+    return true;
+}
+
+// A maximised window opens in another size first, which nobody should see.
+bool MDIframeCL::openAs(MDIchildCL& child, const WindowClass& windowClass, const std::string& title, bool maximised) {
+    if (!maximised) return child.open(windowClass, title);
+    const DrawingPause pause(client_);
+    if (!child.open(windowClass, title)) return false;
+    SendMessageA(client_, WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(child.window()), 0);
     return true;
 }
 

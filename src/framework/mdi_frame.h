@@ -51,6 +51,8 @@ class MDIframeCL : public AppFrameCL {
     LRESULT defaultProcedure(const Message& message) override;
 
   private:
+    bool openAs(MDIchildCL& child, const WindowClass& windowClass, const std::string& title, bool maximised);
+
     HWND client_ = nullptr;
     std::vector<std::unique_ptr<MDIchildCL>> children_;
 };

@@ -125,7 +125,6 @@ void VexaFrame::saveSession() {
 }
 
 void VexaFrame::onDestroy() {
-    KillTimer(window(), 1);
     DragAcceptFiles(window(), FALSE);
     saveSession();
     ddeServer_.reset();

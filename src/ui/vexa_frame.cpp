@@ -222,6 +222,8 @@ bool VexaFrame::openWindow(const std::optional<std::string>& path, LineIndex lin
     if (path) shown.view().goTo(line, CharColumn(0));
     shown.refresh();
     refreshToolBar();
+    // The text before the frame around it, which the system else draws first.
+    RedrawWindow(shown.window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     return true;
 }
 
