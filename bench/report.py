@@ -59,6 +59,7 @@ GROUP_BARS = [
     ("bad/", "vexa", ["pcre2"], 0.01),
     ("not_there/", "vexa", ["engine"], 2),
     ("cut_and_paste_1000_lines/", "vexa", 10e6, 1),
+    ("product/", "windows", ["native"], 1.3),
 ]
 
 
