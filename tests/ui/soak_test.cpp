@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 #include <random>
+#include <set>
+#include <string>
 
 #include "ui/dialogs.h"
 #include "ui/editor.h"
@@ -28,6 +30,9 @@ constexpr const char* kKeys[] = {
     "{Esc}",       "{Ctrl+Z}",     "{Ctrl+A}", "{Ctrl+Backspace}", "{F7}",
     "{F8}",        "{Alt+N}",      "a = 1;",   "{Ctrl+Home}",      "{Ctrl+End}",
 };
+
+// So many actions at most wait in the editor's queue.
+constexpr unsigned kMostWaiting = 50;
 
 // More than any soak leaves to be undone.
 constexpr int kMostSteps = 1'000'000;
@@ -57,16 +62,32 @@ class Soak : public ::testing::Test {
             place = {20 + static_cast<LONG>(below(200)), room.bottom / 2 + static_cast<LONG>(below(20))};
         return places;
     }
+    // Waits until the editor has used every key: a dialog opens that no other key opens, and no macro.
+    static bool hasUsedKeys(const Editor& editor) {
+        editor.keys("{Ctrl+R}");
+        if (!editor.dialog("Macro Repeat")) return false;
+        editor.keys("{Esc}");
+        return WaitUntil([&] { return !editor.hasDialog(); });
+    }
+    // Waits for the end of a macro, which goes on while keys are used: until it ends, another play does and says
+    // nothing.
+    static bool hasEndedPlaying(const Editor& editor) {
+        static const std::set<std::string> kAnswers = {"Macro playback complete", "No macro recorded!",
+                                                       "Can't playback macro while recording!"};
+        return WaitUntil([&] { return editor.runCommand(425) && kAnswers.contains(editor.message()); });
+    }
     // Undoes everything in the active document, writes it and gives back what was written.
     std::string undone(const Editor& editor, const std::string& name) {
         editor.keys("{Esc}");
+        EXPECT_TRUE(hasUsedKeys(editor));
         for (int i = 0; i < kMostSteps && editor.message() != "Nothing to undo!"; ++i)
             editor.runCommand(300);
         // Only what has been changed is written.
         folder.put(name, "not what was loaded");
         if (editor.mode() == "OVR") editor.keys("{Alt+I}");
         editor.keys("{Ctrl+Home}z{Backspace}");
-        EXPECT_TRUE(WaitUntil([&] { return TextOf(editor.activeDocument()).ends_with(" *"); }));
+        EXPECT_TRUE(hasUsedKeys(editor));
+        EXPECT_TRUE(TextOf(editor.activeDocument()).ends_with(" *"));
         editor.command(203);
         EXPECT_TRUE(editor.showsMessage("Write successful.")) << editor.message();
         return folder.get(name);
@@ -92,7 +113,11 @@ TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
         ASSERT_TRUE(doSomething(editor) && editor.answers()) << "after " << done;
         ASSERT_TRUE(editor.isRunning()) << "after " << done;
         ASSERT_FALSE(editor.hasDialog()) << "after " << done;
+        const bool isTimeToWait = done % kMostWaiting == 0;
+        ASSERT_TRUE(!isTimeToWait || hasUsedKeys(editor)) << "after " << done;
     }
+    ASSERT_TRUE(hasUsedKeys(editor));
+    ASSERT_TRUE(hasEndedPlaying(editor));
     RecordProperty("actions", static_cast<int>(done));
     for (int i = 0; i < 2; ++i) {
         const std::string name = TextOf(editor.activeDocument()).find("a.c") != std::string::npos ? "a.c" : "b.c";
