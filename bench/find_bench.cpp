@@ -15,18 +15,10 @@
 #include "search/regexp.h"
 #include "support/fail.h"
 #include "support/session.h"
+#include "support/silent.h"
 
 namespace vexa::bench {
 namespace {
-
-class PatientWatch : public SearchWatch {
-  public:
-    std::int64_t milliseconds() override {
-        return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now().time_since_epoch()).count();
-    }
-    bool stopAsked() override { return false; }
-    using Clock = std::chrono::steady_clock;
-};
 
 // A loaded document with everything that searches in it.
 struct SearchSession : Session {
@@ -39,9 +31,9 @@ struct SearchSession : Session {
 
 template <typename Work>
 double Seconds(Work work) {
-    const auto start = PatientWatch::Clock::now();
+    const auto start = Clock::now();
     work();
-    return std::chrono::duration<double>(PatientWatch::Clock::now() - start).count();
+    return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
 void Report(benchmark::State& state, const char* unit, double count) {

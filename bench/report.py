@@ -11,7 +11,7 @@ from pathlib import Path
 
 UNITS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}  # in nanoseconds
 
-# What is measured, what it is compared with (another figure, or a number in nanoseconds), and how often that it may be.
+# What is measured, what it is compared with (another figure, or a number in the figure's own unit), and how often that it may be.
 BARS = [
     ("load/C/vexa", "load/C/qscintilla", 1),
     ("load/C/vexa", "load/C/lines", 2),
@@ -106,30 +106,26 @@ def worst_of_group(figures, start, subject, peer):
         bases = [figures[f"{place}/{p}"] for p in peer if f"{place}/{p}" in figures] if isinstance(peer, list) else [peer]
         if bases:
             ratios.append((value / min(bases), place))
-    return max(ratios, default=None)
+    return max(ratios, default=(None, start.rstrip("/")))
 
 
-def print_group_bars(figures):
-    for start, subject, peer, most in GROUP_BARS:
-        worst = worst_of_group(figures, start, subject, peer)
-        peers = ", ".join(peer) if isinstance(peer, list) else f"{peer} ns"
-        if worst is None:
-            print(f"{start + ' ' + subject + ' : ' + peers:60} {'-':>8} {most:>8} not measured")
-            continue
-        ratio, place = worst
-        print(f"{place + '/' + subject + ' : ' + peers:60} {ratio:8.2f} {most:8} {'' if ratio <= most else 'MISSED'}")
+def print_bar(text, ratio, most):
+    if ratio is None:
+        print(f"{text:60} {'-':>8} {most:>8} not measured")
+    else:
+        print(f"{text:60} {ratio:8.2f} {most:8} {'' if ratio <= most else 'MISSED'}")
 
 
 def print_bars(figures):
     print(f"{'bar':60} {'ratio':>8} {'at most':>8}")
     for name, peer, most in BARS:
         base = peer if isinstance(peer, (int, float)) else figures.get(peer)
-        if name not in figures or base is None:
-            print(f"{name + ' : ' + str(peer):60} {'-':>8} {most:>8} not measured")
-            continue
-        ratio = figures[name] / base
-        text = f"{name} : {peer}" + (" ns" if base is peer else "")
-        print(f"{text:60} {ratio:8.2f} {most:8} {'' if ratio <= most else 'MISSED'}")
+        is_measured = name in figures and base is not None
+        print_bar(f"{name} : {peer}", figures[name] / base if is_measured else None, most)
+    for start, subject, peer, most in GROUP_BARS:
+        ratio, place = worst_of_group(figures, start, subject, peer)
+        peers = ", ".join(peer) if isinstance(peer, list) else peer
+        print_bar(f"{place}/{subject} : {peers}", ratio, most)
 
 
 def print_peers(figures):
@@ -152,7 +148,6 @@ def print_peers(figures):
 def main():
     figures = read_figures(Path(sys.argv[1]))
     print_bars(figures)
-    print_group_bars(figures)
     print_peers(figures)
 
 

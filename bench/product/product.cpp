@@ -12,30 +12,16 @@
 
 #include "language/line_tokenizer.h"
 #include "search/find_commands.h"
+#include "support/silent.h"
 
 #ifndef _WIN32
 #include "base/platform/host/sandbox.h"
 #endif
 
-namespace vexa {
+namespace vexa::bench {
 namespace {
 
 constexpr int kRuns = 15;
-using Clock = std::chrono::steady_clock;
-
-class SilentNotices : public Notices {
-  public:
-    void status(std::string_view, bool, bool) override {}
-    BoxAnswer box(std::string_view, std::string_view, BoxButtons) override { return BoxAnswer::Ok; }
-    void setBusy(bool) override {}
-    bool pumpMessages() override { return false; }
-};
-
-class PatientWatch : public SearchWatch {
-  public:
-    std::int64_t milliseconds() override { return 0; }
-    bool stopAsked() override { return false; }
-};
 
 void Require(bool held, const char* what) {
     if (held) return;
@@ -53,6 +39,11 @@ struct Session {
         searchOptions.setRegularExpression(isRegularExpression);
         searchOptions.setFindText(text, false);
         finder.attach(&view);
+    }
+    void prepareReplaceAll() {
+        lookFor("int", false);
+        searchOptions.setReplaceAll(true);
+        searchOptions.setReplaceText("INTEGER");
     }
 
     SilentNotices notices;
@@ -89,18 +80,11 @@ const Work kWorks[] = {
      [](Session& s) { Require(!s.finder.findNext(), "looking for what is not there"); }},
     {"find_regexp", [](Session& s) { s.lookFor("[A-Z_]+_HXQ", true); },
      [](Session& s) { Require(!s.finder.findNext(), "looking for what is not there"); }},
-    {"replace_all",
-     [](Session& s) {
-         s.lookFor("int", false);
-         s.searchOptions.setReplaceAll(true);
-         s.searchOptions.setReplaceText("INTEGER");
-     },
+    {"replace_all", [](Session& s) { s.prepareReplaceAll(); },
      [](Session& s) { Require(s.finder.replace() > 0, "replacing"); }},
     {"undo_replace_all",
      [](Session& s) {
-         s.lookFor("int", false);
-         s.searchOptions.setReplaceAll(true);
-         s.searchOptions.setReplaceText("INTEGER");
+         s.prepareReplaceAll();
          s.finder.replace();
      },
      [](Session& s) { Require(s.view.undo(), "undoing"); }},
@@ -115,17 +99,17 @@ double Nanoseconds(const Work& work, const std::string& path) {
 }
 
 }  // namespace
-}  // namespace vexa
+}  // namespace vexa::bench
 
 int main(int argc, char** argv) {
     if (argc < 3) return EXIT_FAILURE;
 #ifndef _WIN32
     vexa::platform::host::SetSandboxRoot(argc > 3 ? argv[3] : ".");
 #endif
-    for (const vexa::Work& work : vexa::kWorks) {
-        double best = vexa::Nanoseconds(work, argv[2]);
-        for (int run = 1; run < vexa::kRuns; ++run)
-            best = std::min(best, vexa::Nanoseconds(work, argv[2]));
+    for (const vexa::bench::Work& work : vexa::bench::kWorks) {
+        double best = vexa::bench::Nanoseconds(work, argv[2]);
+        for (int run = 1; run < vexa::bench::kRuns; ++run)
+            best = std::min(best, vexa::bench::Nanoseconds(work, argv[2]));
         std::printf("product/%s/%s %.0f\n", work.name, argv[1], best);
     }
 }

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "base/editor_options.h"
-#include "base/notices.h"
 #include "document/edit_view.h"
 #include "document/text_document.h"
+#include "support/silent.h"
 
 namespace vexa::bench {
 
@@ -27,14 +27,6 @@ class Disk {
 
 // The host's path of a name on drive C:.
 std::string HostPathOf(const std::string& name);
-
-class SilentNotices : public Notices {
-  public:
-    void status(std::string_view, bool, bool) override {}
-    BoxAnswer box(std::string_view, std::string_view, BoxButtons) override { return BoxAnswer::Ok; }
-    void setBusy(bool) override {}
-    bool pumpMessages() override { return false; }
-};
 
 // A document in a window of 40 rows of 100 columns.
 struct Session {
