@@ -34,6 +34,17 @@ class Picture {
         }
         return false;
     }
+    std::vector<std::uint32_t> pixels() const {
+        BITMAPINFO format{};
+        format.bmiHeader.biSize = sizeof(format.bmiHeader);
+        format.bmiHeader.biWidth = width_;
+        format.bmiHeader.biHeight = height_;
+        format.bmiHeader.biPlanes = 1;
+        format.bmiHeader.biBitCount = 32;
+        std::vector<std::uint32_t> all(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+        GetDIBits(dc_, bitmap_, 0, static_cast<UINT>(height_), all.data(), &format, DIB_RGB_COLORS);
+        return all;
+    }
     COLORREF first() const { return GetPixel(dc_, 0, 0); }
 
   private:
@@ -58,6 +69,12 @@ bool ShowsBackground(HWND window, COLORREF colour) {
 bool ShowsInFirstLine(HWND window, COLORREF colour) {
     const RECT start = {0, 0, 80, 12};
     return WaitUntil([&] { return Picture(window, start).has(colour); });
+}
+
+std::vector<std::uint32_t> PixelsOf(HWND window) {
+    RECT inside{};
+    GetClientRect(window, &inside);
+    return Picture(window, inside).pixels();
 }
 
 }  // namespace vexa::test

@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <cstdint>
+#include <vector>
+
 namespace vexa::test {
 
 inline constexpr COLORREF kWhite = RGB(255, 255, 255);
@@ -16,5 +19,8 @@ inline constexpr COLORREF kDarkPurple = RGB(128, 0, 128);
 bool ShowsBackground(HWND window, COLORREF colour);
 // Waits until any pixel of the window's first line of text, in its first eighty columns of pixels, has a colour.
 bool ShowsInFirstLine(HWND window, COLORREF colour);
+
+// All that a window shows inside its frame, pixel by pixel.
+std::vector<std::uint32_t> PixelsOf(HWND window);
 
 }  // namespace vexa::test

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "ui/editor.h"
+#include "ui/pixels.h"
 
 namespace vexa::test {
 namespace {
@@ -31,6 +32,19 @@ class ScrollTest : public ::testing::Test {
         std::sscanf(editor.position().c_str(), " L:%d", &line);
         return line;
     }
+    // What the window shows when many looks in a row have shown the same.
+    static std::vector<std::uint32_t> settledPixels(HWND window) {
+        constexpr int kLooks = 20;
+        std::vector<std::uint32_t> pixels;
+        int same = 0;
+        EXPECT_TRUE(WaitUntil([&] {
+            auto now = PixelsOf(window);
+            same = now == pixels ? same + 1 : 0;
+            pixels = std::move(now);
+            return same == kLooks;
+        }));
+        return pixels;
+    }
     static void scroll(const Editor& editor, UINT message, WORD request) {
         PostMessageA(editor.activePane(), message, request, 0);
     }
@@ -55,6 +69,32 @@ TEST_F(ScrollTest, VerticalBarMovesByLinesPagesAndToBothEnds) {
     editor.takePicture("scrolled-to-end");
     scroll(editor, WM_VSCROLL, SB_TOP);
     EXPECT_EQ(topLine(editor), 1);
+}
+
+// Rows that stay in sight are moved and the others drawn; at a jump to the other end of the text all are drawn.
+TEST_F(ScrollTest, RowsThatAreMovedLookAsIfTheyWereDrawn) {
+    const Editor editor(folder, {"a.txt"});
+    const HWND window = editor.activeDocument();
+    struct Case {
+        const char* caretKey;  // puts the caret, which blinks, out of sight
+        WORD jump;
+        WORD away;
+        WORD back;
+    };
+    const Case cases[] = {{"{Ctrl+Home}", SB_BOTTOM, SB_LINEUP, SB_LINEDOWN},
+                          {"{Ctrl+End}", SB_TOP, SB_LINEDOWN, SB_LINEUP}};
+    for (const Case& c : cases) {
+        editor.keys(c.caretKey);
+        ASSERT_TRUE(WaitUntil([&] { return (lineOf(editor) == 1) == (c.jump == SB_BOTTOM); }));
+        scroll(editor, WM_VSCROLL, c.jump);
+        const auto drawn = settledPixels(window);
+        for (int i = 0; i < 3; ++i)
+            scroll(editor, WM_VSCROLL, c.away);
+        ASSERT_TRUE(WaitUntil([&] { return PixelsOf(window) != drawn; }));
+        for (int i = 0; i < 3; ++i)
+            scroll(editor, WM_VSCROLL, c.back);
+        EXPECT_TRUE(WaitUntil([&] { return PixelsOf(window) == drawn; })) << c.caretKey;
+    }
 }
 
 TEST_F(ScrollTest, ThumbCanBeDraggedBeyondTheSixtyFourThousandthLine) {
