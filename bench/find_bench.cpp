@@ -10,9 +10,9 @@
 #include <string_view>
 #include <vector>
 
+#include "regexp/plain_search.h"
+#include "regexp/regexp.h"
 #include "search/find_commands.h"
-#include "search/plain_search.h"
-#include "search/regexp.h"
 #include "support/fail.h"
 #include "support/session.h"
 #include "support/silent.h"

@@ -11,9 +11,9 @@
 #include <string_view>
 #include <vector>
 
-#include "search/plain_search.h"
-#include "search/regex_matcher.h"
-#include "search/regexp.h"
+#include "regexp/plain_search.h"
+#include "regexp/regex_matcher.h"
+#include "regexp/regexp.h"
 #include "support/peers.h"
 #include "support/session.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "base/ascii.h"
+#include "language/c_functions.h"
 #include "language/profile_list.h"
-#include "search/c_functions.h"
-#include "search/regex_matcher.h"
+#include "regexp/regex_matcher.h"
 
 namespace vexa {
 

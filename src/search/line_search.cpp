@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/ascii.h"
-#include "search/regex_matcher.h"
+#include "regexp/regex_matcher.h"
 
 namespace vexa {
 

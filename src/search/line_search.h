@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "base/units.h"
-#include "search/plain_search.h"
-#include "search/regexp.h"
+#include "regexp/plain_search.h"
+#include "regexp/regexp.h"
 #include "search/search_options.h"
 
 namespace vexa {

@@ -5,7 +5,7 @@
 
 #include "base/ascii.h"
 #include "base/platform.h"
-#include "search/regexp.h"
+#include "regexp/regexp.h"
 #include "shell/open_path.h"
 
 namespace vexa {

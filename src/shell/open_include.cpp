@@ -7,7 +7,7 @@
 #include "base/directories.h"
 #include "base/platform.h"
 #include "base/strings.h"
-#include "search/name_at_caret.h"
+#include "language/name_at_caret.h"
 
 namespace vexa {
 

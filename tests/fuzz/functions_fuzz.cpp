@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "fuzz/fuzzing.h"
-#include "search/c_functions.h"
+#include "language/c_functions.h"
 
 namespace vexa::fuzz {
 

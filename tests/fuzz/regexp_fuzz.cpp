@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "../search/reference_check.h"
+#include "../regexp/reference_check.h"
 
 namespace vexa::fuzz {
 namespace {

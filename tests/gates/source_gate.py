@@ -34,28 +34,42 @@ def code_files(folder):
     return sorted(p for p in folder.rglob("*") if p.suffix in CODE) if folder.is_dir() else []
 
 
+def is_inside(name, folder):
+    return name.startswith(folder + "/")
+
+
+def layer_of(name):
+    """The layer of a file: the longest folder of the table that it is in; None when it is in no layer."""
+    return max((layer for layer in LAYERS if is_inside(name, layer)), key=len, default=None)
+
+
+def may_include(layer, header):
+    """A layer named in a row stands for all folders below it."""
+    below = layer_of(header)
+    return below == layer or any(is_inside(f"{below}/", allowed) for allowed in LAYERS[layer])
+
+
 def include_faults(name, header, is_quoted, src):
     """What is wrong with one include in the file called name (relative to src)."""
-    layer = name.split("/")[0]
+    layer = layer_of(name)
     if is_quoted and name.endswith(".rc"):
         return
     if is_quoted and not (src / header).is_file():
         yield f'includes "{header}", which is no file of src/'
     elif is_quoted:
-        below = header.split("/")[0]
-        if below != layer and below not in LAYERS[layer]:
+        if not may_include(layer, header):
             yield f'includes "{header}", which is not below {layer}/'
     else:
         for pattern, allowed in HEADERS:
             if fnmatch.fnmatchcase(header.lower(), pattern):
-                if not any(name.startswith(folder + "/") for folder in allowed):
+                if not any(is_inside(name, folder) for folder in allowed):
                     yield f"includes <{header}>, which has no place here"
                 return
 
 
 def file_faults(path, src):
     name = path.relative_to(src).as_posix()
-    if name.split("/")[0] not in LAYERS or "/" not in name:
+    if layer_of(name) is None:
         yield f"{name}: is in no layer"
         return
     for number, line in enumerate(path.read_text(errors="replace").splitlines(), 1):

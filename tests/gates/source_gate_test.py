@@ -23,6 +23,7 @@ class SourceGateTest(unittest.TestCase):
     def test_right_sources(self):
         for name, text in [
             ("src/document/a.cpp", '#include "document/face.h"\n#include "language/face.h"\n#include <vector>\n'),
+            ("src/ui/a.cpp", '#include "quickhelp/topics/face.h"\n'),
             ("src/ui/a.cpp", '#include <windows.h>\n#include "framework/face.h"\n#include "base/face.h"\n'),
             ("src/base/platform/win32/a.cpp", '#include <windows.h>\n#include "base/face.h"\n'),
             ("src/base/platform/host/a.cpp", "#include <sys/stat.h>\n#include <filesystem>\n"),
@@ -34,6 +35,7 @@ class SourceGateTest(unittest.TestCase):
         for name, text in [
             ("src/base/a.h", '#include "document/face.h"\n'),  # upward
             ("src/search/a.h", '#include "quickhelp/face.h"\n'),  # sideways
+            ("src/quickhelp/topics/a.h", '#include "quickhelp/face.h"\n'),  # out of a room of its own
             ("src/framework/a.h", '#include "base/face.h"\n'),
             ("src/shell/a.h", '#include "ui/face.h"\n'),
             ("src/document/a.h", '#include "face.h"\n'),  # not written from src/

@@ -1,9 +1,9 @@
 // Which functions are found in a text, and the rules of the dialog that lists them.
 #include <gtest/gtest.h>
 
+#include "regexp/regex_matcher.h"
 #include "search/function_list.h"
 #include "search/function_list_model.h"
-#include "search/regex_matcher.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/platform.h"
-#include "search/name_at_caret.h"
+#include "language/name_at_caret.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 

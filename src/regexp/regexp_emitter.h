@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "search/regexp_program.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa::regexp {
 

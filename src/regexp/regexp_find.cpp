@@ -1,12 +1,12 @@
-#include "search/regexp_find.h"
+#include "regexp/regexp_find.h"
 
 #include <algorithm>
 #include <cstring>
 
-#include "search/regexp.h"
-#include "search/regexp_machine.h"
-#include "search/regexp_plan.h"
-#include "search/regexp_program.h"
+#include "regexp/regexp.h"
+#include "regexp/regexp_machine.h"
+#include "regexp/regexp_plan.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa::regexp {
 

@@ -1,4 +1,4 @@
-#include "search/regexp_machine.h"
+#include "regexp/regexp_machine.h"
 
 #include <algorithm>
 #include <cstring>
@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "base/ascii.h"
-#include "search/regexp.h"
-#include "search/regexp_program.h"
+#include "regexp/regexp.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa::regexp {
 

@@ -4,8 +4,8 @@
 #include <cstring>
 
 #include "failing_allocation.h"
-#include "search/regexp.h"
-#include "search/regexp_plan.h"
+#include "regexp/regexp.h"
+#include "regexp/regexp_plan.h"
 
 namespace vexa::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "search/name_at_caret.h"
+#include "language/name_at_caret.h"
 
 #include <algorithm>
 #include <optional>

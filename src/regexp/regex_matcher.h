@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "search/regexp.h"
+#include "regexp/regexp.h"
 
 namespace vexa {
 

@@ -3,10 +3,10 @@
 #include <new>
 #include <optional>
 
-#include "search/regexp.h"
-#include "search/regexp_emitter.h"
-#include "search/regexp_plan.h"
-#include "search/regexp_program.h"
+#include "regexp/regexp.h"
+#include "regexp/regexp_emitter.h"
+#include "regexp/regexp_plan.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa {
 

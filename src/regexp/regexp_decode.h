@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "search/regexp_plan.h"
+#include "regexp/regexp_plan.h"
 
 namespace vexa::regexp {
 

@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "search/plain_search.h"
-#include "search/regexp_byte_set.h"
-#include "search/regexp_filter.h"
+#include "regexp/plain_search.h"
+#include "regexp/regexp_byte_set.h"
+#include "regexp/regexp_filter.h"
 
 namespace vexa::regexp {
 

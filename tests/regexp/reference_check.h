@@ -4,10 +4,10 @@
 #include <string>
 
 #include "reference_matcher.h"
-#include "search/plain_search.h"
-#include "search/regexp.h"
-#include "search/regexp_machine.h"
-#include "search/regexp_plan.h"
+#include "regexp/plain_search.h"
+#include "regexp/regexp.h"
+#include "regexp/regexp_machine.h"
+#include "regexp/regexp_plan.h"
 
 namespace vexa::test {
 

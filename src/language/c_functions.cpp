@@ -1,4 +1,4 @@
-#include "search/c_functions.h"
+#include "language/c_functions.h"
 
 #include <algorithm>
 #include <span>

@@ -1,13 +1,13 @@
-#include "search/regexp.h"
+#include "regexp/regexp.h"
 
 #include <algorithm>
 #include <new>
 #include <optional>
 #include <utility>
 
-#include "search/regexp_find.h"
-#include "search/regexp_plan.h"
-#include "search/regexp_program.h"
+#include "regexp/regexp_find.h"
+#include "regexp/regexp_plan.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa {
 

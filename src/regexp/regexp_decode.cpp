@@ -1,10 +1,10 @@
-#include "search/regexp_decode.h"
+#include "regexp/regexp_decode.h"
 
 #include <algorithm>
 #include <optional>
 #include <utility>
 
-#include "search/regexp_program.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa::regexp {
 

@@ -1,9 +1,9 @@
-#include "search/regexp_hints.h"
+#include "regexp/regexp_hints.h"
 
 #include <utility>
 #include <vector>
 
-#include "search/regexp_plan.h"
+#include "regexp/regexp_plan.h"
 
 namespace vexa::regexp {
 

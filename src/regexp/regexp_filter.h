@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "search/plain_search.h"
-#include "search/regexp_byte_set.h"
+#include "regexp/plain_search.h"
+#include "regexp/regexp_byte_set.h"
 
 namespace vexa::regexp {
 

@@ -1,4 +1,4 @@
-#include "search/plain_search.h"
+#include "regexp/plain_search.h"
 
 #include <gtest/gtest.h>
 

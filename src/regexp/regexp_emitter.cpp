@@ -1,4 +1,4 @@
-#include "search/regexp_emitter.h"
+#include "regexp/regexp_emitter.h"
 
 #include <algorithm>
 #include <numeric>

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "search/plain_search.h"
+#include "regexp/plain_search.h"
 
 namespace vexa::regexp {
 

@@ -1,4 +1,4 @@
-#include "search/regex_matcher.h"
+#include "regexp/regex_matcher.h"
 
 #include <gtest/gtest.h>
 

@@ -9,9 +9,9 @@
 #include <string_view>
 #include <vector>
 
-#include "search/plain_search.h"
-#include "search/regexp_byte_set.h"
-#include "search/regexp_hints.h"
+#include "regexp/plain_search.h"
+#include "regexp/regexp_byte_set.h"
+#include "regexp/regexp_hints.h"
 
 namespace vexa::regexp {
 

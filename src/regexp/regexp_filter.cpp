@@ -1,4 +1,4 @@
-#include "search/regexp_filter.h"
+#include "regexp/regexp_filter.h"
 
 #include <algorithm>
 #include <bit>

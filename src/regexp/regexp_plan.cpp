@@ -1,8 +1,8 @@
-#include "search/regexp_plan.h"
+#include "regexp/regexp_plan.h"
 
 #include <utility>
 
-#include "search/regexp_decode.h"
+#include "regexp/regexp_decode.h"
 
 namespace vexa::regexp {
 

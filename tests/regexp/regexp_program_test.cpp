@@ -4,7 +4,7 @@
 #include <random>
 
 #include "reference_check.h"
-#include "search/regexp_program.h"
+#include "regexp/regexp_program.h"
 
 namespace vexa::test {
 namespace {

@@ -13,7 +13,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "search/regexp_plan.h"
+#include "regexp/regexp_plan.h"
 
 namespace vexa::regexp {
 
