@@ -8,8 +8,6 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kBadTabSizeText = 4117;
-
 // Any other number in the settings file is shown, and stored again, as the default mode.
 DisplayModeValue ShownMode(std::int32_t mode) {
     switch (mode) {
@@ -49,9 +47,9 @@ EditorOptionsModel::EditorOptionsModel(const EditorOptions& options)
       filter1(options.Filter1),
       filter2(options.Filter2) {}
 
-std::optional<std::uint16_t> EditorOptionsModel::update(EditorOptions& options) const {
+std::optional<TextId> EditorOptionsModel::update(EditorOptions& options) const {
     const std::int32_t newTabSize = LeadingInteger(tabSize);
-    if (newTabSize < 1 || newTabSize > 9) return kBadTabSizeText;
+    if (newTabSize < 1 || newTabSize > 9) return TextId::BadTabSize;
     options.DisplayMode = displayMode;
     options.WrapColumn = Magnitude(wrapColumn);
     options.BackupInterval = Magnitude(backupInterval);

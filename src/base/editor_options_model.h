@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/editor_options.h"
+#include "base/strings.h"
 
 namespace vexa {
 
@@ -39,9 +40,9 @@ struct EditorOptionsModel {
     bool backupIntervalEnabled() const { return autoBackup; }
     bool lineNumbersEnabled() const { return hasMargin; }
 
-    // Stores the controls in the record. A refusal gives the number of the text that explains it and stores nothing;
+    // Stores the controls in the record. A refusal gives the text that explains it and stores nothing;
     // the dialog then stays open.
-    std::optional<std::uint16_t> update(EditorOptions& options) const;
+    std::optional<TextId> update(EditorOptions& options) const;
 };
 
 }  // namespace vexa

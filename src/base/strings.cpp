@@ -8,40 +8,42 @@ namespace vexa {
 namespace {
 
 struct Text {
-    std::uint16_t number;
+    TextId id;
     std::string_view text;
 };
 
 consteval auto SortedTexts() {
     std::array texts{
-#define VEXA_TEXT(number, text) Text{number, text},
+#define VEXA_TEXT(name, number, text) Text{TextId::name, text},
+#define VEXA_UNNUMBERED_TEXT(name, text) VEXA_TEXT(name, 0, text)
 #include "base/strings.def"
 #undef VEXA_TEXT
+#undef VEXA_UNNUMBERED_TEXT
     };
-    std::ranges::sort(texts, {}, &Text::number);
+    std::ranges::sort(texts, {}, &Text::id);
     return texts;
 }
 
 constexpr auto kTexts = SortedTexts();
-static_assert(std::ranges::adjacent_find(kTexts, {}, &Text::number) == kTexts.end(), "two texts have one number");
+static_assert(std::ranges::adjacent_find(kTexts, {}, &Text::id) == kTexts.end(), "two texts have one number");
 
 }  // namespace
 
-std::string_view LoadText(std::uint16_t number) {
-    const auto text = std::ranges::lower_bound(kTexts, number, {}, &Text::number);
-    return text != kTexts.end() && text->number == number ? text->text : std::string_view();
+std::string_view LoadText(TextId id) {
+    const auto text = std::ranges::lower_bound(kTexts, id, {}, &Text::id);
+    return text != kTexts.end() && text->id == id ? text->text : std::string_view();
 }
 
 std::string FillText(std::string_view format, std::initializer_list<std::string_view> arguments) {
     std::string filled;
     const std::string_view* argument = arguments.begin();
     for (std::size_t i = 0; i < format.size(); ++i) {
-        const std::string_view place = format.substr(i, 2);
-        if (place == "%s" || place == "%d") {
+        const std::string_view next = format.substr(i, 2);
+        if (next == "%s" || next == "%d") {
             if (argument != arguments.end()) filled += *argument++;
             ++i;
-        } else if (place == "%%") {
-            filled += place;
+        } else if (next == "%%") {
+            filled += next;
             ++i;
         } else {
             filled += format[i];
@@ -50,8 +52,8 @@ std::string FillText(std::string_view format, std::initializer_list<std::string_
     return filled;
 }
 
-std::string FillText(std::uint16_t number, std::initializer_list<std::string_view> arguments) {
-    return FillText(LoadText(number), arguments);
+std::string FillText(TextId id, std::initializer_list<std::string_view> arguments) {
+    return FillText(LoadText(id), arguments);
 }
 
 }  // namespace vexa

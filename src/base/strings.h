@@ -1,4 +1,4 @@
-// The string table: user-visible texts by number, and the filling of their places.
+// The string table: user-visible texts by name, and the filling of their placeholders.
 #pragma once
 
 #include <cstdint>
@@ -8,14 +8,29 @@
 
 namespace vexa {
 
-// The text with that number (the rows of strings.def); empty when there is none.
-std::string_view LoadText(std::uint16_t number);
+// The rows of strings.def by name; a text with a fixed number has that number.
+enum class TextId : std::uint16_t {
+#define VEXA_TEXT(name, number, text) name = number,
+#define VEXA_UNNUMBERED_TEXT(name, text)
+#include "base/strings.def"
+#undef VEXA_TEXT
+#undef VEXA_UNNUMBERED_TEXT
+    LastNumbered = 9999,
+#define VEXA_TEXT(name, number, text)
+#define VEXA_UNNUMBERED_TEXT(name, text) name,
+#include "base/strings.def"
+#undef VEXA_TEXT
+#undef VEXA_UNNUMBERED_TEXT
+};
 
-// The format with each "%s" or "%d", in turn, replaced by the next argument, as it is. A place without an argument
-// stays empty; "%%" and any other character stay as they are.
+// The text of a row, with a NUL behind it; empty for a number that no row has.
+std::string_view LoadText(TextId id);
+
+// The format with each "%s" or "%d", in turn, replaced by the next argument, as it is. A placeholder without an
+// argument stays empty; "%%" and any other character stay as they are.
 std::string FillText(std::string_view format, std::initializer_list<std::string_view> arguments);
 
 // LoadText and FillText in one.
-std::string FillText(std::uint16_t number, std::initializer_list<std::string_view> arguments);
+std::string FillText(TextId id, std::initializer_list<std::string_view> arguments);
 
 }  // namespace vexa

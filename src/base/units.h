@@ -31,9 +31,6 @@ using CharColumn = Unit<struct CharColumnTag>;
 // Column on the screen, 0-based, with every tab before it expanded to the next multiple of the tab size.
 using DisplayColumn = Unit<struct DisplayColumnTag>;
 
-// A command's number, as in menus and the accelerator table.
-enum class CommandId : std::uint16_t {};
-
 // The ten things that have a display colour, in the order in which the user is shown them.
 enum class ColourElement : std::uint8_t {
     Background,

@@ -10,8 +10,6 @@ namespace {
 constexpr const char* kSection = "Bookmark";
 constexpr const char* kKey = "Number";
 constexpr std::size_t kFieldSize = 50;
-constexpr std::uint16_t kTextBadNumber = 4148;
-constexpr std::uint16_t kTextNotSet = 4149;
 
 }  // namespace
 
@@ -21,12 +19,13 @@ bool BookmarkModel::jump(EditView& view, ConfigStore& store, Notices& notices) c
     const std::int32_t n = LeadingInteger(number);
     const BookmarkResult result = view.jumpToBookmark(n);
     if (result != BookmarkResult::Done) {
-        notices.status(LoadText(result == BookmarkResult::BadNumber ? kTextBadNumber : kTextNotSet), true, true);
+        notices.status(LoadText(result == BookmarkResult::BadNumber ? TextId::BadBookmark : TextId::BookmarkNotSet),
+                       true, true);
         return false;
     }
     store.WriteString(kSection, kKey, number);
     view.centreCursorLine();
-    notices.status(FillText("At bookmark '%d'", {std::to_string(n)}), true, false);
+    notices.status(FillText(TextId::AtBookmark, {std::to_string(n)}), true, false);
     return true;
 }
 

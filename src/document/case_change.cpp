@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/ascii.h"
+#include "base/strings.h"
 #include "document/marked_text.h"
 #include "document/run_actions.h"
 #include "document/word_motion.h"
@@ -49,7 +50,7 @@ bool ChangeWord(TextDocument& document, LineEditor& editor, CaseChange change) {
 bool ChangeCase(TextDocument& document, LineEditor& editor, CaseChange change) {
     const bool marked = document.marked().active;
     if (marked ? ChangeMarked(document, editor, change) : ChangeWord(document, editor, change)) return true;
-    document.notices().status(marked ? "No word has been highlighted." : "The cursor is not over a word.", true, true);
+    document.notices().status(LoadText(marked ? TextId::NoWordMarked : TextId::NoWordAtCursor), true, true);
     return false;
 }
 

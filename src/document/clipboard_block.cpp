@@ -12,8 +12,6 @@ namespace vexa {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::uint16_t kTextCopyTooLarge = 3111;
-constexpr std::uint16_t kTextCutTooLarge = 3112;
 
 }  // namespace
 
@@ -29,7 +27,7 @@ std::string ClipboardBlock::markedText() const {
     return text;
 }
 
-bool ClipboardBlock::put(std::uint16_t tooLarge) {
+bool ClipboardBlock::put(TextId tooLarge) {
     const MarkedArea& area = document_.marked();
     if (area.active && area.end.line - area.start.line > kClipboardLineLimit) {
         document_.notices().box(LoadText(tooLarge), kErrorCaption, BoxButtons::Ok);
@@ -37,20 +35,20 @@ bool ClipboardBlock::put(std::uint16_t tooLarge) {
     }
     const std::string line = std::string(document_.text(document_.currentLine())).append(kLineEnd);
     const bool done = area.active ? store_.put(markedText(), area.mode) : store_.put(line, MarkMode::Lines);
-    if (!done) document_.notices().status("The clipboard is in use by another program!", true, true);
+    if (!done) document_.notices().status(LoadText(TextId::ClipboardInUse), true, true);
     return done;
 }
 
 bool ClipboardBlock::copy() {
     const BusyCursor busy(document_.notices());
-    if (!put(kTextCopyTooLarge)) return false;
+    if (!put(TextId::TooManyLinesToCopy)) return false;
     if (marker_.isActive()) marker_.clear();
     return true;
 }
 
 bool ClipboardBlock::cut() {
     const BusyCursor busy(document_.notices());
-    if (!put(kTextCutTooLarge)) return false;
+    if (!put(TextId::TooManyLinesToCut)) return false;
     if (!marker_.deleteMarked()) editor_.deleteLine();
     return true;
 }

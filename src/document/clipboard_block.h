@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/strings.h"
 #include "document/clipboard_store.h"
 #include "document/line_editor.h"
 #include "document/marker.h"
@@ -39,7 +40,7 @@ class ClipboardBlock {
     };
     static Pieces split(std::string_view text);
 
-    bool put(std::uint16_t tooLarge);
+    bool put(TextId tooLarge);
     std::string markedText() const;
     void deleteMarkedForPaste();
     void pasteLines(const Pieces& pieces);

@@ -13,8 +13,6 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kTextBadBookmark = 4148;
-
 MarkMode ModeOf(MousePress press) {
     if (press == MousePress::Column) return MarkMode::Column;
     return press == MousePress::Lines ? MarkMode::Lines : MarkMode::Stream;
@@ -157,25 +155,25 @@ void EditView::finish() {
     bringCaretIntoSight(false);
 }
 
-bool EditView::takeBack(bool (UndoHistory::*step)(), const char* refusal) {
+bool EditView::takeBack(bool (UndoHistory::*step)(), TextId refusal) {
     document_.setInUndo(true);
     const bool done = (document_.undo().*step)();
     if (done) {
         marker_.stopExtending();
         bringCaretIntoSight(true);
     } else {
-        notices_.status(refusal, true, true);
+        notices_.status(LoadText(refusal), true, true);
     }
     document_.setInUndo(false);
     return done;
 }
 
 bool EditView::undo() {
-    return takeBack(&UndoHistory::undo, "Nothing to undo!");
+    return takeBack(&UndoHistory::undo, TextId::NothingToUndo);
 }
 
 bool EditView::redo() {
-    return takeBack(&UndoHistory::redo, "Nothing to redo!");
+    return takeBack(&UndoHistory::redo, TextId::NothingToRedo);
 }
 
 bool EditView::changeCase(CaseChange change) {
@@ -249,9 +247,9 @@ BookmarkResult EditView::jumpToBookmark(std::int32_t n) {
 
 void EditView::dropBookmark(std::int32_t n) {
     if (document_.dropBookmark(n) == BookmarkResult::Done) {
-        notices_.status(FillText("Bookmark '%d' dropped", {std::to_string(n)}), true, false);
+        notices_.status(FillText(TextId::BookmarkDropped, {std::to_string(n)}), true, false);
     } else {
-        notices_.status(LoadText(kTextBadBookmark), true, true);
+        notices_.status(LoadText(TextId::BadBookmark), true, true);
     }
 }
 
@@ -261,7 +259,7 @@ bool EditView::toMatchingBracket() {
     if (partner) {
         moveTo(partner->line, partner->column);
     } else {
-        notices_.status(bracket ? "No matching bracket found." : "The cursor is not at a bracket.", true, true);
+        notices_.status(LoadText(bracket ? TextId::NoMatchingBracket : TextId::NoBracketAtCursor), true, true);
     }
     return partner.has_value();
 }

@@ -8,6 +8,7 @@
 
 #include "base/editor_options.h"
 #include "base/notices.h"
+#include "base/strings.h"
 #include "base/units.h"
 #include "document/case_change.h"
 #include "document/clipboard_store.h"
@@ -127,7 +128,7 @@ class EditView {
     void pressWord();
     void dragWords();
     void moveTo(LineIndex line, std::optional<CharColumn> column);
-    bool takeBack(bool (UndoHistory::*step)(), const char* refusal);
+    bool takeBack(bool (UndoHistory::*step)(), TextId refusal);
 
     void charLeft() { editor_.moveLeft(1); }
     void charRight() { editor_.moveRight(1); }

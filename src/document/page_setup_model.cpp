@@ -9,7 +9,6 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kTextBadMargin = 3134;
 constexpr std::int32_t kHundredthsAnInch = 2540;
 
 struct MarginField {
@@ -76,7 +75,7 @@ std::optional<std::string PageSetupModel::Margins::*> PageSetupModel::badMargin(
 }
 
 std::string PageSetupModel::refusal() const {
-    return FillText(kTextBadMargin, {ShownLength(PrintOptions::kWidestMargin, unit), NameOf(unit)});
+    return FillText(TextId::BadMargin, {ShownLength(PrintOptions::kWidestMargin, unit), NameOf(unit)});
 }
 
 void PageSetupModel::update(PrintOptions& options) const {

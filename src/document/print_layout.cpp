@@ -10,7 +10,6 @@ namespace vexa {
 namespace {
 
 constexpr std::int32_t kNumberGap = 2;  // columns between a line number and its text
-constexpr std::uint16_t kTextPageOf = 3133;
 
 // The part of the text before the blanks at its end.
 std::string_view WithoutTrailingBlanks(std::string_view text) {
@@ -31,7 +30,7 @@ std::string Shortened(const std::string& name, std::size_t columns) {
 std::string HeaderText(const PrintHeading& heading, std::int32_t page, std::int32_t pages, std::int32_t columns) {
     constexpr std::size_t kGap = 2;
     const auto width = static_cast<std::size_t>(columns);
-    std::string right = FillText(kTextPageOf, {std::to_string(page), std::to_string(pages)});
+    std::string right = FillText(TextId::PageOf, {std::to_string(page), std::to_string(pages)});
     const std::string dated = heading.date + std::string(kGap, ' ') + right;
     if (!heading.date.empty() && dated.size() <= width) right = dated;
     if (right.size() > width) return right.substr(0, width);

@@ -39,7 +39,8 @@ bool TextLoader::read(File& file) {
     document_.lines().setGrowBy(kLoadGrowth);
     const bool complete = readLines();
     document_.lines().setGrowBy(growBy);
-    if (complete && document_.linesWrapped_) document_.notices().box(LoadText(3113), kProgramCaption, BoxButtons::Ok);
+    if (complete && document_.linesWrapped_)
+        document_.notices().box(LoadText(TextId::LinesWrapped), kProgramCaption, BoxButtons::Ok);
     return complete;
 }
 
@@ -48,7 +49,7 @@ bool TextLoader::readLines() try {
         if (!endOfFile_ && available() < kLookAhead && !refill()) return false;
         if (available() == 0) return true;
         if (lines_ > kLastLoadedLine) {
-            document_.notices().box(LoadText(3106), kProgramCaption, BoxButtons::Ok);
+            document_.notices().box(LoadText(TextId::FileTooLarge), kProgramCaption, BoxButtons::Ok);
             document_.truncated_ = true;
             return true;
         }

@@ -123,7 +123,8 @@ bool Overwrite(const TextDocument& document, const std::string& path, File& targ
     if (target.close() && back) {
         platform::RemoveFile(copyName);
     } else {
-        document.notices().box(FillText(3120, {document.baseName(), copyName}), kErrorCaption, BoxButtons::Ok);
+        document.notices().box(FillText(TextId::SaveInterrupted, {document.baseName(), copyName}), kErrorCaption,
+                               BoxButtons::Ok);
     }
     return false;
 }

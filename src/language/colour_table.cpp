@@ -30,11 +30,9 @@ constexpr ElementColours kPresets[kPresetCount - 1] = {
     {0, 12, 8, 2, 8, 0, 7, 6, 13, 9},
 };
 
-// The numbers of the first name of each kind.
-enum NameText : std::uint16_t { kPresetNames = 800, kPaletteNames = 850, kElementNames = 900 };
-
-std::string_view Name(NameText first, int position) {
-    return LoadText(static_cast<std::uint16_t>(first + position));
+// The names of each kind have numbers in a row.
+std::string_view Name(TextId first, int position) {
+    return LoadText(static_cast<TextId>(static_cast<int>(first) + position));
 }
 
 }  // namespace
@@ -44,15 +42,15 @@ const ElementColours& PresetColours(ColourPreset preset, const ElementColours& c
 }
 
 std::string_view PaletteName(std::int32_t index) {
-    return index >= 0 && index < kPaletteSize ? Name(kPaletteNames, index) : std::string_view();
+    return index >= 0 && index < kPaletteSize ? Name(TextId::White, index) : std::string_view();
 }
 
 std::string_view ElementName(ColourElement element) {
-    return Name(kElementNames, static_cast<int>(element));
+    return Name(TextId::Background, static_cast<int>(element));
 }
 
 std::string_view PresetName(ColourPreset preset) {
-    return Name(kPresetNames, static_cast<int>(preset));
+    return Name(TextId::BlackVexa, static_cast<int>(preset));
 }
 
 void ColourTable::load(const ConfigStore& store) {

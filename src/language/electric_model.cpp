@@ -10,17 +10,14 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kTextCannotWrite = 3109;
-constexpr std::uint16_t kTextNoKeyword = 4150;
-
 std::optional<std::string> RefusalOf(ElectricSet result) {
     switch (result) {
         case ElectricSet::NoKeyword:
-            return std::string(LoadText(kTextNoKeyword));
+            return std::string(LoadText(TextId::NoKeyword));
         case ElectricSet::NoExpansion:
-            return "No expansion has been specified.";
+            return std::string(LoadText(TextId::NoExpansion));
         case ElectricSet::Full:
-            return "No more than " + std::to_string(kElectricEntryLimit) + " keywords can be kept.";
+            return FillText(TextId::ElectricListFull, {std::to_string(kElectricEntryLimit)});
         case ElectricSet::Done:
             break;
     }
@@ -61,7 +58,7 @@ std::optional<std::string> ElectricModel::update() {
     }
     if (words_.replace(list_)) return std::nullopt;
     const std::string& path = words_.path();
-    return FillText(kTextCannotWrite, {path.substr(DirectoryOf(path).size())});
+    return FillText(TextId::CannotWriteFile, {path.substr(DirectoryOf(path).size())});
 }
 
 void ElectricModel::remove() {

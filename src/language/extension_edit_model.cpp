@@ -9,18 +9,6 @@
 namespace vexa {
 namespace {
 
-enum Text : std::uint16_t {
-    kExtensionExists = 3103,
-    kCannotOpen = 3108,
-    kCannotWrite = 3109,
-    kNoKeyword = 4150,
-    kBadExtension = 4160,
-    kAdded = 4161,
-    kKnown = 4162,
-    kTooLong = 4163,
-    kNoRoom = 4164
-};
-
 std::string TextOf(char c) {
     return c == '\0' ? std::string() : std::string(1, c);
 }
@@ -112,14 +100,14 @@ void ExtensionEditModel::add(const KeywordWords& words, ImportCount& count) {
 std::optional<std::size_t> ExtensionEditModel::addKeywords(std::string_view typed, Notices& notices) {
     const KeywordWords words = CutKeywords(typed);
     if (words.words.empty()) {
-        Tell(notices, std::string(LoadText(kNoKeyword)));
+        Tell(notices, std::string(LoadText(TextId::NoKeyword)));
         return std::nullopt;
     }
     ImportCount count;
     add(words, count);
     const auto row = std::ranges::lower_bound(keywords_, words.words.front());
     if (row != keywords_.end() && *row == words.words.front()) return row - keywords_.begin();
-    Tell(notices, FillText(kNoRoom, {std::to_string(count.noRoom)}));
+    Tell(notices, FillText(TextId::KeywordListFull, {std::to_string(count.noRoom)}));
     return std::nullopt;
 }
 
@@ -128,11 +116,11 @@ void ExtensionEditModel::removeKeyword(std::size_t row) {
 }
 
 std::string ExtensionEditModel::Summary(const ImportCount& count) {
-    std::string text = FillText(kAdded, {std::to_string(count.added)});
-    if (count.known > 0) text += "\n" + FillText(kKnown, {std::to_string(count.known)});
+    std::string text = FillText(TextId::KeywordsAdded, {std::to_string(count.added)});
+    if (count.known > 0) text += "\n" + FillText(TextId::KeywordsKnown, {std::to_string(count.known)});
     const std::string limit = std::to_string(kKeywordLimit);
-    if (count.tooLong > 0) text += "\n" + FillText(kTooLong, {limit, std::to_string(count.tooLong)});
-    if (count.noRoom > 0) text += "\n" + FillText(kNoRoom, {std::to_string(count.noRoom)});
+    if (count.tooLong > 0) text += "\n" + FillText(TextId::KeywordsTooLong, {limit, std::to_string(count.tooLong)});
+    if (count.noRoom > 0) text += "\n" + FillText(TextId::KeywordListFull, {std::to_string(count.noRoom)});
     return text;
 }
 
@@ -144,7 +132,7 @@ void ExtensionEditModel::importFiles(const std::vector<std::string>& paths, Noti
         if (words) {
             add(*words, count);
         } else {
-            Tell(notices, FillText(kCannotOpen, {NameIn(path)}));
+            Tell(notices, FillText(TextId::CannotOpenFile, {NameIn(path)}));
         }
         isAnyRead = isAnyRead || words;
     }
@@ -161,20 +149,20 @@ bool ExtensionEditModel::mayReplace(Notices& notices) const {
     const std::string_view wanted = wantedExtension();
     const auto isWanted = [wanted](const std::string& name) { return EqualIgnoringCase(name, wanted); };
     if (!isNew_ || std::ranges::none_of(profiles_.extensions(), isWanted)) return true;
-    const std::string question = FillText(kExtensionExists, {wanted});
+    const std::string question = FillText(TextId::ReplaceExtension, {wanted});
     return notices.box(question, kProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 bool ExtensionEditModel::update(Notices& notices) const {
     const std::string_view wanted = wantedExtension();
     if (isNew_ && !IsGoodExtension(wanted)) {
-        Tell(notices, FillText(kBadExtension, {std::to_string(kExtensionLimit)}));
+        Tell(notices, FillText(TextId::BadExtension, {std::to_string(kExtensionLimit)}));
         return false;
     }
     if (!mayReplace(notices)) return false;
     const std::string path = profiles_.profilePath(wanted);
     if (profile().write(path)) return true;
-    Tell(notices, FillText(kCannotWrite, {NameIn(path)}));
+    Tell(notices, FillText(TextId::CannotWriteFile, {NameIn(path)}));
     return false;
 }
 

@@ -8,12 +8,6 @@
 #include "base/strings.h"
 
 namespace vexa {
-namespace {
-
-enum Text : std::uint16_t { kSureToDelete = 3104, kCannotWrite = 3109 };
-
-}  // namespace
-
 void FileExtensionsModel::readRows() {
     rows_.clear();
     for (const std::string& extension : profiles_.extensions()) {
@@ -32,12 +26,12 @@ std::optional<std::size_t> FileExtensionsModel::rowOf(std::string_view extension
 
 bool FileExtensionsModel::deleteProfile(std::size_t row, Notices& notices) {
     const std::string& extension = rows_[row].extension;
-    const std::string question = FillText(kSureToDelete, {extension});
+    const std::string question = FillText(TextId::DeleteExtension, {extension});
     if (notices.box(question, kProgramCaption, BoxButtons::YesNo) != BoxAnswer::Yes) return false;
     const std::string path = profiles_.profilePath(extension);
     if (!platform::RemoveFile(path)) {
         const std::string name = path.substr(DirectoryOf(path).size());
-        notices.box(FillText(kCannotWrite, {name}), kErrorCaption, BoxButtons::Ok);
+        notices.box(FillText(TextId::CannotWriteFile, {name}), kErrorCaption, BoxButtons::Ok);
         return false;
     }
     readRows();

@@ -8,14 +8,11 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kBadArguments = 4114;
-constexpr std::uint16_t kUnexpectedError = 4130;
-
 std::string errorText;
 bool errorIsEmpty = false;
 
 void SetErrorText(std::string_view text) {
-    errorText = FillText("Regex Error: %s", {text});
+    errorText = FillText(TextId::RegexError, {text});
     errorIsEmpty = text.empty();
 }
 
@@ -31,12 +28,12 @@ int RegexMatcher::match(const char* subject, const char* pattern) {
 
 int RegexMatcher::match(std::string_view line, const char* pattern) {
     if (line.data() == nullptr || pattern == nullptr) {
-        SetErrorText(LoadText(kBadArguments));
+        SetErrorText(LoadText(TextId::BadCommandLine));
         return 0;
     }
     if (!errorIsEmpty) SetErrorText({});
     if (!compile(pattern)) {
-        SetErrorText(FillText(kUnexpectedError, {"VXEREG01", "162"}));
+        SetErrorText(FillText(TextId::UnexpectedError, {"VXEREG01", "162"}));
         return 0;
     }
     if (!RegExp::Execute(program_.get(), line)) return 0;

@@ -8,27 +8,21 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kTextNoOpenFile = 4141;
-constexpr std::uint16_t kTextFound = 4142;
-constexpr std::uint16_t kTextEndReached = 4143;
-constexpr std::uint16_t kTextStartReached = 4144;
-
-// The blank behind "On" is the program's own.
-const char* OnOff(bool on) {
-    return on ? "On " : "Off";
+std::string_view OnOff(bool on) {
+    return LoadText(on ? TextId::SwitchedOn : TextId::SwitchedOff);
 }
 
 }  // namespace
 
 bool FindCommands::attach(EditView* view) {
     if (finder_.attach(view)) return true;
-    tellError(LoadText(kTextNoOpenFile));
+    tellError(LoadText(TextId::NeedsOpenFile));
     return false;
 }
 
 void FindCommands::tellNotFound() {
-    if (finder_.wasStopped()) return tell("Search stopped.");
-    tellError(FillText(options_.forward() ? kTextEndReached : kTextStartReached, {options_.findText()}));
+    if (finder_.wasStopped()) return tell(LoadText(TextId::SearchStopped));
+    tellError(FillText(options_.forward() ? TextId::NotFoundForward : TextId::NotFoundBackward, {options_.findText()}));
 }
 
 void FindCommands::findNext(EditView* view) {
@@ -46,7 +40,7 @@ void FindCommands::findPrevious(EditView* view) {
 bool FindCommands::find(EditView* view) {
     if (!attach(view)) return false;
     if (finder_.findNext()) {
-        tell(LoadText(kTextFound));
+        tell(LoadText(TextId::SearchCompleted));
     } else {
         tellNotFound();
     }
@@ -61,21 +55,20 @@ bool FindCommands::replace(EditView* view) {
     if (count == 0) {
         tellNotFound();
     } else {
-        const char* format = finder_.wasStopped() ? "Replacement stopped with %d occurrences changed."
-                                                  : "Replacement completed with %d occurrences changed.";
-        tell(FillText(format, {std::to_string(count)}));
+        const TextId result = finder_.wasStopped() ? TextId::ReplacementStopped : TextId::ReplacementCompleted;
+        tell(FillText(result, {std::to_string(count)}));
     }
     return true;
 }
 
 void FindCommands::toggleRegularExpression() {
     options_.setRegularExpression(!options_.regularExpression());
-    tell(FillText("Regular expression '%s'", {OnOff(options_.regularExpression())}));
+    tell(FillText(TextId::RegularExpressionSwitched, {OnOff(options_.regularExpression())}));
 }
 
 void FindCommands::toggleMatchCase() {
     options_.setMatchCase(!options_.matchCase());
-    tell(FillText("Case Sensitivity '%s'", {OnOff(options_.matchCase())}));
+    tell(FillText(TextId::MatchCaseSwitched, {OnOff(options_.matchCase())}));
 }
 
 }  // namespace vexa

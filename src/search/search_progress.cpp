@@ -21,7 +21,7 @@ bool SearchProgress::look() {
 
 void SearchProgress::tell() {
     const std::string count = std::to_string(replacements_);
-    notices_.status(FillText("Searching, %d occurrences changed so far. Press Esc to stop.", {count}), false, false);
+    notices_.status(FillText(TextId::SearchProgress, {count}), false, false);
 }
 
 }  // namespace vexa

@@ -11,7 +11,6 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kTextBackupStarted = 4140;
 constexpr std::int64_t kSecondsAMinute = 60;
 
 // A name that was given with "/" or relative to a drive must not lead out of the directory.
@@ -59,7 +58,7 @@ void AutoBackup::CheckBackups() {
     const ScopedFlag checking(checking_);
     for (TextDocument* document : frame_.openDocuments()) {
         if (!isOpen(document) || !isDue(*document)) continue;
-        notices_.status(LoadText(kTextBackupStarted), false, false);
+        notices_.status(LoadText(TextId::BackupStarted), false, false);
         if (notices_.pumpMessages()) break;
         if (isOpen(document)) BackupDocument(*document);
     }

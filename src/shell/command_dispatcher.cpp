@@ -5,8 +5,6 @@
 namespace vexa {
 namespace {
 
-constexpr std::uint16_t kTextNoOpenFile = 4141;
-
 bool AsksForFile(CommandNeed need) {
     return need == CommandNeed::Document || need == CommandNeed::EditArea;
 }
@@ -46,7 +44,7 @@ bool CommandDispatcher::Dispatch(CommandId id) {
     }
     const CommandRow* row = FindCommand(id);
     const bool fileIsMissing = row && registrationOf(id) && AsksForFile(row->need) && !isMet_(CommandNeed::Window);
-    if (fileIsMissing) notices_.status(LoadText(kTextNoOpenFile), true, true);
+    if (fileIsMissing) notices_.status(LoadText(TextId::NeedsOpenFile), true, true);
     return false;
 }
 

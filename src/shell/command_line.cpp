@@ -10,15 +10,6 @@
 
 namespace vexa {
 
-const char* const kCommandLineHelp =
-    "vexa [file ...] [-Lnumber]\n"
-    "\n"
-    "file\tA file to edit; * and ? stand for any characters and any character.\n"
-    "-Lnumber\tThe line to begin at, counted from 1.\n"
-    "-?\tShows this text.\n"
-    "\n"
-    "One file, with or without a line, is opened in the editor that is already running.";
-
 namespace {
 
 constexpr const char* kLineOption = "[-/]+[lL]+[ ]*[0-9]+";

@@ -20,12 +20,10 @@ struct CommandLine {
 // between quotes "" means a quote.
 CommandLine ParseCommandLine(std::string_view whole);
 
-// Whether "/?" or "-?" is the only argument; the program then shows kCommandLineHelp and ends.
+// Whether "/?" or "-?" is the only argument; the program then shows a text and ends.
 bool AsksForHelp(std::span<const std::string> arguments);
-extern const char* const kCommandLineHelp;
 
-// The line that an argument names: one such as -l120, /L 7 or --ll3, with anything before and behind it. -1 when it
-// names none.
+// The line that an argument names; matches anywhere in the argument: -l120, /L 7, --ll3. -1 when it names none.
 std::int32_t ParseLineOption(const std::string& argument);
 
 struct FileAtLine {

@@ -8,10 +8,10 @@ namespace {
 
 // clang-format off
 constexpr CommandRow kCommands[] = {
-#define VEXA_MENU(place, heading)
+#define VEXA_MENU(kind, heading)
 #define VEXA_SEPARATOR()
-#define VEXA_COMMAND(id, text, keys, status, macro, need) \
-    {CommandId{id}, text, keys, status, MacroUse::macro, CommandNeed::need},
+#define VEXA_COMMAND(name, id, text, keys, status, macro, need) \
+    {CommandId::name, text, keys, status, MacroUse::macro, CommandNeed::need},
 #include "shell/commands.def"
 #undef VEXA_MENU
 #undef VEXA_SEPARATOR
@@ -19,9 +19,9 @@ constexpr CommandRow kCommands[] = {
 };
 
 constexpr MenuEntry kMenuEntries[] = {
-#define VEXA_MENU(place, heading) {MenuEntryKind::place, heading, CommandId{}},
+#define VEXA_MENU(kind, heading) {MenuEntryKind::kind, heading, CommandId{}},
 #define VEXA_SEPARATOR() {MenuEntryKind::Separator, {}, CommandId{}},
-#define VEXA_COMMAND(id, text, keys, status, macro, need) {MenuEntryKind::Command, text, CommandId{id}},
+#define VEXA_COMMAND(name, id, text, keys, status, macro, need) {MenuEntryKind::Command, text, CommandId::name},
 #include "shell/commands.def"
 #undef VEXA_MENU
 #undef VEXA_SEPARATOR

@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "base/units.h"
+#include "shell/command_id.h"
 
 namespace vexa {
 

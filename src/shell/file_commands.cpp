@@ -33,8 +33,8 @@ bool FileCommands::open(TextDocument& document, const std::optional<std::string>
     const bool opened = path && platform::PathExists(*path) ? document.load() : document.newEmpty();
     takeProfile(document);
     if (!opened) {
-        notices_.status(FillText(4130, {"VXEPAN01", "2562"}), true, true);
-        notices_.box(FillText(3108, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
+        notices_.status(FillText(TextId::UnexpectedError, {"VXEPAN01", "2562"}), true, true);
+        notices_.box(FillText(TextId::CannotOpenFile, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
     } else if (path) {
         tellOfSafetyCopy(document);
     }
@@ -43,12 +43,13 @@ bool FileCommands::open(TextDocument& document, const std::optional<std::string>
 
 void FileCommands::tellOfSafetyCopy(const TextDocument& document) {
     const std::string copy = LeftSafetyCopy(document.fullPath());
-    if (!copy.empty()) notices_.box(FillText(3120, {document.baseName(), copy}), kProgramCaption, BoxButtons::Ok);
+    if (!copy.empty())
+        notices_.box(FillText(TextId::SaveInterrupted, {document.baseName(), copy}), kProgramCaption, BoxButtons::Ok);
 }
 
 bool FileCommands::save(TextDocument& document) {
     if (document.isTruncated()) {
-        notices_.box(FillText(3107, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::FileTruncated, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
         return false;
     }
     if (!document.isNamed()) return saveAs(document);
@@ -56,7 +57,7 @@ bool FileCommands::save(TextDocument& document) {
         tellWriteFailed(document.baseName());
         return false;
     }
-    notices_.status("Write successful.", false, false);
+    notices_.status(LoadText(TextId::WriteSuccessful), false, false);
     return true;
 }
 
@@ -78,17 +79,18 @@ bool FileCommands::writeUnder(TextDocument& document, const std::string& path) {
     }
     if (SuffixDiffers(oldPath, path)) takeProfile(document);
     questions_.nameChanged(document);
-    notices_.status("Write successful.", false, false);
+    notices_.status(LoadText(TextId::WriteSuccessful), false, false);
     return true;
 }
 
 void FileCommands::tellWriteFailed(const std::string& name) {
-    notices_.box(FillText(3109, {name}), kErrorCaption, BoxButtons::Ok);
+    notices_.box(FillText(TextId::CannotWriteFile, {name}), kErrorCaption, BoxButtons::Ok);
 }
 
 bool FileCommands::queryClose(TextDocument& document) {
     if (!document.isModified()) return true;
-    switch (notices_.box(FillText(3100, {document.fullPath()}), kProgramCaption, BoxButtons::YesNoCancel)) {
+    switch (
+        notices_.box(FillText(TextId::SaveChanges, {document.fullPath()}), kProgramCaption, BoxButtons::YesNoCancel)) {
         case BoxAnswer::Yes:
             save(document);
             return !document.isModified();

@@ -11,7 +11,6 @@ namespace vexa {
 
 namespace {
 
-constexpr std::uint16_t kTextUnexpectedError = 4130;
 constexpr std::size_t kCommandLineLimit = 259;
 constexpr std::size_t kPathLimit = 255;
 constexpr std::size_t kNumberLimit = 49;
@@ -23,7 +22,7 @@ std::string HandOffFile() {
 }
 
 void TellUnexpectedError(Notices& notices, std::string_view module, std::string_view line) {
-    notices.box(FillText(kTextUnexpectedError, {module, line}), kErrorCaption, BoxButtons::Ok);
+    notices.box(FillText(TextId::UnexpectedError, {module, line}), kErrorCaption, BoxButtons::Ok);
 }
 
 // Quotes only keep blanks together; no name has one.

@@ -3,13 +3,14 @@
 #include <algorithm>
 
 #include "base/scoped_flag.h"
+#include "base/strings.h"
 #include "shell/command_table.h"
 
 namespace vexa {
 
 namespace {
 
-constexpr CommandId kMacroCommands[] = {CommandId{425}, CommandId{426}, CommandId{427}};
+constexpr CommandId kMacroCommands[] = {CommandId::PlayMacro, CommandId::RecordMacro, CommandId::RepeatMacro};
 
 }  // namespace
 
@@ -18,13 +19,13 @@ void KeyMacro::StartRecording(bool append) {
     replacePending_ = !append;
     recording_ = true;
     stepCount_ = 0;
-    notices_.status("Macro recording started", true, false);
+    notices_.status(LoadText(TextId::RecordingStarted), true, false);
 }
 
 void KeyMacro::StopRecording() {
     if (!recording_) return;
     recording_ = false;
-    notices_.status(stepCount_ > 0 ? "Macro recording complete" : "Macro recording was canceled", true, false);
+    notices_.status(LoadText(stepCount_ > 0 ? TextId::RecordingComplete : TextId::RecordingCanceled), true, false);
 }
 
 void KeyMacro::toggleRecording() {
@@ -47,7 +48,7 @@ void KeyMacro::recordCommand(CommandId id) {
     if (!recording_ || std::ranges::find(kMacroCommands, id) != std::end(kMacroCommands)) return;
     const CommandRow* row = FindCommand(id);
     if (row && row->macro == MacroUse::Warns) {
-        notices_.status("You can't record this action as a macro!", true, true);
+        notices_.status(LoadText(TextId::CannotRecordAction), true, true);
     } else {
         RecordStep(id);
     }
@@ -55,18 +56,18 @@ void KeyMacro::recordCommand(CommandId id) {
 
 bool KeyMacro::Play() {
     if (recording_) {
-        notices_.status("Can't playback macro while recording!", true, true);
+        notices_.status(LoadText(TextId::CannotPlayWhileRecording), true, true);
         return false;
     }
     if (playing_) return false;
     if (steps_.empty()) {
-        notices_.status("No macro recorded!", true, true);
+        notices_.status(LoadText(TextId::NoMacroRecorded), true, true);
         return false;
     }
     const ScopedFlag playing(playing_);
-    notices_.status("Macro playback started", false, false);
+    notices_.status(LoadText(TextId::PlaybackStarted), false, false);
     const bool played = playSteps();
-    if (played) notices_.status("Macro playback complete", false, false);
+    if (played) notices_.status(LoadText(TextId::PlaybackComplete), false, false);
     return played;
 }
 

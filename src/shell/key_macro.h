@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "base/notices.h"
-#include "base/units.h"
 #include "document/key_event.h"
+#include "shell/command_id.h"
 
 namespace vexa {
 

@@ -64,8 +64,8 @@ bool OpenInclude(const TextDocument& document, FileOpening& opening, Notices& no
         const auto path = FindIncluded(place.name, document.fullPath());
         if (path) return opening.OpenFileAtLine(*path, place.line);
     }
-    notices.status(names.empty() ? std::string("No file name at the cursor.")
-                                 : FillText("Unable to find the file '%s'.", {names.front().name}),
+    notices.status(names.empty() ? std::string(LoadText(TextId::NoFileNameAtCursor))
+                                 : FillText(TextId::CannotFindFile, {names.front().name}),
                    true, true);
     return false;
 }

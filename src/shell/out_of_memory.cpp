@@ -3,12 +3,11 @@
 #include <new>
 #include <utility>
 
+#include "base/strings.h"
+
 namespace vexa {
 
 namespace {
-
-constexpr const char* kText = "The system has run out of memory, please exit the system!";
-constexpr const char* kCaption = "No Memory";
 
 // The handler is a plain function, so what it needs cannot be handed to it.
 OutOfMemoryHandler::Show g_show = nullptr;
@@ -18,7 +17,7 @@ std::new_handler g_previous = nullptr;
 void Handle() {
     // Showing the box may itself want memory.
     if (const OutOfMemoryHandler::Show show = std::exchange(g_show, nullptr)) {
-        show(kText, kCaption);
+        show(LoadText(TextId::OutOfMemory).data(), LoadText(TextId::OutOfMemoryCaption).data());
         g_show = show;
     }
     if (!g_previous) throw std::bad_alloc();

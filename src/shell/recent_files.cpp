@@ -21,7 +21,7 @@ std::size_t Next(std::size_t slot) {
 }
 
 CommandId CommandOf(std::size_t slot) {
-    return CommandId(static_cast<std::uint16_t>(static_cast<std::size_t>(kFirstRecentFile) + slot));
+    return CommandId(static_cast<std::uint16_t>(static_cast<std::size_t>(CommandId::FirstRecentFile) + slot));
 }
 
 std::string MenuText(const std::string& path) {

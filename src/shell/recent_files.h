@@ -7,12 +7,9 @@
 #include <vector>
 
 #include "base/config_store.h"
-#include "base/units.h"
+#include "shell/command_id.h"
 
 namespace vexa {
-
-// The command of the first recent file; that of the second follows.
-inline constexpr CommandId kFirstRecentFile{210};
 
 // An entry of the File menu, and the path as a menu shows it ("&" doubled).
 struct RecentFileRow {

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "base/strings.h"
 #include "language/line_tokenizer.h"
 
 namespace vexa {
@@ -10,7 +11,6 @@ namespace {
 constexpr std::string_view kLines[] = {
     "#include <vexa.h>", "/* A comment */", "int size = 4095;", "while (size > 0)", "    print(\"text\");",
 };
-constexpr std::string_view kMarkedLine = "Marked text";
 
 CellRun RunAt(std::string_view line, std::string_view token, ColourElement text) {
     return {static_cast<std::int32_t>(token.data() - line.data()), static_cast<std::int32_t>(token.size()), text,
@@ -33,8 +33,9 @@ std::vector<ViewRow> ColourSampleRows(bool highlighting) {
     std::vector<ViewRow> rows;
     for (const std::string_view line : kLines)
         rows.push_back(ColouredRow(rules, line, highlighting));
-    const auto length = static_cast<std::int32_t>(kMarkedLine.size());
-    rows.push_back({std::string(kMarkedLine),
+    const std::string marked(LoadText(TextId::ColourSampleMarked));
+    const auto length = static_cast<std::int32_t>(marked.size());
+    rows.push_back({marked,
                     {{0, length, ColourElement::MarkingText, ColourElement::MarkingBackground},
                      {length, 1, ColourElement::DefaultText, ColourElement::Background}}});
     return rows;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/strings.h"
 #include "framework/file_dialog.h"
 #include "ui/dialog_controls.h"
 #include "ui/file_selection.h"
@@ -110,8 +111,8 @@ void ExtensionEditDialog::removeKeyword() {
 void ExtensionEditDialog::importKeywords() {
     FileDialogRequest request;
     request.owner = window();
-    request.title = "Import Keyword File";
-    request.filters = {{"Text Files (*.txt)", "*.txt"}, {"All Files (*.*)", "*.*"}};
+    request.title = LoadText(TextId::ImportKeywordsTitle).data();
+    request.filters = {{FillText(TextId::TextFiles, {"*.txt"}), "*.txt"}, {FillText(TextId::AllFiles, {"*.*"}), "*.*"}};
     request.explorerStyle = options_.UseExplorer;
     const std::optional<std::string> answer = AskOpenFiles(request);
     if (!answer) return;

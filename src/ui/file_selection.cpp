@@ -4,6 +4,7 @@
 
 #include "base/directories.h"
 #include "base/platform.h"
+#include "base/strings.h"
 
 namespace vexa {
 namespace {
@@ -38,17 +39,20 @@ std::vector<std::string> JoinWithDirectory(std::vector<std::string> parts) {
     return parts;
 }
 
+FileKind KindOf(TextId label, const std::string& patterns) {
+    return {FillText(label, {patterns}), patterns};
+}
+
 }  // namespace
 
 std::vector<FileKind> OfferedFileKinds(const EditorOptions& options) {
     std::vector<FileKind> kinds;
     for (const std::string* filter : {&options.Filter1, &options.Filter2}) {
-        if (!filter->empty()) kinds.push_back({"Files (" + *filter + ")", *filter});
+        if (!filter->empty()) kinds.push_back(KindOf(TextId::FilteredFiles, *filter));
     }
-    const std::string sources = "*.c;*.cpp;*.cxx;*.h;*.hpp;*.rc;*.asm;*.def";
-    kinds.push_back({"All Files (*.*)", "*.*"});
-    kinds.push_back({"Source Files (" + sources + ")", sources});
-    kinds.push_back({"Text Files (*.txt;*.doc)", "*.txt;*.doc"});
+    kinds.push_back(KindOf(TextId::AllFiles, "*.*"));
+    kinds.push_back(KindOf(TextId::SourceFiles, "*.c;*.cpp;*.cxx;*.h;*.hpp;*.rc;*.asm;*.def"));
+    kinds.push_back(KindOf(TextId::TextFiles, "*.txt;*.doc"));
     return kinds;
 }
 

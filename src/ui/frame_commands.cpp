@@ -1,4 +1,5 @@
 // The commands that the frame carries out.
+#include "base/strings.h"
 #include "document/bookmark_model.h"
 #include "document/goto_line_model.h"
 #include "framework/dpi.h"
@@ -19,82 +20,87 @@ namespace vexa {
 
 struct FrameCommands {
     struct Row {
-        std::uint16_t id;
+        CommandId id;
         void (VexaFrame::*run)();
     };
     static constexpr Row kRows[] = {
-        {200, &VexaFrame::newDocument},
-        {201, &VexaFrame::openDocuments},
-        {202, &VexaFrame::closeDocument},
-        {203, &VexaFrame::saveDocument},
-        {204, &VexaFrame::saveDocumentAs},
-        {205, &VexaFrame::saveAllDocuments},
-        {206, &VexaFrame::setUpPrinting},
-        {207, &VexaFrame::printDocument},
-        {208, &VexaFrame::exit},
-        {300, &VexaFrame::undo},
-        {301, &VexaFrame::redo},
-        {302, &VexaFrame::cut},
-        {303, &VexaFrame::copy},
-        {304, &VexaFrame::paste},
-        {305, &VexaFrame::clear},
-        {401, &VexaFrame::changeColours},
-        {403, &VexaFrame::changeFont},
-        {405, &VexaFrame::changeElectric},
-        {406, &VexaFrame::changeExtensions},
-        {800, &VexaFrame::changeCase<CaseChange::Toggle>},
-        {801, &VexaFrame::changeCase<CaseChange::Lower>},
-        {802, &VexaFrame::changeCase<CaseChange::Upper>},
-        {803, &VexaFrame::openInclude},
-        {312, &VexaFrame::selectAll},
-        {605, &VexaFrame::closeAllDocuments},
-        {606, &VexaFrame::activateNext},
-        {607, &VexaFrame::activatePrevious},
-        {309, &VexaFrame::gotoLine},
-        {311, &VexaFrame::gotoBookmark},
-        {404, &VexaFrame::changeOptions},
-        {425, &VexaFrame::playMacro},
-        {427, &VexaFrame::repeatMacro},
-        {426, &VexaFrame::recordMacro},
-        {700, &VexaFrame::helpOnHelp},
-        {701, &VexaFrame::helpIndex},
-        {702, &VexaFrame::helpOnKeys},
-        {900, &VexaFrame::toMatchingBracket},
-        {707, &VexaFrame::showAbout},
-        {901, &VexaFrame::toWindowStart},
-        {306, &VexaFrame::find},
-        {310, &VexaFrame::replace},
-        {307, &VexaFrame::findNext},
-        {308, &VexaFrame::findPrevious},
-        {902, &VexaFrame::toWindowEnd},
-        {903, &VexaFrame::toDocumentStart},
-        {904, &VexaFrame::toDocumentEnd},
+        {CommandId::FileNew, &VexaFrame::newDocument},
+        {CommandId::FileOpen, &VexaFrame::openDocuments},
+        {CommandId::FileClose, &VexaFrame::closeDocument},
+        {CommandId::FileSave, &VexaFrame::saveDocument},
+        {CommandId::FileSaveAs, &VexaFrame::saveDocumentAs},
+        {CommandId::FileSaveAll, &VexaFrame::saveAllDocuments},
+        {CommandId::PrintSetup, &VexaFrame::setUpPrinting},
+        {CommandId::Print, &VexaFrame::printDocument},
+        {CommandId::Exit, &VexaFrame::exit},
+        {CommandId::Undo, &VexaFrame::undo},
+        {CommandId::Redo, &VexaFrame::redo},
+        {CommandId::Cut, &VexaFrame::cut},
+        {CommandId::Copy, &VexaFrame::copy},
+        {CommandId::Paste, &VexaFrame::paste},
+        {CommandId::Clear, &VexaFrame::clear},
+        {CommandId::ChangeColours, &VexaFrame::changeColours},
+        {CommandId::ChangeFont, &VexaFrame::changeFont},
+        {CommandId::ChangeElectric, &VexaFrame::changeElectric},
+        {CommandId::ChangeExtensions, &VexaFrame::changeExtensions},
+        {CommandId::ToggleCase, &VexaFrame::changeCase<CaseChange::Toggle>},
+        {CommandId::LowerCase, &VexaFrame::changeCase<CaseChange::Lower>},
+        {CommandId::UpperCase, &VexaFrame::changeCase<CaseChange::Upper>},
+        {CommandId::OpenInclude, &VexaFrame::openInclude},
+        {CommandId::SelectAll, &VexaFrame::selectAll},
+        {CommandId::CloseAll, &VexaFrame::closeAllDocuments},
+        {CommandId::NextWindow, &VexaFrame::activateNext},
+        {CommandId::PreviousWindow, &VexaFrame::activatePrevious},
+        {CommandId::GotoLine, &VexaFrame::gotoLine},
+        {CommandId::GotoBookmark, &VexaFrame::gotoBookmark},
+        {CommandId::ChangeOptions, &VexaFrame::changeOptions},
+        {CommandId::PlayMacro, &VexaFrame::playMacro},
+        {CommandId::RepeatMacro, &VexaFrame::repeatMacro},
+        {CommandId::RecordMacro, &VexaFrame::recordMacro},
+        {CommandId::HelpOnHelp, &VexaFrame::helpOnHelp},
+        {CommandId::HelpIndex, &VexaFrame::helpIndex},
+        {CommandId::HelpOnKeys, &VexaFrame::helpOnKeys},
+        {CommandId::MatchingBracket, &VexaFrame::toMatchingBracket},
+        {CommandId::About, &VexaFrame::showAbout},
+        {CommandId::WindowStart, &VexaFrame::toWindowStart},
+        {CommandId::Find, &VexaFrame::find},
+        {CommandId::Replace, &VexaFrame::replace},
+        {CommandId::FindNext, &VexaFrame::findNext},
+        {CommandId::FindPrevious, &VexaFrame::findPrevious},
+        {CommandId::WindowEnd, &VexaFrame::toWindowEnd},
+        {CommandId::DocumentStart, &VexaFrame::toDocumentStart},
+        {CommandId::DocumentEnd, &VexaFrame::toDocumentEnd},
     };
 
     struct ArrangementRow {
-        std::uint16_t id;
+        CommandId id;
         Arrangement arrangement;
     };
     static constexpr ArrangementRow kArrangements[] = {
-        {601, Arrangement::Cascade},          {602, Arrangement::Tile},  {603, Arrangement::TileVertically},
-        {604, Arrangement::TileHorizontally}, {600, Arrangement::Icons},
+        {CommandId::Cascade, Arrangement::Cascade},
+        {CommandId::Tile, Arrangement::Tile},
+        {CommandId::TileVertically, Arrangement::TileVertically},
+        {CommandId::TileHorizontally, Arrangement::TileHorizontally},
+        {CommandId::ArrangeIcons, Arrangement::Icons},
     };
 };
 
 void VexaFrame::registerCommands() {
     for (const auto& row : FrameCommands::kRows) {
-        dispatcher_.RegisterCommand(CommandId{row.id}, [this, run = row.run](CommandId) { (this->*run)(); });
+        dispatcher_.RegisterCommand(row.id, [this, run = row.run](CommandId) { (this->*run)(); });
     }
     for (const auto& row : FrameCommands::kArrangements) {
-        dispatcher_.RegisterCommand(CommandId{row.id}, [this, how = row.arrangement](CommandId) { arrange(how); });
+        dispatcher_.RegisterCommand(row.id, [this, how = row.arrangement](CommandId) { arrange(how); });
     }
-    for (const CommandId id : {CommandId{210}, CommandId{211}}) {
+    for (const CommandId id : {CommandId::FirstRecentFile, CommandId::SecondRecentFile}) {
         dispatcher_.RegisterCommand(id, [this](CommandId chosen) { openRecentFile(chosen); });
     }
     dispatcher_.RegisterToggle(
-        CommandId{450}, [this](CommandId) { toggleToolBar(); }, [this] { return application_.options.ToolBar; });
+        CommandId::ToggleToolBar, [this](CommandId) { toggleToolBar(); },
+        [this] { return application_.options.ToolBar; });
     dispatcher_.RegisterToggle(
-        CommandId{451}, [this](CommandId) { toggleStatusBar(); }, [this] { return application_.options.StatusBar; });
+        CommandId::ToggleStatusBar, [this](CommandId) { toggleStatusBar(); },
+        [this] { return application_.options.StatusBar; });
 }
 
 // ---- files -------------------------------------------------------------------------------------------------------
@@ -102,7 +108,7 @@ void VexaFrame::registerCommands() {
 void VexaFrame::openDocuments() {
     FileDialogRequest request;
     request.owner = window();
-    request.title = "Open";
+    request.title = LoadText(TextId::OpenTitle).data();
     for (const FileKind& kind : OfferedFileKinds(application_.options))
         request.filters.push_back({kind.label, kind.patterns});
     request.explorerStyle = application_.options.UseExplorer;
@@ -326,10 +332,8 @@ void VexaFrame::toggleStatusBar() {
 }
 
 void VexaFrame::showAbout() {
-    const std::string text = std::string(kProgramCaption) + "\nVersion " VEXA_VERSION
-                                                            "\n\nA programmer's editor for "
-                                                            "Windows.\n\nCopyright \xA9 Vexa contributors";
-    ShowAboutBox(window(), text, "About " + std::string(kProgramCaption), IDI_VEXA);
+    const std::string text = FillText(TextId::AboutProgram, {kProgramCaption, VEXA_VERSION});
+    ShowAboutBox(window(), text, FillText(TextId::AboutTitle, {kProgramCaption}), IDI_VEXA);
 }
 
 }  // namespace vexa

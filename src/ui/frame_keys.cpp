@@ -4,8 +4,6 @@
 namespace vexa {
 namespace {
 
-constexpr CommandId kOpenInclude{803};
-
 KeyEvent KeyEventOf(const MSG& message) {
     KeyEvent event;
     event.key = static_cast<std::uint16_t>(message.wParam);
@@ -64,7 +62,7 @@ void VexaFrame::toggleRegularExpression() {
 }
 
 void VexaFrame::dispatchOpenInclude() {
-    dispatcher_.Dispatch(kOpenInclude);
+    dispatcher_.Dispatch(CommandId::OpenInclude);
 }
 
 }  // namespace vexa

@@ -9,16 +9,6 @@
 namespace vexa {
 namespace {
 
-enum PrintText : std::uint16_t {
-    kTextNoPrinter = 3130,
-    kTextPrintingFailed = 3131,
-    kTextNoRoom = 3132,
-    kTextNothingToPrint = 3135,
-    kTextCanceled = 3136,
-    kTextDone = 3137,
-    kTextPrinterRefused = 3138
-};
-
 // Date and time as the user has set them in the system.
 std::string Now() {
     char date[64] = "";
@@ -45,9 +35,9 @@ void VexaFrame::printDocument() {
         case PrinterAnswer::Cancelled:
             return;
         case PrinterAnswer::NoPrinter:
-            return tellPrintError(std::string(LoadText(kTextNoPrinter)));
+            return tellPrintError(std::string(LoadText(TextId::NoPrinter)));
         case PrinterAnswer::Failed:
-            return tellPrintError(std::string(LoadText(kTextPrinterRefused)));
+            return tellPrintError(std::string(LoadText(TextId::PrinterDoesNotAnswer)));
     }
 }
 
@@ -59,7 +49,7 @@ void VexaFrame::print(const TextDocument& document, const PrintOrder& order) {
     const HDC printer = order.printer.get();
     const PrintLook look{application_.font, application_.colours, application_.printOptions};
     const PagePainter painter(printer, PaperOf(printer), look);
-    if (!HasRoomToPrint(painter.grid())) return tellPrintError(std::string(LoadText(kTextNoRoom)));
+    if (!HasRoomToPrint(painter.grid())) return tellPrintError(std::string(LoadText(TextId::NoRoomToPrint)));
     const PrintLayout layout(document, {.area = order.area,
                                         .page = painter.grid(),
                                         .options = look.options,
@@ -84,13 +74,13 @@ PrintResult VexaFrame::runPrintJob(const TextDocument& document, const PrintLayo
 void VexaFrame::tellPrintResult(PrintResult result, const TextDocument& document) {
     switch (result) {
         case PrintResult::Done:
-            return notices_.status(LoadText(kTextDone), false, false);
+            return notices_.status(LoadText(TextId::PrintingCompleted), false, false);
         case PrintResult::NothingToPrint:
-            return notices_.status(LoadText(kTextNothingToPrint), true, true);
+            return notices_.status(LoadText(TextId::NothingToPrint), true, true);
         case PrintResult::Cancelled:
-            return notices_.status(LoadText(kTextCanceled), true, true);
+            return notices_.status(LoadText(TextId::PrintingCanceled), true, true);
         case PrintResult::Failed:
-            return tellPrintError(FillText(kTextPrintingFailed, {document.baseName()}));
+            return tellPrintError(FillText(TextId::PrintingFailed, {document.baseName()}));
     }
 }
 

@@ -12,9 +12,7 @@
 namespace vexa {
 namespace {
 
-constexpr WORD kExit = 208;
 constexpr WORD kRecentFilesSeparator = 100;
-constexpr std::uint16_t kTextCannotOpen = 3108;
 
 ScreenRect ToScreenRect(const RECT& area) {
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
@@ -92,8 +90,10 @@ void VexaFrame::showRecentFiles() {
     std::vector<MenuItem> items;
     for (const RecentFileRow& row : recentFiles_.menuRows())
         items.push_back({static_cast<WORD>(row.id), row.text});
-    const auto first = static_cast<WORD>(kFirstRecentFile);
-    ReplaceItemsBefore(fileMenu_, kExit, {first, static_cast<WORD>(first + 1)}, items, kRecentFilesSeparator);
+    const auto number = [](CommandId id) { return static_cast<WORD>(id); };
+    ReplaceItemsBefore(fileMenu_, number(CommandId::Exit),
+                       {number(CommandId::FirstRecentFile), number(CommandId::SecondRecentFile)}, items,
+                       kRecentFilesSeparator);
     DrawMenuBar(window());
 }
 
@@ -103,7 +103,7 @@ void VexaFrame::restoreFile(const std::string& path, std::int32_t line) {
         opening_.OpenFileAtLine(path, line);
     } else {
         const std::string name = path.substr(DirectoryOf(path).size());
-        notices_.box(FillText(kTextCannotOpen, {name}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::CannotOpenFile, {name}), kErrorCaption, BoxButtons::Ok);
     }
 }
 

@@ -1,4 +1,5 @@
 // How the frame lets the user expand words, list functions and open the files that a text names.
+#include "base/strings.h"
 #include "search/function_list.h"
 #include "search/function_list_model.h"
 #include "shell/open_include.h"
@@ -21,7 +22,7 @@ void VexaFrame::listFunctions() {
     DocumentWindow& active = *activeDocument();
     notices_.clearStatus();
     FunctionListModel model(FunctionsOf(active.document()), active.document().currentLine());
-    if (!model.chosenRow()) return notices_.status("No functions found.", true, true);
+    if (!model.chosenRow()) return notices_.status(LoadText(TextId::NoFunctions), true, true);
     if (!FunctionsDialog(application_.store, model).runModal(window())) return;
     active.view().goTo(*model.chosenLine(), CharColumn(0));
     active.view().centreCursorLine();

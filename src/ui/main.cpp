@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/platform.h"
+#include "base/strings.h"
 #include "framework/message_box.h"
 #include "shell/command_line.h"
 #include "shell/hand_off.h"
@@ -31,7 +32,8 @@ void ShowOutOfMemory(const char* text, const char* caption) {
 }
 
 void ShowCommandLineHelp() {
-    vexa::ShowBox(nullptr, vexa::kCommandLineHelp, std::string(vexa::kProgramCaption), MB_OK);
+    vexa::ShowBox(nullptr, std::string(vexa::LoadText(vexa::TextId::CommandLineHelp)),
+                  std::string(vexa::kProgramCaption), MB_OK);
 }
 
 // The marker of a program that was killed stays until the user logs off; a file handed over then would be read by

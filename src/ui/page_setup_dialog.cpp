@@ -8,9 +8,6 @@
 namespace vexa {
 namespace {
 
-constexpr std::uint16_t kTextNoPrinter = 3130;
-constexpr std::uint16_t kTextPrinterRefused = 3138;
-
 struct CheckBox {
     int control;
     bool PageSetupModel::*value;
@@ -47,7 +44,7 @@ PageSetupDialog::PageSetupDialog(ConfigStore& store, PrintOptions& options, Prin
     : EditorDialog(store, IDD_PAGE_SETUP), options_(options), printer_(printer), model_(options, UsersUnit()) {}
 
 void PageSetupDialog::onOpen() {
-    setTextOf(IDC_MARGINS, "Margins (" + std::string(NameOf(model_.unit)) + ")");
+    setTextOf(IDC_MARGINS, FillText(TextId::MarginsIn, {NameOf(model_.unit)}));
     for (const Field& field : kFields) {
         limitTextOf(field.control, kLengthLimit);
         setTextOf(field.control, model_.margins.*field.value);
@@ -82,8 +79,8 @@ void PageSetupDialog::onControl(int control, UINT notification) {
 
 void PageSetupDialog::setUpPrinter() {
     const PrinterAnswer answer = printer_.setUp(window());
-    if (answer == PrinterAnswer::NoPrinter) tell(std::string(LoadText(kTextNoPrinter)));
-    if (answer == PrinterAnswer::Failed) tell(std::string(LoadText(kTextPrinterRefused)));
+    if (answer == PrinterAnswer::NoPrinter) tell(std::string(LoadText(TextId::NoPrinter)));
+    if (answer == PrinterAnswer::Failed) tell(std::string(LoadText(TextId::PrinterDoesNotAnswer)));
 }
 
 void PageSetupDialog::tell(const std::string& text) const {

@@ -8,8 +8,6 @@
 namespace vexa {
 namespace {
 
-constexpr std::uint16_t kTextPageOf = 3133;
-
 PrinterAnswer AnswerTo(DWORD error) {
     switch (error) {
         case 0:
@@ -129,7 +127,7 @@ void PrintProgressDialog::onOpen() {
 }
 
 bool PrintProgressDialog::pageComes(std::int64_t i, std::int64_t count) {
-    setTextOf(IDC_PRINTED_PAGE, FillText(kTextPageOf, {std::to_string(i), std::to_string(count)}));
+    setTextOf(IDC_PRINTED_PAGE, FillText(TextId::PageOf, {std::to_string(i), std::to_string(count)}));
     UpdateWindow(window());
     return !notices_.pumpMessages() && !isCancelled_;
 }

@@ -22,12 +22,12 @@ struct FieldCommand {
     LPARAM second;
 };
 constexpr FieldCommand kFieldCommands[] = {
-    {CommandId{300}, WM_UNDO, 0, 0},
-    {CommandId{302}, WM_CUT, 0, 0},
-    {CommandId{303}, WM_COPY, 0, 0},
-    {CommandId{304}, WM_PASTE, 0, 0},
-    {CommandId{305}, WM_CLEAR, 0, 0},
-    {CommandId{301}, EM_SETSEL, 0, -1},  // the key is Ctrl+A, which marks all of a field
+    {CommandId::Undo, WM_UNDO, 0, 0},
+    {CommandId::Cut, WM_CUT, 0, 0},
+    {CommandId::Copy, WM_COPY, 0, 0},
+    {CommandId::Paste, WM_PASTE, 0, 0},
+    {CommandId::Clear, WM_CLEAR, 0, 0},
+    {CommandId::Redo, EM_SETSEL, 0, -1},  // the key is Ctrl+A, which marks all of a field
 };
 
 bool IsTextField(HWND control) {

@@ -6,6 +6,7 @@
 
 #include "base/history_list.h"
 #include "search/find_dialog_model.h"
+#include "shell/command_id.h"
 #include "ui/application.h"
 #include "ui/editor_dialog.h"
 

@@ -8,11 +8,29 @@
 namespace vexa {
 namespace {
 
-constexpr WORD kGap = 0;
+constexpr CommandId kGap{};
 
 // In the order of the pictures in the strips.
-constexpr WORD kCommands[] = {200, 201, 203,  kGap, 300, 301,  302, 303, 304,  kGap,
-                              306, 310, kGap, 500,  454, kGap, 426, 425, kGap, 701};
+constexpr CommandId kCommands[] = {CommandId::FileNew,
+                                   CommandId::FileOpen,
+                                   CommandId::FileSave,
+                                   kGap,
+                                   CommandId::Undo,
+                                   CommandId::Redo,
+                                   CommandId::Cut,
+                                   CommandId::Copy,
+                                   CommandId::Paste,
+                                   kGap,
+                                   CommandId::Find,
+                                   CommandId::Replace,
+                                   kGap,
+                                   CommandId::Compile,
+                                   CommandId::NextError,
+                                   kGap,
+                                   CommandId::RecordMacro,
+                                   CommandId::PlayMacro,
+                                   kGap,
+                                   CommandId::HelpIndex};
 
 constexpr ToolPictures kStrips[] = {{16, IDB_TOOLBAR_16}, {24, IDB_TOOLBAR_24}, {32, IDB_TOOLBAR_32}};
 
@@ -21,8 +39,8 @@ constexpr ToolPictures kStrips[] = {{16, IDB_TOOLBAR_16}, {24, IDB_TOOLBAR_24}, 
 std::vector<ToolButton> ToolButtons() {
     std::vector<ToolButton> buttons;
     int picture = 0;
-    for (const WORD id : kCommands)
-        buttons.push_back({id, id == kGap ? 0 : picture++});
+    for (const CommandId id : kCommands)
+        buttons.push_back({static_cast<WORD>(id), id == kGap ? 0 : picture++});
     return buttons;
 }
 

@@ -8,6 +8,7 @@
 
 #include "base/ascii.h"
 #include "base/platform.h"
+#include "base/strings.h"
 #include "framework/file_dialog.h"
 #include "framework/message_box.h"
 #include "framework/title_bar.h"
@@ -245,7 +246,7 @@ bool VexaFrame::mayCloseDocument(DocumentWindow& window) {
 std::optional<std::string> VexaFrame::askSaveName(const TextDocument& document) {
     FileDialogRequest request;
     request.owner = window();
-    request.title = "Save As";
+    request.title = LoadText(TextId::SaveAsTitle).data();
     for (const FileKind& kind : OfferedFileKinds(application_.options))
         request.filters.push_back({kind.label, kind.patterns});
     request.fileName = document.fullPath();

@@ -112,7 +112,7 @@ TEST(OptionsModel, RefusesTabSizesBeyondOneToNineAndThenStoresNothing) {
         model.tabSize = typed;
         model.wrapColumn = "60";
         model.hasMargin = false;
-        EXPECT_EQ(model.update(options), 4117) << typed;
+        EXPECT_EQ(model.update(options), TextId::BadTabSize) << typed;
         EXPECT_EQ(options.TabSize, 4);
         EXPECT_EQ(options.WrapColumn, 80);
         EXPECT_TRUE(options.HasMargin);

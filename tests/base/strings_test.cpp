@@ -7,11 +7,13 @@
 namespace vexa {
 namespace {
 
-TEST(Strings, AreFoundByNumber) {
-    EXPECT_EQ(LoadText(4117), "The tab size must be a number 1 to 9.");
-    EXPECT_EQ(LoadText(3100), "The file '%s' has been changed.\n Do you wish to save the changes?");
+TEST(Strings, AreFoundByTheirRow) {
+    EXPECT_EQ(LoadText(TextId::BadTabSize), "The tab size must be a number 1 to 9.");
+    EXPECT_EQ(LoadText(TextId::SaveChanges), "The file '%s' has been changed.\n Do you wish to save the changes?");
+    EXPECT_EQ(static_cast<int>(TextId::SaveChanges), 3100);
+    EXPECT_EQ(LoadText(TextId::NothingToUndo), "Nothing to undo!");
     for (const int none : {0, 3101, 65535})
-        EXPECT_EQ(LoadText(static_cast<std::uint16_t>(none)), "") << none;
+        EXPECT_EQ(LoadText(static_cast<TextId>(none)), "") << none;
 }
 
 TEST(Strings, PlacesAreFilledInTurn) {
@@ -20,7 +22,7 @@ TEST(Strings, PlacesAreFilledInTurn) {
     EXPECT_EQ(FillText("%s-%s", {"1"}), "1-");
     EXPECT_EQ(FillText("none", {"1", "2"}), "none");
     EXPECT_EQ(FillText("100%% %x %%s 5%", {"z"}), "100%% %x %%s 5%");
-    EXPECT_EQ(FillText(4130, {"VEXA", "12"}), "Unexpected Vexa error at File: VEXA Line: 12");
+    EXPECT_EQ(FillText(TextId::UnexpectedError, {"VEXA", "12"}), "Unexpected Vexa error at File: VEXA Line: 12");
 }
 
 TEST(Ascii, LeadingIntegersStopAtTheNearestNumber) {

@@ -66,7 +66,7 @@ TEST_F(JumpModels, DroppingTellsTheNumber) {
     view_.dropBookmark(9);
     EXPECT_EQ(notices_.statuses.back(), (StatusNotice{"Bookmark '9' dropped", true, false}));
     view_.dropBookmark(10);
-    EXPECT_EQ(notices_.lastStatus(), std::string(LoadText(4148)));
+    EXPECT_EQ(notices_.lastStatus(), std::string(LoadText(TextId::BadBookmark)));
 }
 
 TEST_F(JumpModels, BookmarksAreGoneWithTheTextTheyWereIn) {

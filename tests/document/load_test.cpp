@@ -74,7 +74,7 @@ TEST_F(Load, ALongLineWithoutABlankIsSplitFiveCharactersBeforeTheReadsEnd) {
     EXPECT_EQ(lines(), (Lines{std::string(294, 'a'), std::string(106, 'b'), "next"}));
     EXPECT_TRUE(document_.areLinesWrapped());
     ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(3113)), "Vexa 95", BoxButtons::Ok}));
+    EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(TextId::LinesWrapped)), "Vexa 95", BoxButtons::Ok}));
 }
 
 TEST_F(Load, ALongLineIsSplitBehindItsLastBlank) {
@@ -134,7 +134,7 @@ TEST_F(Load, ExactlyTheLimitOfLinesIsWhole) {
     EXPECT_TRUE(document_.isTruncated());
     EXPECT_EQ(document_.lineCount(LastUsed::Plain), 90000);
     ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(3106)), "Vexa 95", BoxButtons::Ok}));
+    EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(TextId::FileTooLarge)), "Vexa 95", BoxButtons::Ok}));
 }
 
 TEST_F(Load, TheStoreGrowsInLargeStepsDuringALoadOnly) {

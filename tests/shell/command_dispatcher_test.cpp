@@ -25,9 +25,9 @@ class CommandDispatcherTest : public ::testing::Test {
 };
 
 TEST_F(CommandDispatcherTest, CommandWithoutAHandlerCannotRunAndSaysNothing) {
-    EXPECT_FALSE(dispatcher.CanRun(CommandId{203}));
-    EXPECT_FALSE(dispatcher.Dispatch(CommandId{203}));
-    EXPECT_FALSE(dispatcher.Dispatch(CommandId{200}));
+    EXPECT_FALSE(dispatcher.CanRun(CommandId::FileSave));
+    EXPECT_FALSE(dispatcher.Dispatch(CommandId::FileSave));
+    EXPECT_FALSE(dispatcher.Dispatch(CommandId::FileNew));
     EXPECT_TRUE(notices.statuses.empty());
 }
 
@@ -49,13 +49,13 @@ TEST_F(CommandDispatcherTest, MissingDocumentIsToldAndNothingRuns) {
 }
 
 TEST_F(CommandDispatcherTest, WindowCommandsAndOtherActiveWindowsAreIgnoredSilently) {
-    dispatcher.RegisterCommand(CommandId{601}, note());
-    EXPECT_FALSE(dispatcher.Dispatch(CommandId{601}));
+    dispatcher.RegisterCommand(CommandId::Cascade, note());
+    EXPECT_FALSE(dispatcher.Dispatch(CommandId::Cascade));
     hasWindow = true;  // a window without a document
-    dispatcher.RegisterCommand(CommandId{302}, note());
-    EXPECT_FALSE(dispatcher.Dispatch(CommandId{302}));
+    dispatcher.RegisterCommand(CommandId::Cut, note());
+    EXPECT_FALSE(dispatcher.Dispatch(CommandId::Cut));
     EXPECT_TRUE(notices.statuses.empty());
-    EXPECT_TRUE(dispatcher.Dispatch(CommandId{601}));
+    EXPECT_TRUE(dispatcher.Dispatch(CommandId::Cascade));
     EXPECT_EQ(ran, std::vector<int>{601});
 }
 
@@ -63,29 +63,29 @@ TEST_F(CommandDispatcherTest, SharedHandlerIsToldWhichCommandRuns) {
     hasWindow = hasDocument = true;
     for (const auto id : {std::uint16_t{436}, std::uint16_t{437}, std::uint16_t{203}})
         dispatcher.RegisterCommand(CommandId{id}, note());
-    EXPECT_TRUE(dispatcher.Dispatch(CommandId{437}));
-    EXPECT_TRUE(dispatcher.Dispatch(CommandId{203}));
+    EXPECT_TRUE(dispatcher.Dispatch(CommandId::Tool6));
+    EXPECT_TRUE(dispatcher.Dispatch(CommandId::FileSave));
     EXPECT_EQ(ran, (std::vector<int>{437, 203}));
 }
 
 TEST_F(CommandDispatcherTest, ToggleIsCheckedAsItsQuerySays) {
     bool shown = true;
     dispatcher.RegisterToggle(
-        CommandId{451}, [&](CommandId) { shown = !shown; }, [&] { return shown; });
-    EXPECT_TRUE(dispatcher.IsChecked(CommandId{451}));
-    dispatcher.Dispatch(CommandId{451});
-    EXPECT_FALSE(dispatcher.IsChecked(CommandId{451}));
-    EXPECT_FALSE(dispatcher.IsChecked(CommandId{450}));
+        CommandId::ToggleStatusBar, [&](CommandId) { shown = !shown; }, [&] { return shown; });
+    EXPECT_TRUE(dispatcher.IsChecked(CommandId::ToggleStatusBar));
+    dispatcher.Dispatch(CommandId::ToggleStatusBar);
+    EXPECT_FALSE(dispatcher.IsChecked(CommandId::ToggleStatusBar));
+    EXPECT_FALSE(dispatcher.IsChecked(CommandId::ToggleToolBar));
 }
 
 TEST_F(CommandDispatcherTest, HandlerMayReplaceItselfWhileItRuns) {
     std::string order;
-    dispatcher.RegisterCommand(CommandId{200}, [&, kept = std::string("first")](CommandId) {
-        dispatcher.RegisterCommand(CommandId{200}, [&](CommandId) { order += "second"; });
+    dispatcher.RegisterCommand(CommandId::FileNew, [&, kept = std::string("first")](CommandId) {
+        dispatcher.RegisterCommand(CommandId::FileNew, [&](CommandId) { order += "second"; });
         order += kept;
     });
-    dispatcher.Dispatch(CommandId{200});
-    dispatcher.Dispatch(CommandId{200});
+    dispatcher.Dispatch(CommandId::FileNew);
+    dispatcher.Dispatch(CommandId::FileNew);
     EXPECT_EQ(order, "firstsecond");
 }
 

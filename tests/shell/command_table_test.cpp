@@ -57,8 +57,8 @@ TEST(CommandTable, IdsAreUniqueAndAllButContextAndInstalledCommandsHaveAHelpText
     std::set<CommandId> seen;
     for (const CommandRow& row : Commands()) {
         EXPECT_TRUE(seen.insert(row.id).second) << static_cast<int>(row.id);
-        const bool isContextCommand = row.id >= CommandId{800} && row.id < CommandId{900};
-        const bool isInstalled = row.menuText.empty() && row.id < CommandId{800};
+        const bool isContextCommand = row.id >= CommandId::ToggleCase && row.id < CommandId::MatchingBracket;
+        const bool isInstalled = row.menuText.empty() && row.id < CommandId::ToggleCase;
         EXPECT_EQ(row.statusText.empty(), isContextCommand || isInstalled) << static_cast<int>(row.id);
         EXPECT_EQ(FindCommand(row.id), &row);
     }

@@ -86,7 +86,7 @@ TEST_F(FileCommandsTest, WhatCannotBeOpenedIsToldWithItsBaseName) {
     disk_.makeDirectory("SUB");
     EXPECT_FALSE(commands_.open(document_, disk_.path("SUB")));
     ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0], (BoxNotice{FillText(3108, {"SUB"}), "Vexa Error", BoxButtons::Ok}));
+    EXPECT_EQ(notices_.boxes[0], (BoxNotice{FillText(TextId::CannotOpenFile, {"SUB"}), "Vexa Error", BoxButtons::Ok}));
 }
 
 TEST_F(FileCommandsTest, AnUnmodifiedDocumentIsNotWrittenButCountsAsSaved) {
@@ -101,7 +101,7 @@ TEST_F(FileCommandsTest, ATruncatedDocumentIsSavedOnlyUnderAName) {
     type("y");
     EXPECT_FALSE(commands_.save(document_));
     ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0].text, FillText(3107, {"BIG.TXT"}));
+    EXPECT_EQ(notices_.boxes[0].text, FillText(TextId::FileTruncated, {"BIG.TXT"}));
     questions_.answer = disk_.path("SMALL.TXT");
     EXPECT_TRUE(commands_.saveAs(document_));
     EXPECT_FALSE(document_.isTruncated());
@@ -114,10 +114,10 @@ TEST_F(FileCommandsTest, AFailedSaveIsToldAndKeepsNameAndChanges) {
     disk_.setReadOnly("A.TXT", true);
     EXPECT_FALSE(commands_.save(document_));
     ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0].text, FillText(3109, {"A.TXT"}));
+    EXPECT_EQ(notices_.boxes[0].text, FillText(TextId::CannotWriteFile, {"A.TXT"}));
     questions_.answer = disk_.path("NODIR\\B.TXT");
     EXPECT_FALSE(commands_.saveAs(document_));
-    EXPECT_EQ(notices_.boxes.back().text, FillText(3109, {"B.TXT"}));
+    EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::CannotWriteFile, {"B.TXT"}));
     EXPECT_EQ(document_.fullPath(), disk_.path("A.TXT"));
     EXPECT_TRUE(document_.isModified());
     EXPECT_TRUE(questions_.newName.empty());
@@ -145,7 +145,7 @@ TEST_F(FileCommandsTest, ClosingAsksAboutChanges) {
     type("x");
     notices_.answers = {BoxAnswer::Cancel};
     EXPECT_FALSE(commands_.queryClose(document_));
-    EXPECT_EQ(notices_.boxes.back().text, FillText(3100, {disk_.path("A.TXT")}));
+    EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::SaveChanges, {disk_.path("A.TXT")}));
     EXPECT_EQ(notices_.boxes.back().buttons, BoxButtons::YesNoCancel);
 
     notices_.answers = {BoxAnswer::Yes};
@@ -167,7 +167,7 @@ TEST_F(FileCommandsTest, ASafetyCopyThatACrashLeftIsAnnounced) {
     disk_.put("A.TXT.vx0", "the old text");
     openFile("A.TXT", "half");
     ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0].text, FillText(3120, {"A.TXT", disk_.path("A.TXT.vx0")}));
+    EXPECT_EQ(notices_.boxes[0].text, FillText(TextId::SaveInterrupted, {"A.TXT", disk_.path("A.TXT.vx0")}));
     EXPECT_TRUE(disk_.has("A.TXT.vx0"));
 }
 

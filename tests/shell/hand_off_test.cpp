@@ -102,7 +102,7 @@ TEST_F(HandOffTest, AFileThatCannotBeWrittenIsToldAndTheEditorStarts) {
     SetFileFault([](FileStep step) { return step == FileStep::Close; });
     EXPECT_FALSE(handOff("a.c"));
     SetFileFault(nullptr);
-    const test::BoxNotice told{FillText(4130, {"VEXA", "95"}), "Vexa Error", BoxButtons::Ok};
+    const test::BoxNotice told{FillText(TextId::UnexpectedError, {"VEXA", "95"}), "Vexa Error", BoxButtons::Ok};
     EXPECT_EQ(notices_.boxes, (std::vector{told, told}));
 }
 
@@ -139,7 +139,7 @@ TEST_F(HandOffTest, AnyBytesAreReadAsFileAndLine) {
 
 TEST_F(HandOffTest, AMissingFileIsTold) {
     EXPECT_EQ(ReadHandOff(notices_), std::nullopt);
-    const test::BoxNotice told{FillText(4130, {"VXEAPP01", "2173"}), "Vexa Error", BoxButtons::Ok};
+    const test::BoxNotice told{FillText(TextId::UnexpectedError, {"VXEAPP01", "2173"}), "Vexa Error", BoxButtons::Ok};
     EXPECT_EQ(notices_.boxes, std::vector{told});
 }
 

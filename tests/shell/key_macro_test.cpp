@@ -20,10 +20,10 @@ class KeyMacroTest : public testing::Test, private MacroTarget {
     KeyMacroTest() {
         document_.newEmpty();
         dispatcher_.setRecorder([this](CommandId id) { macro_.recordCommand(id); });
-        dispatcher_.RegisterCommand(CommandId{312}, [this](CommandId) { view_.selectAll(); });
-        dispatcher_.RegisterCommand(CommandId{300}, [this](CommandId) { view_.undo(); });
-        dispatcher_.RegisterCommand(CommandId{425}, [this](CommandId) { macro_.Play(); });
-        dispatcher_.RegisterCommand(CommandId{426}, [this](CommandId) { macro_.toggleRecording(); });
+        dispatcher_.RegisterCommand(CommandId::SelectAll, [this](CommandId) { view_.selectAll(); });
+        dispatcher_.RegisterCommand(CommandId::Undo, [this](CommandId) { view_.undo(); });
+        dispatcher_.RegisterCommand(CommandId::PlayMacro, [this](CommandId) { macro_.Play(); });
+        dispatcher_.RegisterCommand(CommandId::RecordMacro, [this](CommandId) { macro_.toggleRecording(); });
     }
     void press(KeyEvent event) {
         if (view_.key(event)) macro_.recordKey(event);
@@ -104,7 +104,7 @@ TEST_F(KeyMacroTest, EachRecordedCommandRunsThroughTheDispatcher) {
     type("x");
     run(426);
     ASSERT_EQ(macro_.steps().size(), 4u);
-    EXPECT_EQ(macro_.steps()[0], KeyMacroStep(CommandId{312}));
+    EXPECT_EQ(macro_.steps()[0], KeyMacroStep(CommandId::SelectAll));
     type("yz");
     run(425);
     EXPECT_EQ(text(), "x");

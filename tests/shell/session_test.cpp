@@ -26,8 +26,8 @@ class Session : public testing::Test {
 // ---- recent files ------------------------------------------------------------------------------------------------
 
 using Rows = std::vector<RecentFileRow>;
-constexpr CommandId k210{210};
-constexpr CommandId k211{211};
+constexpr CommandId k210 = CommandId::FirstRecentFile;
+constexpr CommandId k211 = CommandId::SecondRecentFile;
 
 TEST_F(Session, TheTwoFilesClosedLastAreInTheMenu) {
     RecentFiles recent;

@@ -86,13 +86,13 @@ TEST_F(ClipboardTest, TextOfAnotherProgramIsPastedAsWholeLinesInOneUndoStep) {
     PutForeignText("x\r\ny\r\nz");
     editor.keys("{Down}");
     ASSERT_TRUE(editor.showsPosition(2, 1));
-    editor.command(304);
+    editor.command(CommandId::Paste);
     EXPECT_TRUE(editor.showsPosition(4, 1));
     const std::string expected = "one 1\r\nx\r\ny\r\ntwo 2\r\nthree 3\r\n";
     EXPECT_EQ(saved(editor, "a.txt", expected), expected);
     editor.keys("{Shift+End}");
     EXPECT_TRUE(editor.showsPosition(4, 6));
-    editor.command(302);
+    editor.command(CommandId::Cut);
     EXPECT_TRUE(clipboardHas("two 2"));
     editor.keys("{Ctrl+Z}{Ctrl+End}");
     EXPECT_TRUE(editor.showsPosition(5, 8));
@@ -107,7 +107,7 @@ TEST_F(ClipboardTest, ThousandLinesAreTheMostThatIsCopied) {
     PutForeignText("before");
     editor.keys("{Alt+L}{Ctrl+End}");
     ASSERT_TRUE(editor.showsPosition(1002, 5));
-    editor.command(303);
+    editor.command(CommandId::Copy);
     const HWND box = editor.dialog("Vexa Error");
     ASSERT_TRUE(box);
     EXPECT_NE(BoxText(box).find("This version can not copy more that 1000 lines"), std::string::npos);
@@ -123,9 +123,9 @@ TEST_F(ClipboardTest, ClipboardThatAnotherProgramHoldsLosesNothing) {
     const Editor editor(folder, {"a.txt"});
     {
         const OpenedClipboard held;
-        editor.command(302);
+        editor.command(CommandId::Cut);
         EXPECT_TRUE(editor.showsMessage("The clipboard is in use by another program!"));
-        EXPECT_TRUE(editor.runCommand(304));
+        EXPECT_TRUE(editor.runCommand(CommandId::Paste));
     }
     EXPECT_TRUE(editor.hasCaption("a.txt]")) << "nothing has been cut or pasted";
 }

@@ -7,10 +7,6 @@
 namespace vexa::test {
 namespace {
 
-constexpr WORD kClose = 202;
-constexpr WORD kExit = 208;
-constexpr WORD kCloseAll = 605;
-
 class CloseTest : public ::testing::Test {
   protected:
     CloseTest() {
@@ -29,7 +25,7 @@ TEST_F(CloseTest, ChangedDocumentAsksAndEachAnswerIsFollowed) {
     editor.keys("new ");
     ASSERT_TRUE(editor.showsPosition(1, 5));
 
-    editor.command(kClose);
+    editor.command(CommandId::FileClose);
     HWND box = editor.dialog("Vexa 95");
     ASSERT_TRUE(box);
     EXPECT_EQ(BoxText(box), question("a.txt"));
@@ -51,7 +47,7 @@ TEST_F(CloseTest, NoThrowsTheChangesAwayAndUnchangedDocumentsAskNothing) {
     const Editor editor(folder, {"a.txt", "b.txt"});
     editor.keys("new ");
     ASSERT_TRUE(editor.showsPosition(1, 5));
-    editor.command(kCloseAll);
+    editor.command(CommandId::CloseAll);
     const HWND box = editor.dialog("Vexa 95");
     ASSERT_TRUE(box);
     EXPECT_EQ(BoxText(box), question("b.txt"));
@@ -78,7 +74,7 @@ TEST_F(CloseTest, FrameAsksForEachDocumentAndStaysWhenOneRefuses) {
     EXPECT_TRUE(editor.hasCaption("b.txt *]"));
     EXPECT_EQ(editor.documents().size(), 1u);
 
-    editor.command(kExit);
+    editor.command(CommandId::Exit);
     ASSERT_TRUE(box = editor.dialog("Vexa 95"));
     ASSERT_TRUE(Press(box, IDYES));
     EXPECT_TRUE(editor.ends());
@@ -111,7 +107,7 @@ TEST_F(CloseTest, NothingClosesWhileAQuestionIsOpen) {
     const Editor editor(folder, {"a.txt"});
     editor.keys("x");
     ASSERT_TRUE(editor.hasCaption("*"));
-    editor.command(kClose);
+    editor.command(CommandId::FileClose);
     const HWND box = editor.dialog("Vexa 95");
     ASSERT_TRUE(box);
     EXPECT_FALSE(SendMessageA(editor.frame(), WM_QUERYENDSESSION, 0, 0));
@@ -126,7 +122,7 @@ TEST_F(CloseTest, SettingsAreKeptAtTheEnd) {
         const Editor editor(folder, {"a.txt"});
         editor.keys("{Alt+I}");
         ASSERT_TRUE(editor.showsMode("OVR"));
-        editor.command(451);  // the status bar goes
+        editor.command(CommandId::ToggleStatusBar);
         editor.requestClose();
         ASSERT_TRUE(editor.ends());
     }
@@ -136,7 +132,7 @@ TEST_F(CloseTest, SettingsAreKeptAtTheEnd) {
     const Editor again(folder, {"a.txt"});
     again.takePicture("no-status-bar");
     EXPECT_FALSE(IsWindowVisible(ChildrenOf(again.frame(), "StatusBarCL").at(0)));
-    again.command(451);
+    again.command(CommandId::ToggleStatusBar);
     EXPECT_TRUE(WaitUntil([&] { return IsWindowVisible(ChildrenOf(again.frame(), "StatusBarCL").at(0)); }));
 }
 

@@ -22,7 +22,7 @@ class ColourSetup : public ::testing::Test {
     ColourSetup() { folder.put("a.cpp", kSource); }
 
     static HWND open(const Editor& editor) {
-        editor.command(401);
+        editor.command(CommandId::ChangeColours);
         return editor.dialog("Color Setup");
     }
     static std::string preset(HWND dialog) { return TextOf(ChildrenOf(dialog, "ComboBox").at(0)); }
@@ -86,7 +86,7 @@ TEST_F(ColourSetup, UpdateKeepsTheColoursForThisSessionAndTheNext) {
         ASSERT_TRUE(again);
         EXPECT_EQ(preset(again), "Black Vexa");
         ASSERT_TRUE(Press(again, IDCANCEL));
-        editor.command(200);
+        editor.command(CommandId::FileNew);
         ASSERT_TRUE(editor.hasCaption("untitled.txt"));
         EXPECT_TRUE(ShowsBackground(editor.activePane(), kBlack)) << "in a new document, too";
         editor.requestClose();

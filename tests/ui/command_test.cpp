@@ -12,12 +12,12 @@ constexpr const char* kNoOpenFile = "Action can only be performed on an open fil
 TEST(Command, WithoutADocumentKeysAndCommandsSaySo) {
     const TestFolder folder;
     const Editor editor(folder);
-    editor.command(202);
+    editor.command(CommandId::FileClose);
     ASSERT_TRUE(WaitUntil([&] { return editor.documents().empty(); }));
     editor.keys("{Alt+W}");  // its menu item is greyed, but the key is told why
     EXPECT_TRUE(editor.showsMessage(kNoOpenFile));
     editor.takePicture("no-open-file");
-    editor.command(200);
+    editor.command(CommandId::FileNew);
     ASSERT_TRUE(editor.hasCaption("[untitled.txt]"));
     editor.keys("x");
     EXPECT_TRUE(editor.showsMessage(""));
@@ -28,7 +28,7 @@ TEST(Command, CommandsThatAreNotThereYetDoNothing) {
     const TestFolder folder;
     const Editor editor(folder);
     for (const int id : {452, 430, 500})
-        editor.command(static_cast<WORD>(id));
+        editor.command(static_cast<CommandId>(id));
     editor.keys("{F10}x");
     EXPECT_TRUE(editor.hasCaption("[untitled.txt *]"));
     EXPECT_FALSE(editor.hasDialog());
@@ -79,7 +79,7 @@ TEST(Command, KeysWithoutAMenuItemMoveInTheDocument) {
 TEST(Command, AboutBoxNamesTheProgram) {
     const TestFolder folder;
     const Editor editor(folder);
-    editor.command(707);
+    editor.command(CommandId::About);
     const HWND box = editor.dialog("About Vexa 95");
     ASSERT_TRUE(box);
     EXPECT_NE(BoxText(box).find("Vexa 95\nVersion "), std::string::npos);

@@ -62,11 +62,11 @@ TEST(Edit, CommandsOfTheEditMenuWorkOnTheActiveDocument) {
     const TestFolder folder;
     folder.put("a.txt", "one\r\ntwo\r\n");
     const Editor editor(folder, {"a.txt"});
-    editor.command(312);  // Select All
-    editor.command(305);  // Clear
+    editor.command(CommandId::SelectAll);
+    editor.command(CommandId::Clear);
     editor.keys("new");
     ASSERT_TRUE(editor.showsPosition(1, 4));
-    editor.command(203);
+    editor.command(CommandId::FileSave);
     EXPECT_EQ(folder.getOnce("a.txt", "new\r\n"), "new\r\n");
 }
 

@@ -210,8 +210,8 @@ bool Editor::answers() const {
     return SendMessageTimeoutA(frame_, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, nullptr);
 }
 
-bool Editor::runCommand(WORD id) const {
-    return SendMessageTimeoutA(frame_, WM_COMMAND, id, 0, SMTO_NORMAL, kPatience, nullptr);
+bool Editor::runCommand(CommandId id) const {
+    return SendMessageTimeoutA(frame_, WM_COMMAND, static_cast<WPARAM>(id), 0, SMTO_NORMAL, kPatience, nullptr);
 }
 
 void Editor::keys(const std::string& script) const {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/command_id.h"
 #include "ui/test_folder.h"
 #include "ui/wait.h"
 
@@ -72,9 +73,9 @@ class Editor {
 
     // Keys go to the window that has the focus, as from the keyboard.
     void keys(const std::string& script) const;
-    void command(WORD id) const { PostMessageA(frame_, WM_COMMAND, id, 0); }
+    void command(CommandId id) const { PostMessageA(frame_, WM_COMMAND, static_cast<WPARAM>(id), 0); }
     // Runs a command to its end; false when the editor does not answer.
-    bool runCommand(WORD id) const;
+    bool runCommand(CommandId id) const;
     // Whether the editor still takes messages.
     bool answers() const;
     void kill() { program_.kill(); }

@@ -8,8 +8,6 @@
 namespace vexa::test {
 namespace {
 
-constexpr WORD kElectricCommand = 405;
-
 std::string FileLine(const std::string& keyword, const std::string& expansion) {
     char line[400];
     std::snprintf(line, sizeof line, "%-10.10s\t%-2d\t%-300.300s\r\n", keyword.c_str(),
@@ -28,7 +26,7 @@ class ElectricTest : public ::testing::Test {
         EXPECT_EQ(folder.getOnce("a.c", expected), expected);
     }
     static HWND openDialog(const Editor& editor) {
-        editor.command(kElectricCommand);
+        editor.command(CommandId::ChangeElectric);
         const HWND dialog = editor.dialog("Electric Keyboard");
         EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == dialog; }));
         return dialog;

@@ -15,7 +15,7 @@ class Extensions : public ::testing::Test {
     Extensions() { folder.put("a.zzz", "frob\r\n"); }
 
     static HWND open(const Editor& editor) {
-        editor.command(406);
+        editor.command(CommandId::ChangeExtensions);
         return editor.dialog("File Extensions");
     }
     static HWND listOf(HWND dialog) { return ChildrenOf(dialog, "ListBox").at(0); }

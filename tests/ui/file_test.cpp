@@ -7,11 +7,6 @@
 namespace vexa::test {
 namespace {
 
-constexpr WORD kNew = 200;
-constexpr WORD kOpen = 201;
-constexpr WORD kSaveAs = 204;
-constexpr WORD kSaveAll = 205;
-
 TEST(File, WithoutANameThereIsANewDocumentWhoseFirstSaveAsksForOne) {
     const TestFolder folder;
     const Editor editor(folder);
@@ -32,7 +27,7 @@ TEST(File, CancelledSaveAsLeavesTheDocumentChanged) {
     const Editor editor(folder);
     editor.keys("fresh");
     ASSERT_TRUE(editor.showsPosition(1, 6));
-    editor.command(kSaveAs);
+    editor.command(CommandId::FileSaveAs);
     const HWND dialog = editor.dialog("Save As");
     ASSERT_TRUE(dialog);
     ASSERT_TRUE(Press(dialog, IDCANCEL));
@@ -96,7 +91,7 @@ TEST(File, OpenDialogOpensWhatIsNamedAndGoesToWhatIsOpen) {
         editor.takePicture(explorer ? "open-explorer" : "open-old");
         ASSERT_TRUE(EnterFileName(dialog, folder.path("my file.txt")));
         ASSERT_TRUE(editor.hasCaption("my file.txt]"));
-        editor.command(kOpen);
+        editor.command(CommandId::FileOpen);
         ASSERT_TRUE(dialog = editor.dialog("Open"));
         ASSERT_TRUE(EnterFileName(dialog, folder.path("A.TXT")));
         EXPECT_TRUE(editor.hasCaption("a.txt]"));
@@ -109,7 +104,7 @@ TEST(File, SeveralFilesAreOpenedAtOnce) {
     for (const char* name : {"a.txt", "b.txt", "c.txt"})
         folder.put(name, "x\r\n");
     const Editor editor(folder, {"c.txt"});
-    editor.command(kOpen);
+    editor.command(CommandId::FileOpen);
     const HWND dialog = editor.dialog("Open");
     ASSERT_TRUE(dialog);
     ASSERT_TRUE(EnterFileName(dialog, "a.txt b.txt"));
@@ -137,9 +132,9 @@ TEST(File, SaveAllWritesEveryChangedDocument) {
     const Editor editor(folder, {"a.txt", "b.txt"});
     editor.keys("2{Alt+N}1");
     ASSERT_TRUE(editor.hasCaption("a.txt *]"));
-    editor.command(kNew);
+    editor.command(CommandId::FileNew);
     ASSERT_TRUE(editor.hasCaption("[untitled.txt]"));
-    editor.command(kSaveAll);
+    editor.command(CommandId::FileSaveAll);
     ASSERT_TRUE(editor.showsMessage("Write successful."));
     EXPECT_FALSE(editor.hasDialog());
     EXPECT_EQ(folder.get("a.txt") + folder.get("b.txt"), "1a\r\n2b\r\n");

@@ -6,8 +6,6 @@
 namespace vexa::test {
 namespace {
 
-constexpr WORD kOpenInclude = 803;
-
 class IncludeTest : public ::testing::Test {
   protected:
     IncludeTest() {
@@ -38,7 +36,7 @@ TEST_F(IncludeTest, WhatIsNotFoundIsNamed) {
     editor.takePicture("include-not-found");
     editor.keys("{Down}");
     EXPECT_TRUE(editor.showsMessage(""));
-    editor.command(kOpenInclude);
+    editor.command(CommandId::OpenInclude);
     EXPECT_TRUE(editor.showsMessage("No file name at the cursor."));
 }
 

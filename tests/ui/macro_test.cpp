@@ -20,7 +20,7 @@ class MacroTest : public ::testing::Test {
         ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
     }
     std::string saved(const Editor& editor, const std::string& expected) const {
-        editor.command(203);
+        editor.command(CommandId::FileSave);
         return folder.getOnce("a.txt", expected);
     }
 
@@ -76,7 +76,7 @@ TEST_F(MacroTest, WhatCannotBeDoneIsRefusedInTheStatusBar) {
     editor.keys("{F7}{F8}");
     EXPECT_TRUE(editor.showsMessage("Can't playback macro while recording!"));
     editor.takePicture("macro-refused");
-    editor.command(450);
+    editor.command(CommandId::ToggleToolBar);
     EXPECT_TRUE(editor.showsMessage("You can't record this action as a macro!"));
     editor.keys("{F7}");
     EXPECT_TRUE(editor.showsMessage("Macro recording was canceled"));

@@ -120,7 +120,7 @@ TEST_F(MouseTest, MarginShowsBookmarksAndChangedLines) {
     editor.keys("{Down*3}{Alt+4}{Down*2}{End}x{Enter}");
     ASSERT_TRUE(editor.showsPosition(7, 5));
     editor.takePicture("margin");
-    editor.command(404);
+    editor.command(CommandId::ChangeOptions);
     const HWND dialog = editor.dialog("Editor Options");
     ASSERT_TRUE(dialog);
     RECT before;

@@ -38,7 +38,7 @@ bool IsCheckedAt(HWND dialog, const std::string& label) {
 class OptionsTest : public ::testing::Test {
   protected:
     static HWND open(const Editor& editor) {
-        editor.command(404);
+        editor.command(CommandId::ChangeOptions);
         return editor.dialog("Editor Options");
     }
     void expectSetting(const std::string& line) const {

@@ -16,7 +16,7 @@ enum Field { kLeft, kRight, kTop, kBottom };
 class PrintTest : public ::testing::Test {
   protected:
     static HWND setup(const Editor& editor) {
-        editor.command(206);
+        editor.command(CommandId::PrintSetup);
         return editor.dialog("Page Setup");
     }
     static HWND field(HWND dialog, Field which) { return ChildrenOf(dialog, "Edit").at(which); }
@@ -201,7 +201,7 @@ TEST_F(PrinterTest, MarginsWithoutRoomAndEmptyDocumentsAreRefused) {
     fill(setupDialog, kLeft, "1");
     fill(setupDialog, kRight, "1");
     ASSERT_TRUE(Press(setupDialog, IDOK));
-    editor.command(200);
+    editor.command(CommandId::FileNew);
     ASSERT_TRUE(editor.hasCaption("[untitled.txt]"));
     dialog = askToPrint(editor);
     ASSERT_TRUE(dialog && Press(dialog, IDOK));

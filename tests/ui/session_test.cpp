@@ -53,7 +53,7 @@ TEST_F(SessionTest, SameFilesComeBackAtTheSameLines) {
         again.keys("{Alt+N}");
         ASSERT_TRUE(again.hasCaption("b.txt]"));
         EXPECT_TRUE(again.showsPosition(40, 1));
-        again.command(605);
+        again.command(CommandId::CloseAll);
         ASSERT_TRUE(has(again, 0));
         end(again);
     }
@@ -90,16 +90,16 @@ TEST_F(SessionTest, ClosedFilesStandInTheFileMenuAndOpenFromIt) {
     {
         const Editor editor(folder, {"a.txt", "b.txt"});
         ASSERT_TRUE(editor.hasCaption("b.txt]"));
-        editor.command(202);
+        editor.command(CommandId::FileClose);
         ASSERT_TRUE(editor.hasCaption("a.txt]"));
-        editor.command(202);
+        editor.command(CommandId::FileClose);
         ASSERT_TRUE(has(editor, 0));
         editor.keys("{Alt+F}{Up}");
         EXPECT_TRUE(editor.showsMessage("Shutdown Vexa for Windows"));
         editor.takePicture("recent-files");
         editor.keys("{Up}{Enter}");  // just above: the file that was closed last
         EXPECT_TRUE(editor.hasCaption("a.txt]"));
-        editor.command(202);
+        editor.command(CommandId::FileClose);
         ASSERT_TRUE(has(editor, 0));
         end(editor);
     }
@@ -159,7 +159,7 @@ TEST_F(SessionTest, KilledEditorLosesNothingThatWasSaved) {
         ASSERT_TRUE(editor.showsMessage("Write successful."));
         editor.keys("lost ");
         ASSERT_TRUE(editor.showsPosition(1, 12));
-        editor.command(202);  // killed with a question open
+        editor.command(CommandId::FileClose);
         ASSERT_TRUE(editor.dialog("Vexa 95"));
         editor.kill();
     }

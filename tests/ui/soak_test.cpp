@@ -18,8 +18,35 @@ unsigned FromEnvironment(const char* name, unsigned otherwise) {
 }
 
 // Commands that ask nothing, close nothing and write no file.
-constexpr WORD kCommands[] = {300, 300, 301, 302, 303, 304, 305, 312, 307, 308, 425, 426, 450, 451, 600,
-                              601, 602, 603, 604, 606, 607, 800, 801, 802, 900, 901, 902, 903, 904};
+constexpr CommandId kCommands[] = {CommandId::Undo,
+                                   CommandId::Undo,
+                                   CommandId::Redo,
+                                   CommandId::Cut,
+                                   CommandId::Copy,
+                                   CommandId::Paste,
+                                   CommandId::Clear,
+                                   CommandId::SelectAll,
+                                   CommandId::FindNext,
+                                   CommandId::FindPrevious,
+                                   CommandId::PlayMacro,
+                                   CommandId::RecordMacro,
+                                   CommandId::ToggleToolBar,
+                                   CommandId::ToggleStatusBar,
+                                   CommandId::ArrangeIcons,
+                                   CommandId::Cascade,
+                                   CommandId::Tile,
+                                   CommandId::TileVertically,
+                                   CommandId::TileHorizontally,
+                                   CommandId::NextWindow,
+                                   CommandId::PreviousWindow,
+                                   CommandId::ToggleCase,
+                                   CommandId::LowerCase,
+                                   CommandId::UpperCase,
+                                   CommandId::MatchingBracket,
+                                   CommandId::WindowStart,
+                                   CommandId::WindowEnd,
+                                   CommandId::DocumentStart,
+                                   CommandId::DocumentEnd};
 
 constexpr const char* kKeys[] = {
     "word ",       "{Enter}",      "x",        "{Backspace}",      "{Del}",
@@ -74,21 +101,22 @@ class Soak : public ::testing::Test {
     static bool hasEndedPlaying(const Editor& editor) {
         static const std::set<std::string> kAnswers = {"Macro playback complete", "No macro recorded!",
                                                        "Can't playback macro while recording!"};
-        return WaitUntil([&] { return editor.runCommand(425) && kAnswers.contains(editor.message()); });
+        return WaitUntil(
+            [&] { return editor.runCommand(CommandId::PlayMacro) && kAnswers.contains(editor.message()); });
     }
     // Undoes everything in the active document, writes it and gives back what was written.
     std::string undone(const Editor& editor, const std::string& name) {
         editor.keys("{Esc}");
         EXPECT_TRUE(hasUsedKeys(editor));
         for (int i = 0; i < kMostSteps && editor.message() != "Nothing to undo!"; ++i)
-            editor.runCommand(300);
+            editor.runCommand(CommandId::Undo);
         // Only what has been changed is written.
         folder.put(name, "not what was loaded");
         if (editor.mode() == "OVR") editor.keys("{Alt+I}");
         editor.keys("{Ctrl+Home}z{Backspace}");
         EXPECT_TRUE(hasUsedKeys(editor));
         EXPECT_TRUE(TextOf(editor.activeDocument()).ends_with(" *"));
-        editor.command(203);
+        editor.command(CommandId::FileSave);
         EXPECT_TRUE(editor.showsMessage("Write successful.")) << editor.message();
         return folder.get(name);
     }
@@ -122,7 +150,7 @@ TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
     for (int i = 0; i < 2; ++i) {
         const std::string name = TextOf(editor.activeDocument()).find("a.c") != std::string::npos ? "a.c" : "b.c";
         EXPECT_EQ(undone(editor, name), text) << name;
-        editor.runCommand(606);
+        editor.runCommand(CommandId::NextWindow);
     }
     EXPECT_EQ(folder.get("a.c") + folder.get("b.c"), text + text);
     EXPECT_GT(done, duration / 1000 * 10);

@@ -34,7 +34,7 @@ TEST(ToolBar, IsHiddenAndShownByItsCommandAndKeptSo) {
         RECT high, low;
         ASSERT_TRUE(IsWindowVisible(bar));
         GetWindowRect(editor.activePane(), &low);
-        editor.command(450);
+        editor.command(CommandId::ToggleToolBar);
         EXPECT_TRUE(WaitUntil([&] { return !IsWindowVisible(bar); }));
         EXPECT_TRUE(WaitUntil([&] {
             GetWindowRect(editor.activePane(), &high);
@@ -46,7 +46,7 @@ TEST(ToolBar, IsHiddenAndShownByItsCommandAndKeptSo) {
     }
     const Editor again(folder);
     EXPECT_FALSE(IsWindowVisible(ToolBarOf(again)));
-    again.command(450);
+    again.command(CommandId::ToggleToolBar);
     EXPECT_TRUE(WaitUntil([&] { return IsWindowVisible(ToolBarOf(again)); }));
 }
 
@@ -58,14 +58,14 @@ TEST(ToolBar, ButtonsAreGreyedWithWhatTheyNeed) {
     const int needNothing[] = {200, 201, 425, 426, 701};
     for (const int id : needDocument)
         EXPECT_TRUE(IsButtonEnabled(bar, id)) << id;
-    editor.command(202);
+    editor.command(CommandId::FileClose);
     EXPECT_TRUE(WaitUntil([&] { return !IsButtonEnabled(bar, 203); }));
     for (const int id : needDocument)
         EXPECT_FALSE(IsButtonEnabled(bar, id)) << id;
     for (const int id : needNothing)
         EXPECT_TRUE(IsButtonEnabled(bar, id)) << id;
     editor.takePicture("toolbar-without-document");
-    editor.command(200);
+    editor.command(CommandId::FileNew);
     EXPECT_TRUE(WaitUntil([&] { return IsButtonEnabled(bar, 203); }));
 }
 

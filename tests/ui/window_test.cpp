@@ -49,18 +49,18 @@ TEST_F(WindowTest, WindowsAreArrangedByTheWindowMenu) {
     const Editor editor(folder, {"a.txt", "b.txt"});
     ASSERT_TRUE(WaitUntil([&] { return editor.documents().size() == 2; }));
     EXPECT_EQ(editor.caption(), "Vexa 95");
-    editor.command(604);  // one above the other
+    editor.command(CommandId::TileHorizontally);
     EXPECT_TRUE(WaitUntil([&] {
         const auto at = places(editor);
         return at[0].left == at[1].left && (at[0].bottom <= at[1].top || at[1].bottom <= at[0].top);
     }));
     editor.takePicture("tiled");
-    editor.command(603);  // side by side
+    editor.command(CommandId::TileVertically);
     EXPECT_TRUE(WaitUntil([&] {
         const auto at = places(editor);
         return at[0].top == at[1].top && (at[0].right <= at[1].left || at[1].right <= at[0].left);
     }));
-    editor.command(601);  // cascaded
+    editor.command(CommandId::Cascade);
     EXPECT_TRUE(WaitUntil([&] {
         const auto at = places(editor);
         return at[0].left != at[1].left && at[0].top != at[1].top;
