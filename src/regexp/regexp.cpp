@@ -90,7 +90,7 @@ bool RegExp::Execute(RegExp* program, const char* subject) {
     return Execute(program, subject != nullptr ? std::string_view(subject) : std::string_view());
 }
 
-bool RegExp::Execute(RegExp* program, std::string_view line) {
+bool RegExp::Execute(RegExp* program, std::string_view line, std::size_t from) {
     if (program == nullptr || line.data() == nullptr) {
         ReportRegExpError(kNullParameter);
         return false;
@@ -100,19 +100,19 @@ bool RegExp::Execute(RegExp* program, std::string_view line) {
         return false;
     }
     try {
-        return program->execute(line);
+        return program->execute(line, from);
     } catch (const std::bad_alloc&) {
         ReportRegExpError(kOutOfSpace);
         return false;
     }
 }
 
-bool RegExp::execute(std::string_view line) {
+bool RegExp::execute(std::string_view line, std::size_t from) {
     if (starts_[0] != nullptr) {
         starts_ = {};
         ends_ = {};
     }
-    const std::optional<Match> match = FindMatch(plan(), line);
+    const std::optional<Match> match = FindMatch(plan(), line, from);
     if (!match) return false;
     const auto firstEnd = match->saved.begin() + kPositions;
     std::copy(match->saved.begin(), firstEnd, starts_.begin());

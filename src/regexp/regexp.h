@@ -44,7 +44,8 @@ class RegExp {
     // when either is null, the program is damaged or memory runs out; the error hook is told.
     static bool Execute(RegExp* program, const char* subject);
     // The same for a line whose length is known. A NUL must follow the last character; a NUL inside ends the subject.
-    static bool Execute(RegExp* program, std::string_view line);
+    // Matches that begin before a position of the line are passed over; "^" and "\<" still see what stands before it.
+    static bool Execute(RegExp* program, std::string_view line, std::size_t from = 0);
 
     RegExp(const RegExp&) = delete;
     RegExp& operator=(const RegExp&) = delete;
@@ -67,7 +68,7 @@ class RegExp {
     RegExp(std::vector<std::uint8_t> program, regexp::Origin origin);
     void setOptimisations(bool startsWithStar);
     const regexp::Plan& plan();
-    bool execute(std::string_view line);
+    bool execute(std::string_view line, std::size_t from);
 
     std::array<const char*, kPositions> starts_{};
     std::array<const char*, kPositions> ends_{};

@@ -14,9 +14,10 @@ namespace {
 
 class Finder {
   public:
-    // No match begins before the place; for Start::Loop, no leading loop ends before the one after it.
-    Finder(const Plan& plan, const char* begin, const char* end, const char* place)
-        : plan_(plan), begin_(begin), end_(end), place_(place), machine_(plan, begin) {}
+    // Matches begin at `from` or after it, and none before the place; for Start::Loop, no leading loop ends before the
+    // one after it.
+    Finder(const Plan& plan, const char* begin, const char* from, const char* end, const char* place)
+        : plan_(plan), from_(from), end_(end), place_(place), machine_(plan, begin) {}
 
     std::optional<Match> find() {
         if (!search() || matchEnd_ == nullptr) return std::nullopt;
@@ -26,7 +27,7 @@ class Finder {
   private:
     // These are true when the search is over: with a match, or because the machine stopped.
     bool search() {
-        if (plan_.anchored) return tryAt(begin_);
+        if (plan_.anchored) return tryAt(place_);
         if (!plan_.hints) return searchEverywhere();
         switch (hints().start) {
             case Start::Literal:
@@ -69,7 +70,7 @@ class Finder {
     bool searchLoop() {
         const ByteTable& table = hints().loop.table;
         const PlanNode& loop = plan_.nodes[hints().loop.node];
-        const char* place = startOfLoop(place_, begin_);
+        const char* place = startOfLoop(place_, from_);
         for (;;) {
             while ((at(table, place) & (LeadingLoop::kFirst | LeadingLoop::kNul)) == 0)
                 ++place;
@@ -111,7 +112,7 @@ class Finder {
     }
 
     const Plan& plan_;
-    const char* begin_;
+    const char* from_;
     const char* end_;
     const char* place_;
     Machine machine_;
@@ -119,22 +120,23 @@ class Finder {
     const char* matchEnd_ = nullptr;
 };
 
-// The first place that is worth a try; null for a line that cannot match. Most lines end here.
-const char* FirstPlace(const Plan& plan, std::string_view line) {
-    const char* begin = line.data();
-    if (plan.anchored) return plan.nodes[plan.start].first.has(*begin) ? begin : nullptr;
+// The first place in the rest of a line that is worth a try; null for one that cannot match. Most lines end here.
+const char* FirstPlace(const Plan& plan, std::string_view rest, bool isWholeLine) {
+    const char* begin = rest.data();
+    if (plan.anchored) return isWholeLine && plan.nodes[plan.start].first.has(*begin) ? begin : nullptr;
     if (!plan.hints) return begin;
     const Hints& hints = *plan.hints;
-    if (!hints.required.empty() && hints.required.find(line) == nullptr) return nullptr;
-    if (hints.start == Start::Literal) return hints.leading.find(line);
-    return hints.filter.find(begin, begin + line.size());
+    if (!hints.required.empty() && hints.required.find(rest) == nullptr) return nullptr;
+    if (hints.start == Start::Literal) return hints.leading.find(rest);
+    return hints.filter.find(begin, begin + rest.size());
 }
 
 }  // namespace
 
-std::optional<Match> FindMatch(const Plan& plan, std::string_view line) {
+std::optional<Match> FindMatch(const Plan& plan, std::string_view line, std::size_t from) {
+    if (from > line.size()) return std::nullopt;
     const char* begin = line.data();
-    const char* place = FirstPlace(plan, line);
+    const char* place = FirstPlace(plan, line.substr(from), from == 0);
     if (place == nullptr) return std::nullopt;
     const void* nul = std::memchr(begin, '\0', line.size());
     const char* end = nul != nullptr ? static_cast<const char*>(nul) : begin + line.size();
@@ -143,7 +145,7 @@ std::optional<Match> FindMatch(const Plan& plan, std::string_view line) {
         ReportRegExpError(kOutOfSpace);
         return std::nullopt;
     }
-    return Finder(plan, begin, end, place).find();
+    return Finder(plan, begin, begin + from, end, place).find();
 }
 
 }  // namespace vexa::regexp

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -16,7 +17,8 @@ struct Match {
     std::array<const char*, 20> saved;
 };
 
-// A NUL must follow the line; one inside ends it. None also after an error, which has then been reported.
-std::optional<Match> FindMatch(const Plan& plan, std::string_view line);
+// The leftmost match that begins at or after a position of the line. A NUL must follow the line; one inside ends it.
+// None also after an error, which has then been reported.
+std::optional<Match> FindMatch(const Plan& plan, std::string_view line, std::size_t from);
 
 }  // namespace vexa::regexp

@@ -71,16 +71,11 @@ std::optional<Finder::Match> Finder::findFrom(Place start, LineSearch& search, S
     return std::nullopt;
 }
 
-void Finder::remember(const Match& match) {
+void Finder::show(const Match& match) {
     LastMatch& last = options_.lastMatch;
     last.line = match.line;
     last.column = match.inLine.column;
     last.length = match.inLine.length;
-}
-
-void Finder::show(const Match& match) {
-    remember(match);
-    LastMatch& last = options_.lastMatch;
     last.displayStart = document().toDisplay(match.line, last.column);
     last.displayEnd = last.displayStart + std::max(last.length, 1);
     LineEditor& editor = view_->editor();
@@ -109,7 +104,10 @@ std::int32_t Finder::replace() {
         replaceOne(*match);
         progress.countReplacement();
     }
-    if (match) view_->finish();
+    if (match) {
+        options_.forgetMatch();
+        view_->finish();
+    }
     stopped_ = progress.stopped();
     return progress.replacements();
 }
@@ -127,7 +125,6 @@ std::optional<Finder::Match> Finder::pendingMatch(LineSearch& search) {
 }
 
 void Finder::replaceOne(const Match& match) {
-    remember(match);
     const std::string text = options_.insertedText();
     LineEditor& editor = view_->editor();
     view_->marker().clear();
@@ -140,7 +137,6 @@ void Finder::replaceAll(Match match, LineSearch& search, SearchProgress& progres
     const std::string text = options_.insertedText();
     view_->marker().clear();
     for (std::optional<Match> next = match; next;) {
-        remember(*next);
         const CharColumn column = next->inLine.column;
         view_->editor().run<ReplaceRun>(next->line, column, next->inLine.length, text);
         progress.countReplacement();
@@ -154,7 +150,7 @@ std::optional<Finder::Match> Finder::findBehind(const Match& match, CharColumn e
                                                 SearchProgress& progress) {
     const std::string_view text = document().text(match.line);
     std::optional<LineMatch> next = search.find(text, end);
-    if (next == LineMatch{end, 0}) next = search.findBehind(text, end);
+    if (next == LineMatch{end, 0}) next = search.findAfter(text, end);
     if (next) return Match{match.line, *next};
     return findFrom({match.line + (options_.forward() ? 1 : -1), CharColumn(0)}, search, progress);
 }

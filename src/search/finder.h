@@ -56,7 +56,6 @@ class Finder {
     std::optional<Match> findFrom(Place start, LineSearch& search, SearchProgress& progress);
     std::optional<Match> findBehind(const Match& match, CharColumn end, LineSearch& search, SearchProgress& progress);
     std::optional<Match> pendingMatch(LineSearch& search);
-    void remember(const Match& match);
     void show(const Match& match);
     void replaceOne(const Match& match);
     void replaceAll(Match match, LineSearch& search, SearchProgress& progress);

@@ -25,7 +25,7 @@ std::optional<LineMatch> LineSearch::find(std::string_view text, CharColumn from
     if (isNowhere() || start > text.size()) return std::nullopt;
     const std::string_view subject = text.substr(start);
     LineMatch match;
-    const bool found = regular_ ? execute(program_.get(), subject, match) : findPlain(subject, match);
+    const bool found = regular_ ? findRegular(subject, 0, match) : findPlain(subject, match);
     if (!found) return std::nullopt;
     return LineMatch{from + match.column.value, match.length};
 }
@@ -46,23 +46,20 @@ bool LineSearch::isWholeWord(std::string_view subject, std::size_t at) const {
 }
 
 // The case mode belongs to all users of the engine, so it is set anew for each line.
-bool LineSearch::execute(RegExp* program, std::string_view subject, LineMatch& match) const {
+bool LineSearch::findRegular(std::string_view subject, std::size_t from, LineMatch& match) const {
     SetRegExpIgnoreCase(ignoreCase_);
-    if (!RegExp::Execute(program, subject)) return false;
-    const auto length = std::min<std::ptrdiff_t>(program->end(0) - program->start(0), RegexMatcher::kTextLimit);
-    match = {CharColumn(static_cast<std::int32_t>(program->start(0) - subject.data())),
+    if (!RegExp::Execute(program_.get(), subject, from)) return false;
+    const auto length = std::min<std::ptrdiff_t>(program_->end(0) - program_->start(0), RegexMatcher::kTextLimit);
+    match = {CharColumn(static_cast<std::int32_t>(program_->start(0) - subject.data())),
              static_cast<std::int32_t>(length)};
     return true;
 }
 
-// A character is matched before the text, and then taken off the match.
-std::optional<LineMatch> LineSearch::findBehind(std::string_view text, CharColumn column) {
-    if (!regular_ || column.value >= static_cast<std::int32_t>(text.size())) return std::nullopt;
-    if (!behindProgram_) behindProgram_ = RegExp::Compile((".(" + text_ + ")").c_str());
+std::optional<LineMatch> LineSearch::findAfter(std::string_view text, CharColumn column) {
+    if (!regular_ || isNowhere() || column.value >= static_cast<std::int32_t>(text.size())) return std::nullopt;
     LineMatch match;
-    const std::string_view subject = text.substr(static_cast<std::size_t>(column.value));
-    if (!behindProgram_ || !execute(behindProgram_.get(), subject, match)) return std::nullopt;
-    return LineMatch{column + match.column.value + 1, match.length - 1};
+    if (!findRegular(text.substr(static_cast<std::size_t>(column.value)), 1, match)) return std::nullopt;
+    return LineMatch{column + match.column.value, match.length};
 }
 
 }  // namespace vexa

@@ -34,15 +34,15 @@ class LineSearch {
 
     // The first match at or behind a column; none where the text ends before it. A NUL must follow the text.
     std::optional<LineMatch> find(std::string_view text, CharColumn from);
-    // The first match of a regular expression that begins behind a column of the text, with what stands at that column
+    // The first match of a regular expression that begins after a column of the text, with what stands at that column
     // seen as part of the line: neither "^" nor the start of a word are found where they are not.
-    std::optional<LineMatch> findBehind(std::string_view text, CharColumn column);
+    std::optional<LineMatch> findAfter(std::string_view text, CharColumn column);
 
   private:
     bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
     // Both are called for every line, and most lines have no match: a flag costs half of what an optional does.
     bool findPlain(std::string_view subject, LineMatch& match) const;
-    bool execute(RegExp* program, std::string_view subject, LineMatch& match) const;
+    bool findRegular(std::string_view subject, std::size_t from, LineMatch& match) const;
     bool isWholeWord(std::string_view subject, std::size_t at) const;
 
     const std::string text_;
@@ -54,7 +54,6 @@ class LineSearch {
     // The engine itself rather than a RegexMatcher, which looks its pattern up for each line. Matches have the same
     // limit.
     std::unique_ptr<RegExp> program_;
-    std::unique_ptr<RegExp> behindProgram_;  // made when it is first needed
 };
 
 }  // namespace vexa

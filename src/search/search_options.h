@@ -10,7 +10,7 @@
 
 namespace vexa {
 
-// The match that the last search found.
+// The match that the last search found; at no line when there is none.
 struct LastMatch {
     LineIndex line{-1};
     CharColumn column{-1};
@@ -74,6 +74,11 @@ class SearchOptions {
     void setPastLineEnd(bool past) { values_.pastLineEnd = past; }
 
     LastMatch lastMatch;
+    // After a replacement nothing is left that a search could step over.
+    void forgetMatch() {
+        lastMatch = {};
+        values_.matchPending = values_.pastLineEnd = false;
+    }
 
   private:
     Values values_;

@@ -29,7 +29,7 @@ void ExecuteDamaged(const std::string& pattern, const std::string& subject, std:
 
 }  // namespace
 
-// A byte of flags, then the pattern, the subject and the changes, each up to a NUL.
+// A byte with flags and the start of the search, then the pattern, the subject and the changes, each up to a NUL.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
     std::string_view rest(reinterpret_cast<const char*>(data) + 1, size - 1);
@@ -44,7 +44,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         ExecuteDamaged(pattern, subject, rest);
         return 0;
     }
-    const std::string difference = test::DifferenceFromReference(pattern, subject, (data[0] & kIgnoreCase) != 0);
+    const std::string difference =
+        test::DifferenceFromReference(pattern, subject, (data[0] & kIgnoreCase) != 0, data[0] >> 4);
     if (difference.empty()) return 0;
     std::fprintf(stderr, "\"%s\" on \"%s\": %s\n", pattern.c_str(), subject.c_str(), difference.c_str());
     std::abort();

@@ -26,8 +26,8 @@ std::string DescribeMatch(OffsetOfStart start, OffsetOfEnd end) {
     return text;
 }
 
-inline std::string ExecuteAndDescribe(RegExp& program, const std::string& subject) {
-    if (!RegExp::Execute(&program, subject.c_str())) return "no";
+inline std::string ExecuteAndDescribe(RegExp& program, const std::string& subject, std::size_t from) {
+    if (!RegExp::Execute(&program, std::string_view(subject.c_str()), from)) return "no";
     const auto offset = [&](const char* position) { return position != nullptr ? position - subject.c_str() : -1; };
     return DescribeMatch([&](std::size_t i) { return offset(program.start(i)); },
                          [&](std::size_t i) { return offset(program.end(i)); });
@@ -41,10 +41,10 @@ inline void EarnHints(RegExp& program) {
 
 // Runs the program in each of the ways that must not make a difference, and compares.
 inline std::string DifferenceInMatching(const std::string& pattern, const std::string& subject,
-                                        const std::string& expected) {
+                                        const std::string& expected, std::size_t from = 0) {
     std::string difference;
     const auto compare = [&](RegExp& tried, const char* way) {
-        const std::string actual = ExecuteAndDescribe(tried, subject);
+        const std::string actual = ExecuteAndDescribe(tried, subject, from);
         if (actual != expected) difference += std::string(way) + ": " + actual + " instead of " + expected + "\n";
     };
     const std::unique_ptr<RegExp> program = RegExp::Compile(pattern.c_str());
@@ -76,7 +76,8 @@ inline std::string Describe(const ReferenceMatcher& reference, ReferenceMatcher:
 }
 
 // Empty when engine and reference agree, or when the reference takes too long to tell.
-inline std::string DifferenceFromReference(const std::string& pattern, const std::string& subject, bool ignoreCase) {
+inline std::string DifferenceFromReference(const std::string& pattern, const std::string& subject, bool ignoreCase,
+                                           std::size_t from = 0) {
     constexpr long kMostCalls = 2000;
     SetRegExpIgnoreCase(ignoreCase);
     const RegExpErrorHook hook = SetRegExpErrorHook([](const char* message) { lastRegExpError = message; });
@@ -87,9 +88,9 @@ inline std::string DifferenceFromReference(const std::string& pattern, const std
     if (lastRegExpError != reference.error()) {
         difference = "compiled with \"" + lastRegExpError + "\" instead of \"" + reference.error() + "\"\n";
     } else if (program) {
-        const ReferenceMatcher::Outcome outcome = reference.match(subject, kMostCalls);
+        const ReferenceMatcher::Outcome outcome = reference.match(subject, from, kMostCalls);
         const std::string expected = Describe(reference, outcome);
-        difference = DifferenceInMatching(pattern, subject, expected);
+        difference = DifferenceInMatching(pattern, subject, expected, from);
         if (outcome == ReferenceMatcher::Outcome::GaveUp) difference.clear();
     }
     SetRegExpErrorHook(hook);

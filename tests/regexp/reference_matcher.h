@@ -30,10 +30,10 @@ class ReferenceMatcher {
     const Positions& ends() const { return ends_; }
 
     // Gives up after so many calls, because plain backtracking may take for ever.
-    Outcome match(const std::string& subject, long mostCalls) {
+    Outcome match(const std::string& subject, std::size_t from, long mostCalls) {
         subject_ = subject;
         callsLeft_ = mostCalls;
-        for (std::size_t start = 0; start <= subject_.size(); ++start) {
+        for (std::size_t start = from; start <= subject_.size(); ++start) {
             starts_ = ends_ = kNone;
             std::size_t end = 0;
             const bool found = matchAny(tree_, start, [&](std::size_t place) {

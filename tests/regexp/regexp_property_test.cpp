@@ -44,8 +44,9 @@ TEST(RegExpProperty, EqualsPlainBacktracking) {
         const std::string pattern = random.pattern();
         const std::string subject = random.from("aabbABc_ .", 12);
         const bool ignoreCase = random.below(2) == 0;
-        ASSERT_EQ(DifferenceFromReference(pattern, subject, ignoreCase), "")
-            << pattern << " on " << subject << ignoreCase;
+        const std::size_t from = random.below(4) == 0 ? random.below(8) : 0;
+        ASSERT_EQ(DifferenceFromReference(pattern, subject, ignoreCase, from), "")
+            << pattern << " on " << subject << ignoreCase << " from " << from;
     }
 }
 
@@ -57,7 +58,9 @@ TEST(RegExpProperty, EqualsPlainBacktrackingInLongerLines) {
         std::string subject;
         while (subject.size() < 60)
             subject += random.from("ab\xE9", 3) + std::string(random.below(30), random.below(2) == 0 ? '.' : 'B');
-        ASSERT_EQ(DifferenceFromReference(pattern, subject, random.below(2) == 0), "") << pattern << " on " << subject;
+        const std::size_t from = random.below(4) == 0 ? random.below(subject.size()) : 0;
+        ASSERT_EQ(DifferenceFromReference(pattern, subject, random.below(2) == 0, from), "")
+            << pattern << " on " << subject << " from " << from;
     }
 }
 

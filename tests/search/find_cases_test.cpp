@@ -89,18 +89,19 @@ void RunWord(FindSession& session, const std::string& word) {
         found->second(session);
 }
 
-// Words, and the two texts in quotes behind "find" and "replace".
+// Words, and the texts in quotes behind "find" (a new one leaves a marked match alone), "step" (a new one makes the
+// search step over the match) and "replace".
 void RunLine(FindSession& session, const std::string& line) {
     std::string before;
     for (std::size_t i = 0; (i = line.find_first_not_of(" \n", i)) != std::string::npos;) {
         const bool quoted = line[i] == '"';
         const std::size_t end = std::min(line.find_first_of(quoted ? "\"" : " \n", i + 1), line.size());
         const std::string word = quoted ? line.substr(i + 1, end - i - 1) : line.substr(i, end - i);
-        if (quoted && before == "find") {
-            session.options.setFindText(word, false);
-        } else if (quoted) {
+        if (quoted && before == "replace") {
             session.options.setReplaceText(word);
-        } else if (word != "find" && word != "replace") {
+        } else if (quoted) {
+            session.options.setFindText(word, before == "step");
+        } else if (word != "find" && word != "step" && word != "replace") {
             RunWord(session, word);
         }
         before = word;
