@@ -16,7 +16,7 @@ constexpr bool IsLetter(char c) {
 }
 
 constexpr bool IsNumberPart(char c) {
-    return IsDigit(c) || c == '.' || c == 'x' || (LowerAscii(c) >= 'a' && LowerAscii(c) <= 'f');
+    return IsDigit(c) || c == '.' || LowerAscii(c) == 'x' || (LowerAscii(c) >= 'a' && LowerAscii(c) <= 'f');
 }
 
 TokenStart StartOf(char c, const ExtensionProfile& profile, bool delimits) {

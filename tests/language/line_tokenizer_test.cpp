@@ -37,6 +37,7 @@ TEST(LineTokenizer, TheEndOfTheLineHasNoText) {
 TEST(LineTokenizer, CutsWordsNumbersAndSymbols) {
     ExpectColours(ExtensionProfile(), {
                                           {"x = 0x1F;", "wyyynnnny"},
+                                          {"0X1F", "nnnn"},
                                           {"1.5e+3", "nnnnyn"},
                                           {"12345678L", "nnnnnnnnw"},
                                           {"a\t\tb", "wttw"},

@@ -91,7 +91,7 @@ class PlainTokenizer {
         }
         if (digit(c)) {
             kind = 'n';
-            return std::min(text_.find_first_not_of("0123456789.xabcdefABCDEF", p), text_.size());
+            return std::min(text_.find_first_not_of("0123456789.xabcdefXABCDEF", p), text_.size());
         }
         return c == ' ' || delimiter(c) ? symbolsAt(p, kind) : wordAt(p, kind);
     }
