@@ -54,6 +54,14 @@ TEST_F(Clipboard, RefusesLargerBlocksAndChangesNothing) {
     EXPECT_FALSE(document_.isModified());
 }
 
+TEST_F(Clipboard, ABlockThatReachesBeyondTheLastSlotEndsWithIt) {
+    document_.marked() = {MarkMode::Lines, true, {LineIndex(1099), {}}, {LineIndex(2000), {}}};
+    view_.key({.key = kKeyTab});
+    view_.cut();
+    EXPECT_EQ(clipboard_.text, "    line\r\n");
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 1098);
+}
+
 TEST_F(Clipboard, HeldByAnotherProgramLosesNothing) {
     clipboard_.isHeld = true;
     clipboard_.text = "x";

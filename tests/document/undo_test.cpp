@@ -88,6 +88,13 @@ TEST_F(Undo, FiftyStepsInOneGoShowTheBusyCursorOnce) {
     }
 }
 
+TEST_F(Undo, ClearingForgetsWhatCouldBeDoneAgainToo) {
+    editor_.type('x', 1);
+    document_.undo().undo();
+    document_.undo().clear();
+    EXPECT_FALSE(document_.undo().redo());
+}
+
 TEST_F(Undo, AVacantLineCanBeEditedAndReadsEmptyAfterwards) {
     document_.setCurrentLine(LineIndex(100));
     editor_.type('x', 3);

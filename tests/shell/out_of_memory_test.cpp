@@ -27,13 +27,15 @@ TEST(OutOfMemory, IsToldOnceAndEndsAsItDidBefore) {
         const OutOfMemoryHandler handler(&Show);
         EXPECT_THROW(std::get_new_handler()(), std::bad_alloc);
         EXPECT_EQ(g_shown, 1);
+        EXPECT_THROW(std::get_new_handler()(), std::bad_alloc);
+        EXPECT_EQ(g_shown, 2) << "at the next failure again";
     }
     EXPECT_EQ(std::get_new_handler(), nullptr);
     std::set_new_handler([] { ++g_previousCalls; });
     {
         const OutOfMemoryHandler handler(&Show);
         std::get_new_handler()();
-        EXPECT_EQ(g_shown, 2);
+        EXPECT_EQ(g_shown, 3);
         EXPECT_EQ(g_previousCalls, 1);
     }
     std::set_new_handler(outer);
