@@ -99,6 +99,13 @@ std::string_view BracketedAt(std::string_view text, std::size_t at) {
     return isAround ? text.substr(open + 1, close - open - 1) : std::string_view();
 }
 
+// The end of the name whose line in parentheses the caret is in or right after; elsewhere the caret.
+std::size_t EndOfNameBefore(std::string_view text, std::size_t at) {
+    const std::size_t open = text.substr(0, at).rfind('(');
+    if (open == std::string_view::npos) return at;
+    return at <= open + LengthOfLineInParentheses(text.substr(open)) ? open : at;
+}
+
 std::string_view BareNameAt(std::string_view text, std::size_t at) {
     std::size_t begin = at;
     while (begin > 0 && IsNameCharacter(text[begin - 1]))
@@ -107,7 +114,7 @@ std::string_view BareNameAt(std::string_view text, std::size_t at) {
     while (end < text.size() && IsNameCharacter(text[end]))
         ++end;
     const std::size_t line = LengthOfLineInParentheses(text.substr(end));
-    if (line > 0) return text.substr(begin, end + line - begin);
+    if (line > 0 && end > begin) return text.substr(begin, end + line - begin);
     const std::string_view name = text.substr(begin, end - begin);
     return name.substr(0, name.find_last_not_of(kNoLastCharacters) + 1);
 }
@@ -125,6 +132,7 @@ std::vector<NamedPlace> NamesAtCaret(std::string_view text, CharColumn column) {
     for (const char quote : kQuotes)
         AddName(names, QuotedAt(text, at, quote));
     AddName(names, BracketedAt(text, at));
+    AddName(names, BareNameAt(text, EndOfNameBefore(text, at)));
     AddName(names, BareNameAt(text, at));
     return names;
 }

@@ -19,8 +19,8 @@ struct NamedPlace {
 
 // What the line may mean, the likeliest first; empty when there is no name. The file of an #include or #import
 // directive is meant wherever in the line the caret is. Elsewhere it is the text in quotes or angle brackets around the
-// caret, then the characters around it that a name can have. A ":12", ":12:3", "(12)" or "(12,3)" behind a name is the
-// line.
+// caret, then the characters around it that a name can have. A ":12", ":12:3", "(12)" or "(12,3)" after a name is the
+// line, and the caret may stand there too.
 std::vector<NamedPlace> NamesAtCaret(std::string_view text, CharColumn column);
 
 }  // namespace vexa
