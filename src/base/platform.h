@@ -103,6 +103,39 @@ std::uint32_t RegisterBroadcast(const std::string& name);
 // Posts the message, without parameters, to the top-level windows of all programs; does not wait for them.
 bool PostBroadcast(std::uint32_t message);
 
+// Something that one running program at a time does, by its name. The turn of a program that ends, also by force, is
+// free again.
+class SystemTurn {
+  public:
+    // Waits for the turn while another program has it, at most that many milliseconds.
+    SystemTurn(const std::string& name, std::uint32_t patience);
+    ~SystemTurn();
+    SystemTurn(const SystemTurn&) = delete;
+    SystemTurn& operator=(const SystemTurn&) = delete;
+    bool isMine() const { return isMine_; }
+
+  private:
+    [[maybe_unused]] std::string name_;  // each platform uses one of the two
+    [[maybe_unused]] std::intptr_t mutex_ = 0;
+    bool isMine_ = false;
+};
+
+// A number that all running programs share which have one of that name; 0 at first. Without room for it in the system
+// it stays 0.
+class SharedNumber {
+  public:
+    explicit SharedNumber(const std::string& name);
+    ~SharedNumber();
+    SharedNumber(const SharedNumber&) = delete;
+    SharedNumber& operator=(const SharedNumber&) = delete;
+    std::uint32_t get() const;
+    void set(std::uint32_t value);
+
+  private:
+    [[maybe_unused]] std::intptr_t mapping_ = 0;  // the host needs none
+    std::uint32_t* number_ = nullptr;
+};
+
 // The full path of a file that a command line names, in the ANSI code page; no file is opened. Empty when the text is
 // no path, or one of more than 127 bytes.
 std::string ParseFileName(const std::string& text);
@@ -111,6 +144,9 @@ std::string ParseFileName(const std::string& text);
 
 // Seconds since the beginning of 1970, as the system's clock has it; it may be set back.
 std::int64_t CurrentSeconds();
+// Milliseconds on a clock that is never set, the one of the system's window messages; begins again at 0 after 49 days.
+std::uint32_t Ticks();
+void Pause(std::uint32_t milliseconds);
 // A line for whoever debugs the program; never seen by its user.
 void DebugOutput(std::string_view text);
 

@@ -30,6 +30,12 @@ bool DdeServer::serves(HSZ topic, HSZ service) const {
     return DdeCmpStringHandles(topic, topic_) == 0 && DdeCmpStringHandles(service, service_) == 0;
 }
 
+HDDEDATA DdeServer::offer(HSZ topic, HSZ service) const {
+    if (!serves(topic ? topic : topic_, service ? service : service_)) return nullptr;
+    HSZPAIR pairs[] = {{service_, topic_}, {nullptr, nullptr}};
+    return DdeCreateDataHandle(instance_, reinterpret_cast<BYTE*>(pairs), sizeof(pairs), 0, nullptr, CF_TEXT, 0);
+}
+
 bool DdeServer::execute(HDDEDATA data) const {
     const DWORD size = DdeGetData(data, nullptr, 0, 0);
     std::string command(size, '\0');
@@ -44,6 +50,7 @@ HDDEDATA CALLBACK DdeServer::Callback(UINT type, UINT, HCONV, HSZ string1, HSZ s
     if (!server_) return nullptr;
     try {
         if (type == XTYP_CONNECT) return answer(server_->serves(string1, string2));
+        if (type == XTYP_WILDCONNECT) return server_->offer(string1, string2);
         if (type == XTYP_EXECUTE) return answer(server_->execute(data) ? DDE_FACK : DDE_FNOTPROCESSED);
     } catch (...) {
         OutputDebugStringA("A DDE command failed.");

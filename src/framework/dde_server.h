@@ -14,7 +14,8 @@ namespace vexa {
 // in a process.
 class DdeServer {
   public:
-    // Carries a command out; false for one that it does not know, which is then refused.
+    // Takes a command; false for one that it does not know, which is then refused. It is called while the other program
+    // waits, in the middle of the library's work: it must show no box and let no messages run.
     using Execute = std::function<bool(const std::string& command)>;
 
     // Without the library's help (none is installed, or it is exhausted) nothing is served.
@@ -27,6 +28,8 @@ class DdeServer {
     static HDDEDATA CALLBACK Callback(UINT type, UINT format, HCONV conversation, HSZ string1, HSZ string2,
                                       HDDEDATA data, ULONG_PTR data1, ULONG_PTR data2) noexcept;
     bool serves(HSZ topic, HSZ service) const;
+    // The answer to a client that leaves the service or the topic open.
+    HDDEDATA offer(HSZ topic, HSZ service) const;
     bool execute(HDDEDATA data) const;
 
     static DdeServer* server_;

@@ -20,6 +20,7 @@ bool AppFrameCL::translate(MSG& message) {
 
 bool AppFrameCL::onCommand(WORD id) {
     isTranslating_ = false;
+    if (!takesCommands()) return true;
     if (!itemState(id)) return false;
     runCommand(id);
     return true;
@@ -51,6 +52,13 @@ bool AppFrameCL::onMenuClosed() {
 bool AppFrameCL::onSize(UINT kind) {
     if (kind != SIZE_MINIMIZED) layOut();
     return true;
+}
+
+// A frame that came to the front behind a dialog has kept the keyboard, which belongs to what is inside the frame.
+void AppFrameCL::onEnabled() {
+    if (GetActiveWindow() == window() && (!GetFocus() || GetFocus() == window()))
+        SendMessageA(window(), WM_SETFOCUS, 0, 0);
+    onFree();
 }
 
 bool AppFrameCL::onClose() {

@@ -16,6 +16,9 @@ class AppFrameCL : public WindowCL {
     virtual bool translate(MSG& message);
     // Does a little of what can wait while no message is there, a millisecond at most; false when nothing is left.
     virtual bool workWhileIdle() { return false; }
+    // False while a dialog waits for its answer: what it asks about must still be there then, so until it ends no
+    // command runs and no window closes, whoever asks for it.
+    bool takesCommands() const { return IsWindowEnabled(window()); }
 
   protected:
     void setMenu(MenuHandle menu);
@@ -32,6 +35,8 @@ class AppFrameCL : public WindowCL {
     virtual void layOut() = 0;
     // The user wants to leave; true when the frame may close.
     virtual bool mayClose() = 0;
+    // The last dialog that was in the way has ended.
+    virtual void onFree() {}
 
     bool onCommand(WORD id) override;
     bool onMenuPopup(HMENU menu, bool isSystemMenu) override;
@@ -39,13 +44,13 @@ class AppFrameCL : public WindowCL {
     bool onMenuClosed() override;
     bool onSize(UINT kind) override;
     bool onClose() override;
+    void onEnabled() override;
     bool onQueryEndSession(bool& agreed) override;
     void onDestroy() override;
     bool onDpiChanged(const RECT& suggested) override;
 
   private:
-    // Not while a dialog waits for its answer: what it asks about must still be there then.
-    bool mayLeave() { return IsWindowEnabled(window()) && mayClose(); }
+    bool mayLeave() { return takesCommands() && mayClose(); }
 
     AcceleratorHandle accelerators_;
     bool isTranslating_ = false;  // the system is asking whether a key's menu item is enabled

@@ -16,7 +16,7 @@ LRESULT MDIchildCL::defaultProcedure(const Message& message) {
 }
 
 bool MDIchildCL::onClose() {
-    const bool isRefused = !mayClose();
+    const bool isRefused = !frame_.takesCommands() || !mayClose();
     return isRefused;
 }
 

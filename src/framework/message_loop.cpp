@@ -8,8 +8,11 @@ int MessageLoop::run() {
     MSG message{};
     for (;;) {
         idle();
-        if (GetMessageA(&message, nullptr, 0, 0) <= 0) break;
-        process(message);
+        const BOOL got = GetMessageA(&message, nullptr, 0, 0);
+        if (got == 0) break;
+        // Below 0 the system had no memory for a message, as large as another program chose to make it: that one is
+        // lost.
+        if (got > 0) process(message);
     }
     return static_cast<int>(message.wParam);
 }

@@ -93,6 +93,7 @@ class WindowCL {
     virtual void onDestroy() {}
     virtual void onGone() {}
     virtual bool onClose() { return false; }
+    virtual void onEnabled() {}  // after it was not
     virtual bool onQueryEndSession(bool& /*agreed*/) { return false; }
     virtual void onEndSession() {}
     virtual bool onSize(UINT /*kind*/) { return false; }

@@ -82,6 +82,7 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_CREATE, [](WindowCL& w, Message& m) { return !w.onCreate() && Answer(m, -1); }},
     {WM_DESTROY, [](WindowCL& w, Message&) { return w.onDestroy(), false; }},
     {WM_CLOSE, [](WindowCL& w, Message&) { return w.onClose(); }},
+    {WM_ENABLE, [](WindowCL& w, Message& m) { return m.wParam && (w.onEnabled(), true); }},
     {WM_QUERYENDSESSION,
      [](WindowCL& w, Message& m) {
          bool agreed = true;
@@ -95,7 +96,7 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_SIZE, [](WindowCL& w, Message& m) { return w.onSize(static_cast<UINT>(m.wParam)); }},
     {WM_MOVE, [](WindowCL& w, Message&) { return w.onMove(), false; }},
     {kDpiChangedMessage,
-     [](WindowCL& w, Message& m) { return w.onDpiChanged(*reinterpret_cast<const RECT*>(m.lParam)); }},
+     [](WindowCL& w, Message& m) { return m.lParam && w.onDpiChanged(*reinterpret_cast<const RECT*>(m.lParam)); }},
     {WM_SETTINGCHANGE, [](WindowCL& w, Message&) { return w.onSettingChange(), false; }},
     {WM_PAINT, [](WindowCL& w, Message&) { return w.paint(); }},
     {WM_ERASEBKGND,
@@ -129,7 +130,7 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_HSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_HORZ, LOWORD(m.wParam)); }},
     {WM_TIMER, [](WindowCL& w, Message& m) { return w.onTimer(m.wParam); }},
     {WM_COMMAND, [](WindowCL& w, Message& m) { return w.onCommand(LOWORD(m.wParam)); }},
-    {WM_NOTIFY, [](WindowCL& w, Message& m) { return w.onNotify(*reinterpret_cast<NMHDR*>(m.lParam)); }},
+    {WM_NOTIFY, [](WindowCL& w, Message& m) { return m.lParam && w.onNotify(*reinterpret_cast<NMHDR*>(m.lParam)); }},
     {WM_DROPFILES,
      [](WindowCL& w, Message& m) { return w.onDropFiles(TakeDroppedNames(reinterpret_cast<HDROP>(m.wParam))); }},
     {WM_INITMENUPOPUP,

@@ -1,5 +1,5 @@
-// The ways by which files reach the running editor: its commands, its command line, other instances, dropped files,
-// DDE.
+// The ways by which files reach the running editor: its commands, its command line, dropped files. Those by which other
+// programs hand it files end here, too.
 #pragma once
 
 #include <cstdint>
@@ -39,20 +39,12 @@ class FileOpening {
     bool OpenFileAtLine(const std::optional<std::string>& name, std::int32_t line);
     // Opens what FilesOf has made of the arguments; the number of files opened.
     int OpenCommandLineFiles(std::span<const FileAtLine> files);
-    // For the broadcast message of another instance.
-    void ReceiveHandOff();
     void OpenDroppedFiles(std::span<const std::string> names);
-    // True when the execute string was the editor's own and has been carried out.
-    bool ExecuteDde(std::string_view text);
 
   private:
     DocumentFrame& frame_;
     const EditorOptions& options_;
     Notices& notices_;
 };
-
-// The file of a DDE execute string of the form [open("file")]; what follows the closing quote is not looked at. None
-// for other strings.
-std::optional<std::string> FileOfDdeExecute(std::string_view text);
 
 }  // namespace vexa

@@ -16,6 +16,12 @@ constexpr std::size_t kPathLimit = 255;
 constexpr std::size_t kNumberLimit = 49;
 constexpr std::size_t kReadLimit = 4096;
 constexpr std::int32_t kNoLine = -1;
+constexpr std::uint32_t kReadingPatience = 5'000;  // milliseconds
+constexpr std::uint32_t kReadingPause = 10;
+
+// Whoever writes, announces or reads the file does so alone.
+constexpr const char* kFileTurn = "VexaHandOffFile";
+constexpr std::uint32_t kFilePatience = 2'000;
 
 std::string HandOffFile() {
     return DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT";
@@ -53,6 +59,15 @@ std::string_view TakeLine(std::string_view& text) {
     return line;
 }
 
+std::optional<FileAtLine> ReadHandOff() {
+    File file(HandOffFile(), platform::OpenMode::Read);
+    const std::optional<std::string> bytes = file.isOpen() ? file.readUpTo(kReadLimit) : std::nullopt;
+    if (!bytes) return std::nullopt;
+    std::string_view rest = *bytes;
+    const std::string_view path = TakeLine(rest).substr(0, kPathLimit);
+    return FileAtLine{std::string(path), LeadingInteger(TakeLine(rest).substr(0, kNumberLimit))};
+}
+
 }  // namespace
 
 HandOffDecision ShouldHandOff(std::string_view commandLine, std::span<const std::string> arguments) {
@@ -69,6 +84,7 @@ bool HandOffToRunningInstance(std::string_view commandLine, std::int32_t line, N
     if (message == 0) return false;
     const std::string path = PathIn(commandLine, line);
     if (path.empty()) return false;
+    const platform::SystemTurn turn(kFileTurn, kFilePatience);
     if (!WriteHandOff(path, line)) {
         TellUnexpectedError(notices, "VEXA", "95");
         return false;
@@ -83,20 +99,29 @@ bool HandedOff(const CommandLine& commandLine, Notices& notices) {
            HandOffToRunningInstance(text, decision.line, notices);
 }
 
-std::optional<FileAtLine> ReadHandOff(Notices& notices) {
-    File file(HandOffFile(), platform::OpenMode::Read);
-    const std::optional<std::string> bytes = file.isOpen() ? file.readUpTo(kReadLimit) : std::nullopt;
-    if (!bytes) {
-        TellUnexpectedError(notices, "VXEAPP01", "2173");
-        return std::nullopt;
-    }
-    std::string_view rest = *bytes;
-    const std::string_view path = TakeLine(rest).substr(0, kPathLimit);
-    return FileAtLine{std::string(path), LeadingInteger(TakeLine(rest).substr(0, kNumberLimit))};
+void AwaitReading() {
+    const std::uint32_t start = platform::Ticks();
+    while (platform::PathExists(HandOffFile()) && platform::Ticks() - start < kReadingPatience)
+        platform::Pause(kReadingPause);
 }
 
-void DeleteHandOff() {
+std::optional<FileAtLine> HandOffInbox::take() {
+    const platform::SystemTurn turn(kFileTurn, kFilePatience);
+    const std::optional<FileAtLine> read = ReadHandOff();
+    if (!read) return std::nullopt;
     platform::RemoveFile(HandOffFile());
+    lastTaken_.set(std::max(platform::Ticks(), std::uint32_t{1}));
+    return read;
+}
+
+// The clock begins again after a while, so that only differences count.
+bool HandOffInbox::wasTaken(std::uint32_t broadcastAt) const {
+    const std::uint32_t last = lastTaken_.get();
+    return last != 0 && static_cast<std::int32_t>(last - broadcastAt) >= 0;
+}
+
+void TellMissingHandOff(Notices& notices) {
+    TellUnexpectedError(notices, "VXEAPP01", "2173");
 }
 
 }  // namespace vexa

@@ -2,7 +2,8 @@
 //
 // The file goes through "VEXACMD.DAT" in the program's directory, two lines of text: the full path of the file to open,
 // and the line number, -1 for none. The running editor is told by a broadcast message and deletes the file when it has
-// read it. Of two hand-offs at the same moment the later one counts.
+// read it. Starts take turns, and one that has handed its file over keeps the turn until it has been read, so that
+// files that are started together do not overwrite each other. Of two that could not wait so long the later one counts.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +13,7 @@
 #include <string_view>
 
 #include "base/notices.h"
+#include "base/platform.h"
 #include "shell/command_line.h"
 
 namespace vexa {
@@ -19,6 +21,11 @@ namespace vexa {
 // Names that all instances share: the marker that is there while one runs, and the message that says a file waits.
 inline constexpr const char* kActiveMarker = "VexaIsActive";
 inline constexpr const char* kFileOpenMessage = "VexaFileOpen";
+
+// The turn that a start has while it decides whether it becomes an editor, and how long it waits for it, in
+// milliseconds. One that has waited in vain becomes an editor.
+inline constexpr const char* kStartTurn = "VexaStart";
+inline constexpr std::uint32_t kStartPatience = 20'000;
 
 struct HandOffDecision {
     bool handOff = false;
@@ -39,9 +46,23 @@ bool HandOffToRunningInstance(std::string_view commandLine, std::int32_t line, N
 // All of it: true when this process has handed its file over and ends. Else it starts as an editor.
 bool HandedOff(const CommandLine& commandLine, Notices& notices);
 
-// What another instance has handed over; none, and the user is told, when there is no such file. An empty name names no
-// file.
-std::optional<FileAtLine> ReadHandOff(Notices& notices);
-void DeleteHandOff();
+// Waits until the running editor has read what was handed over, or for as long as nobody would wait for a start.
+void AwaitReading();
+
+// The running editor's side. All editors hear of each file that is handed over, and one of them takes it.
+class HandOffInbox {
+  public:
+    // What another instance has handed over, whose file is then gone; none when there is no such file. An empty name
+    // names no file.
+    std::optional<FileAtLine> take();
+    // Whether the file that a broadcast tells of has been taken. The broadcast's time is that of the platform's ticks.
+    bool wasTaken(std::uint32_t broadcastAt) const;
+
+  private:
+    platform::SharedNumber lastTaken_{"VexaHandOffTaken"};  // in ticks; 0 before the first
+};
+
+// For a broadcast without a file.
+void TellMissingHandOff(Notices& notices);
 
 }  // namespace vexa

@@ -30,7 +30,7 @@ struct FrameKeys {
 
 // The frame looks at these keys before the system does, which would go to the next window with Ctrl+F6.
 bool VexaFrame::translate(MSG& message) {
-    if (!IsWindowEnabled(window())) return false;  // a dialog has the keys
+    if (!takesCommands()) return false;  // a dialog has the keys
     if (message.message == WM_KEYDOWN) {
         const DocumentWindow* active = activeDocument();
         const KeyEvent event = KeyEventOf(message);

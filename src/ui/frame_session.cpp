@@ -12,6 +12,7 @@
 namespace vexa {
 namespace {
 
+constexpr UINT kOpenWaitingMessage = WM_APP + 1;  // posted by the frame to itself
 constexpr WORD kRecentFilesSeparator = 100;
 
 ScreenRect ToScreenRect(const RECT& area) {
@@ -151,14 +152,28 @@ void VexaFrame::onEndSession() {
 // ---- from outside ------------------------------------------------------------------------------------------------
 
 bool VexaFrame::onDropFiles(const std::vector<std::string>& names) {
-    opening_.OpenDroppedFiles(names);
+    if (isFree()) {
+        opening_.OpenDroppedFiles(names);
+    } else {
+        for (const std::string& name : names)
+            outside_.add({name, 0});
+    }
     return true;
 }
 
 bool VexaFrame::onOther(Message& message) {
-    if (message.number != fileOpenMessage_ || fileOpenMessage_ == 0) return false;
-    opening_.ReceiveHandOff();
+    if (message.number == kOpenWaitingMessage) {
+        outside_.openWaiting();
+    } else if (message.number == fileOpenMessage_ && fileOpenMessage_ != 0) {
+        outside_.receiveHandOff(static_cast<std::uint32_t>(GetMessageTime()));
+    } else {
+        return false;
+    }
     return true;
+}
+
+void VexaFrame::openWaitingSoon() {
+    PostMessageA(window(), kOpenWaitingMessage, 0, 0);
 }
 
 bool VexaFrame::onTimer(UINT_PTR /*timer*/) {

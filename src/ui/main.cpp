@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include <optional>
 #include <string>
 
 #include "base/platform.h"
@@ -27,8 +28,9 @@ class StartNotices : public vexa::Notices {
     bool pumpMessages() override { return false; }
 };
 
+// No window owns the box, but all of them wait for it: what the allocation was part of is not finished.
 void ShowOutOfMemory(const char* text, const char* caption) {
-    MessageBoxA(nullptr, text, caption, MB_OK | MB_ICONSTOP);
+    MessageBoxA(nullptr, text, caption, MB_OK | MB_ICONSTOP | MB_TASKMODAL);
 }
 
 void ShowCommandLineHelp() {
@@ -42,7 +44,10 @@ bool IsEditorOpen() {
     return FindWindowA(vexa::kFrameClassName, nullptr) != nullptr;
 }
 
-int RunEditor(const vexa::CommandLine& commandLine, int showCommand) {
+using StartTurn = std::optional<vexa::platform::SystemTurn>;
+
+// Other starts wait until there is a window that takes their files.
+int RunEditor(const vexa::CommandLine& commandLine, int showCommand, StartTurn& turn) {
     // Full names: the start directory may make another directory the current one before the files are opened.
     const auto files = vexa::FilesOf(commandLine.arguments);
     const vexa::OutOfMemoryHandler outOfMemory(&ShowOutOfMemory);
@@ -52,7 +57,12 @@ int RunEditor(const vexa::CommandLine& commandLine, int showCommand) {
         vexa::Application application(vexa::platform::ProgramPath());
         vexa::ApplyStartDirectory(application.options);
         vexa::VexaFrame frame(application);
-        if (frame.open(showCommand, files)) exitCode = frame.run();
+        const bool isOpen = frame.open(showCommand);
+        turn.reset();
+        if (isOpen) {
+            frame.openFirstFiles(files);
+            exitCode = frame.run();
+        }
     }
     vexa::platform::DeleteGlobalMarker(vexa::kActiveMarker);
     return exitCode;
@@ -69,6 +79,10 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
         return 0;
     }
     StartNotices notices;
-    if (IsEditorOpen() && vexa::HandedOff(commandLine, notices)) return 0;
-    return RunEditor(commandLine, showCommand);
+    StartTurn turn(std::in_place, vexa::kStartTurn, vexa::kStartPatience);
+    if (turn->isMine() && IsEditorOpen() && vexa::HandedOff(commandLine, notices)) {
+        vexa::AwaitReading();
+        return 0;
+    }
+    return RunEditor(commandLine, showCommand, turn);
 }

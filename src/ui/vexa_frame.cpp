@@ -12,7 +12,6 @@
 #include "framework/file_dialog.h"
 #include "framework/message_box.h"
 #include "framework/title_bar.h"
-#include "shell/hand_off.h"
 #include "ui/file_selection.h"
 #include "ui/for_each_document.h"
 #include "ui/menu_rows.h"
@@ -39,6 +38,7 @@ VexaFrame::VexaFrame(Application& application)
       notices_(*this, statusBar_, loop_),
       files_(notices_, *this, application.profiles),
       opening_(*this, application.options, notices_),
+      outside_(opening_, *this, notices_),
       dispatcher_(notices_, [this](CommandNeed need) { return isMet(need); }),
       macro_(*this, notices_),
       search_(application.searchOptions, notices_, watch_),
@@ -49,22 +49,25 @@ VexaFrame::VexaFrame(Application& application)
     registerCommands();
 }
 
-bool VexaFrame::open(int showCommand, std::span<const FileAtLine> files) {
+bool VexaFrame::open(int showCommand) {
     const std::string title(kProgramCaption);
     if (!create(kFrameClass, {.title = title.c_str(), .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN})) return false;
     DragAcceptFiles(window(), TRUE);
     ddeServer_ = std::make_unique<DdeServer>("Vexa Editor", "system",
-                                             [this](const std::string& text) { return opening_.ExecuteDde(text); });
+                                             [this](const std::string& text) { return outside_.executeDde(text); });
     restorePlacement(showCommand);
     UpdateWindow(window());
+    SetTimer(window(), kBackupTimer, kBackupCheckInterval, nullptr);
+    return true;
+}
+
+void VexaFrame::openFirstFiles(std::span<const FileAtLine> files) {
     recentFiles_.LoadRecentFiles(application_.store, application_.options.RestoreFiles);
     showRecentFiles();
     startupFiles_.RestoreStartupFiles(application_.options.RestoreFiles,
                                       [this](const std::string& path, std::int32_t line) { restoreFile(path, line); });
     opening_.OpenCommandLineFiles(files);
     if (children().empty() && files.empty()) newDocument();
-    SetTimer(window(), kBackupTimer, kBackupCheckInterval, nullptr);
-    return true;
 }
 
 bool VexaFrame::onCreate() {
@@ -228,8 +231,9 @@ bool VexaFrame::openWindow(const std::optional<std::string>& path, LineIndex lin
     return true;
 }
 
+// The dialog that waits for an answer has the keyboard; the frame behind it could do nothing with a key.
 void VexaFrame::bringToFront() {
-    SetForegroundWindow(window());
+    SetForegroundWindow(GetLastActivePopup(window()));
 }
 
 void VexaFrame::restoreIfMinimised() {

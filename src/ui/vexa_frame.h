@@ -20,6 +20,7 @@
 #include "shell/frame_placement.h"
 #include "shell/key_macro.h"
 #include "shell/macro_repeat_model.h"
+#include "shell/outside_opens.h"
 #include "shell/recent_files.h"
 #include "shell/startup_files.h"
 #include "ui/application.h"
@@ -36,16 +37,18 @@ inline constexpr const char* kFrameClassName = "AppFrameCL";
 class VexaFrame : public MDIframeCL,
                   private DocumentHost,
                   private FileQuestions,
-                  private DocumentFrame,
+                  private OutsideFrame,
                   private MacroTarget,
                   private BackupFrame,
                   private SearchHost {
   public:
     explicit VexaFrame(Application& application);
 
-    // Opens the window where it was last, with the files of the last session and then those of the command line;
-    // with none of either, a new document. False when the system refuses to make the window.
-    bool open(int showCommand, std::span<const FileAtLine> files);
+    // Opens the window where it was last; from then on it takes files from other programs. False when the system
+    // refuses to make the window.
+    bool open(int showCommand);
+    // Opens the files of the last session and then those of the command line; with none of either, a new document.
+    void openFirstFiles(std::span<const FileAtLine> files);
     // Runs until the frame is closed; the program's exit code.
     int run() { return loop_.run(); }
     bool translate(MSG& message) override;
@@ -64,6 +67,7 @@ class VexaFrame : public MDIframeCL,
     bool onTimer(UINT_PTR timer) override;
     bool onDropFiles(const std::vector<std::string>& names) override;
     bool onOther(Message& message) override;
+    void onFree() override { openWaitingSoon(); }
 
     void runCommand(WORD id) override;
     std::optional<ItemState> itemState(WORD id) const override;
@@ -176,6 +180,8 @@ class VexaFrame : public MDIframeCL,
     bool openWindow(const std::optional<std::string>& path, LineIndex line) override;
     void bringToFront() override;
     void restoreIfMinimised() override;
+    bool isFree() const override { return takesCommands() && !isClosing_; }
+    void openWaitingSoon() override;
     void playKey(const KeyEvent& event) override;
     void playMessage(const MacroMessage& message) override;
     void playCommand(CommandId id) override;
@@ -193,6 +199,7 @@ class VexaFrame : public MDIframeCL,
     FrameNotices notices_;
     FileCommands files_;
     FileOpening opening_;
+    OutsideOpens outside_;
     CommandDispatcher dispatcher_;
     KeyMacro macro_;
     MacroRepeatModel repeat_;

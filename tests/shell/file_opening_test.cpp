@@ -4,7 +4,8 @@
 
 #include "base/directories.h"
 #include "base/file.h"
-#include "shell/hand_off.h"
+#include "base/strings.h"
+#include "shell/outside_opens.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 
@@ -12,7 +13,7 @@ namespace vexa {
 namespace {
 
 // Notes what it is asked to do, a word and the line index each.
-class ScriptedFrame : public DocumentFrame {
+class ScriptedFrame : public OutsideFrame {
   public:
     bool activateShowing(const std::string& path, LineIndex line) override {
         if (path != shown) return false;
@@ -26,6 +27,10 @@ class ScriptedFrame : public DocumentFrame {
     }
     void bringToFront() override { log += "front;"; }
     void restoreIfMinimised() override { log += "restore;"; }
+    bool isFree() const override { return free; }
+    void openWaitingSoon() override { log += "soon;"; }
+
+    bool free = true;
 
     std::string shown;
     std::string refused;
@@ -41,6 +46,7 @@ class FileOpeningTest : public testing::Test {
     EditorOptions options_;
     ScriptedFrame frame_;
     FileOpening opening_{frame_, options_, notices_};
+    OutsideOpens outside_{opening_, frame_, notices_};
 };
 
 TEST_F(FileOpeningTest, AFileIsShownInItsWindowUnlessCopiesAreWanted) {
@@ -70,19 +76,47 @@ TEST_F(FileOpeningTest, CommandLineFilesAreCountedWhenTheyAreOpened) {
     EXPECT_EQ(opening_.OpenCommandLineFiles({}), 0);
 }
 
-TEST_F(FileOpeningTest, AHandedOverFileIsOpenedAndItsMessageDeleted) {
+TEST_F(FileOpeningTest, AHandedOverFileIsOpenedAfterwardsAndItsMessageDeleted) {
     const std::string file = DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT";
-    WriteWholeFile(file, "C:\\A.C\r\n20\r\n");
-    opening_.ReceiveHandOff();
-    EXPECT_EQ(takeLog(), "front;open A.C 19;restore;");
-    EXPECT_FALSE(platform::PathExists(file));
-    WriteWholeFile(file, "");
-    opening_.ReceiveHandOff();
-    EXPECT_EQ(takeLog(), "front;restore;") << "no name, no file";
-    EXPECT_FALSE(platform::PathExists(file));
-    EXPECT_TRUE(notices_.boxes.empty());
-    opening_.ReceiveHandOff();
+    for (const auto& [bytes, opened] : {std::pair{"C:\\A.C\r\n20\r\n", "open A.C 19;"}, std::pair{"", ""}}) {
+        WriteWholeFile(file, bytes);
+        outside_.receiveHandOff(platform::Ticks());
+        EXPECT_EQ(takeLog(), "soon;");
+        EXPECT_FALSE(platform::PathExists(file));
+        outside_.openWaiting();
+        EXPECT_EQ(takeLog(), std::string("front;restore;") + opened);
+    }
+    outside_.openWaiting();
     EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(FileOpeningTest, WhatComesFromOutsideWaitsForTheEndOfADialog) {
+    frame_.free = false;
+    EXPECT_TRUE(outside_.executeDde("[open(\"C:\\A\")]"));
+    outside_.add({"C:\\B", 0});
+    outside_.openWaiting();
+    EXPECT_EQ(takeLog(), "soon;soon;front;restore;") << "the user finds the dialog";
+    frame_.free = true;
+    outside_.openWaiting();
+    EXPECT_EQ(takeLog(), "front;restore;open A 0;open B 0;");
+    EXPECT_FALSE(outside_.executeDde("[print(\"C:\\A.C\")]"));
+    EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(FileOpeningTest, BroadcastsWithoutAFileAreToldOnceUnlessTheirFileWasTaken) {
+    const std::uint32_t before = platform::Ticks();
+    for (int i = 0; i < 50; ++i)
+        outside_.receiveHandOff(before + 1000);  // later than anything was taken
+    outside_.openWaiting();
+    const test::BoxNotice told{FillText(TextId::UnexpectedError, {"VXEAPP01", "2173"}), "Vexa Error", BoxButtons::Ok};
+    EXPECT_EQ(notices_.boxes, std::vector{told});
+    WriteWholeFile(DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT", "C:\\A.C\r\n-1\r\n");
+    outside_.receiveHandOff(before);
+    outside_.receiveHandOff(before);
+    OutsideOpens another(opening_, frame_, notices_);
+    another.receiveHandOff(before);
+    outside_.openWaiting();
+    another.openWaiting();
     EXPECT_EQ(notices_.boxes.size(), 1u);
 }
 
@@ -109,9 +143,6 @@ TEST_F(FileOpeningTest, DdeExecutesOfOneFormAreTheEditors) {
     };
     for (const auto& [text, file] : cases)
         EXPECT_EQ(FileOfDdeExecute(text), file) << text;
-    EXPECT_TRUE(opening_.ExecuteDde("[open(\"C:\\A.C\")]"));
-    EXPECT_FALSE(opening_.ExecuteDde("[print(\"C:\\A.C\")]"));
-    EXPECT_EQ(takeLog(), "open A.C 0;");
 }
 
 }  // namespace

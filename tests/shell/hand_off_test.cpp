@@ -50,9 +50,9 @@ std::string Upper(std::string text) {
 // The file goes beside the program, which on Windows is the test program itself.
 class HandOffTest : public testing::Test {
   protected:
-    HandOffTest() { DeleteHandOff(); }
+    HandOffTest() { platform::RemoveFile(file()); }
     ~HandOffTest() override {
-        DeleteHandOff();
+        platform::RemoveFile(file());
         platform::DeleteGlobalMarker(kActiveMarker);
     }
     bool handOff(const std::string& arguments) { return HandedOff(ParseCommandLine("vexa " + arguments), notices_); }
@@ -132,15 +132,21 @@ TEST_F(HandOffTest, AnyBytesAreReadAsFileAndLine) {
     };
     for (const auto& [bytes, expected] : cases) {
         put(bytes);
-        EXPECT_EQ(ReadHandOff(notices_), expected) << bytes.substr(0, 40);
+        EXPECT_EQ(HandOffInbox().take(), expected) << bytes.substr(0, 40);
     }
     EXPECT_TRUE(notices_.boxes.empty());
 }
 
-TEST_F(HandOffTest, AMissingFileIsTold) {
-    EXPECT_EQ(ReadHandOff(notices_), std::nullopt);
-    const test::BoxNotice told{FillText(TextId::UnexpectedError, {"VXEAPP01", "2173"}), "Vexa Error", BoxButtons::Ok};
-    EXPECT_EQ(notices_.boxes, std::vector{told});
+TEST_F(HandOffTest, AFileIsTakenOnceAndItsBroadcastsAreAnswered) {
+    const std::uint32_t now = platform::Ticks();
+    EXPECT_EQ(HandOffInbox().take(), std::nullopt);
+    put("C:\\A.C\r\n-1\r\n");
+    HandOffInbox inbox;
+    EXPECT_NE(inbox.take(), std::nullopt);
+    EXPECT_EQ(inbox.take(), std::nullopt);
+    EXPECT_TRUE(HandOffInbox().wasTaken(now));
+    EXPECT_FALSE(HandOffInbox().wasTaken(now + 1000000));
+    AwaitReading();  // what has been taken is not waited for
 }
 
 }  // namespace

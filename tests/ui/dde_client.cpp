@@ -15,11 +15,11 @@ HDDEDATA CALLBACK IgnoreAll(UINT, UINT, HCONV, HSZ, HSZ, HDDEDATA, ULONG_PTR, UL
 
 class Conversation {
   public:
-    explicit Conversation(const std::string& topic) {
+    explicit Conversation(const std::string& topic, bool byName = true) {
         DdeInitializeA(&instance_, &IgnoreAll, APPCMD_CLIENTONLY, 0);
         service_ = DdeCreateStringHandleA(instance_, "Vexa Editor", CP_WINANSI);
         topic_ = DdeCreateStringHandleA(instance_, topic.c_str(), CP_WINANSI);
-        conversation_ = DdeConnect(instance_, service_, topic_, nullptr);
+        conversation_ = DdeConnect(instance_, byName ? service_ : nullptr, topic_, nullptr);
     }
     ~Conversation() {
         if (conversation_) DdeDisconnect(conversation_);
@@ -51,8 +51,8 @@ bool ExecuteByDde(const std::string& command) {
     return conversation.isOpen() && conversation.execute(command);
 }
 
-bool ConnectsByDde(const std::string& topic) {
-    return Conversation(topic).isOpen();
+bool ConnectsByDde(const std::string& topic, bool byName) {
+    return Conversation(topic, byName).isOpen();
 }
 
 }  // namespace vexa::test

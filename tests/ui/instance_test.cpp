@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
+#include <memory>
+
 #include "ui/dde_client.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
@@ -86,15 +88,67 @@ TEST_F(InstanceTest, BrokenHandOffIsReported) {
     EXPECT_TRUE(editor.answers());
 }
 
+TEST_F(InstanceTest, FilesThatAreStartedTogetherAllOpenInOneEditor) {
+    const Editor first(folder);
+    const Editor second(folder);  // hears of each file too, and says nothing about those that the other one takes
+    std::vector<std::unique_ptr<StartedProgram>> starts;
+    for (int i = 0; i < 8; ++i) {
+        const std::string name = std::to_string(i) + ".c";
+        folder.put(name, name);
+        starts.push_back(std::make_unique<StartedProgram>(folder, name));
+    }
+    for (const auto& start : starts)
+        EXPECT_TRUE(start->ends());
+    EXPECT_TRUE(WaitUntil([&] { return first.documents().size() + second.documents().size() == 10; }));
+    EXPECT_FALSE(first.hasDialog() || second.hasDialog());
+}
+
+TEST_F(InstanceTest, BroadcastsWithoutAFileShowOneBoxAtATime) {
+    const Editor editor(folder);
+    const UINT message = RegisterWindowMessageA("VexaFileOpen");
+    for (int i = 0; i < 50; ++i)
+        PostMessageA(editor.frame(), message, 0, 0);
+    const HWND box = editor.dialog("Vexa Error");
+    ASSERT_TRUE(box && editor.answers());
+    ASSERT_TRUE(Press(box, IDOK));
+    ASSERT_TRUE(editor.answers());
+    EXPECT_FALSE(editor.hasDialog());
+}
+
+TEST_F(InstanceTest, HandOffBehindADialogWaitsForItsEnd) {
+    const Editor first(folder, {"b.c"});
+    first.command(CommandId::GotoLine);
+    const HWND dialog = first.dialog("Goto Line");
+    ASSERT_TRUE(dialog);
+    ASSERT_TRUE(startAgain("a.c"));
+    EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == dialog; }));
+    EXPECT_EQ(first.documents().size(), 1u);
+    first.keys("7{Enter}");
+    EXPECT_TRUE(first.hasCaption("A.C]"));
+    first.keys("typed ");
+    EXPECT_TRUE(first.hasCaption("A.C *]"));
+    EXPECT_TRUE(first.showsPosition(1, 7));
+}
+
 TEST_F(InstanceTest, OtherProgramsOpenFilesByDde) {
     const Editor editor(folder);
     EXPECT_TRUE(ExecuteByDde("[open(\"" + folder.path("a.c") + "\")]"));
     EXPECT_TRUE(editor.hasCaption("a.c]"));
     EXPECT_TRUE(ExecuteByDde("[open(\"" + folder.path("b.c") + "\" and anything behind it"));
     EXPECT_TRUE(editor.hasCaption("b.c]"));
+    ShowWindow(editor.frame(), SW_MINIMIZE);
+    for (int i = 0; i < 10; ++i)  // each is refused, after the other program has its answer
+        EXPECT_TRUE(ExecuteByDde("[open(\"NUL\")]"));
+    EXPECT_TRUE(WaitUntil([&] { return !IsIconic(editor.frame()); }));
+    for (int i = 0; i < 10; ++i) {
+        const HWND box = editor.dialog("Vexa Error");
+        ASSERT_TRUE(box && Press(box, IDOK)) << i;
+    }
     for (const char* other : {"[OPEN(\"a.c\")]", "[open(\"a.c)]", "[exit]", ""})
         EXPECT_FALSE(ExecuteByDde(other)) << other;
     EXPECT_FALSE(ConnectsByDde("another topic"));
+    EXPECT_TRUE(ConnectsByDde("system", false)) << "by the topic alone";
+    EXPECT_FALSE(ConnectsByDde("another topic", false));
     EXPECT_TRUE(has(editor, 3));
 }
 

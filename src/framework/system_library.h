@@ -1,0 +1,12 @@
+// The system's own libraries, by their full paths: a file of the same name beside the program is never loaded.
+#pragma once
+
+#include <windows.h>
+
+namespace vexa {
+
+// A library of the system's directory, by its file name; null when the system has none. It stays loaded for as long as
+// the program runs.
+HMODULE LoadSystemLibrary(const char* name);
+
+}  // namespace vexa
