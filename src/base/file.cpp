@@ -32,6 +32,7 @@ File& File::operator=(File&& other) noexcept {
 }
 
 std::optional<std::size_t> File::read(char* data, std::size_t size) {
+    if (Refused(true, FileStep::Read)) return std::nullopt;
     return platform::ReadFile(handle_, data, size);
 }
 

@@ -44,11 +44,11 @@ bool WriteWholeFile(const std::string& path, std::string_view data);
 // The same for what a function writes into the new file; its false leaves the old file too.
 bool RewriteFile(const std::string& path, const std::function<bool(File&)>& write);
 
-// The steps of writing a file that a full or failing disk can refuse.
-enum class FileStep { Open, Write, End, Flush, Close };
+// The steps that a full or failing disk can refuse: reading of any file, the others of a file opened for writing.
+enum class FileStep { Open, Read, Write, End, Flush, Close };
 
-// Lets a test refuse steps as a failing disk would: asked before each step of a file opened for writing, true refuses
-// it (a refused close still closes). None by default.
+// Lets a test refuse steps as a failing disk would: asked before each step, true refuses it (a refused close still
+// closes). None by default.
 using FileFault = bool (*)(FileStep step);
 void SetFileFault(FileFault fault);
 

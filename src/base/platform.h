@@ -45,6 +45,15 @@ std::optional<std::uint64_t> FileSize(FileHandle file);
 // Closes in every case; false if the operating system reports that something written was lost.
 bool CloseFile(FileHandle file);
 
+// What the system knows of a file.
+struct FileFacts {
+    std::uint64_t volume = 0;     // with the index it tells the file from all others that exist at the time,
+    std::uint64_t index = 0;      // whatever name it is reached by; 0 where the disk has no such numbers
+    std::uint64_t writeTime = 0;  // to be compared with others alone: later is more
+    bool isReadOnly = false;
+};
+// None for what is missing or no file; a file that another program holds has facts all the same.
+std::optional<FileFacts> FactsOf(const std::string& path);
 // Whether anything (a file or a directory) of that name exists.
 bool PathExists(const std::string& path);
 bool DirectoryExists(const std::string& path);
@@ -64,6 +73,8 @@ std::vector<std::string> FindFiles(const std::string& pattern);
 
 // The path made full against the current directory, with "." and ".." parts resolved; empty when it is no path.
 std::string FullPath(const std::string& path);
+// FullPath with the parts that exist by their long names; the short ones of old programs ("PROGRA~1") are no others.
+std::string LongPath(const std::string& path);
 // Without a trailing "\" except for a drive's root.
 std::string CurrentDirectory();
 bool ChangeDirectory(const std::string& path);

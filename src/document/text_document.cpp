@@ -1,9 +1,9 @@
 #include "document/text_document.h"
 
+#include "base/checksum.h"
 #include "base/file.h"
 #include "document/columns.h"
 #include "document/text_loader.h"
-#include "document/text_writer.h"
 
 namespace vexa {
 
@@ -36,6 +36,7 @@ void TextDocument::discardText() {
 
 void TextDocument::setName(const std::optional<std::string>& path) {
     named_ = path.has_value();
+    disk_ = {};
     path_ = path.value_or(kNoName);
     const std::size_t slash = path_.rfind('\\');
     baseName_ = slash == std::string::npos ? path_ : path_.substr(slash + 1);
@@ -58,26 +59,45 @@ bool TextDocument::newEmpty() {
 
 bool TextDocument::load() {
     discardText();
+    disk_ = {};
     File file;
     if (!path_.empty()) file = File(path_, platform::OpenMode::Read);
     if (!file.isOpen() || !TextLoader(*this, arena_, options_.FileWrite).read(file)) {
         discardText();
+        disk_ = {};
         newEmpty();
         return false;
     }
     lines_.takeGrown();
     loaded_ = true;
+    disk_.facts = platform::FactsOf(path_);
+    disk_.changesUnedited = disk_.kind != ContentsKind::Text && changesWhenWritten();
     return true;
 }
 
-bool TextDocument::write() {
-    if (!named_ || !WriteText(*this, path_, options_.FileWrite)) return false;
+bool TextDocument::changesWhenWritten() const {
+    Checksum written;
+    const auto sink = [&written](std::string_view part) {
+        written.add(part);
+        return true;
+    };
+    return !WriteLines(*this, sink, options_.FileWrite) || written.value() != disk_.checksum;
+}
+
+WriteOutcome TextDocument::tryWrite(bool withoutCopy) {
+    if (!named_) return {};
+    const WriteOutcome outcome = WriteText(*this, path_, {options_.FileWrite, disk_.checksum, withoutCopy});
+    if (outcome.result == WriteResult::Torn) disk_.checksum.reset();
+    if (outcome.result != WriteResult::Written) return outcome;
+    disk_ = {};
+    disk_.checksum = outcome.checksum;
+    disk_.facts = platform::FactsOf(path_);
     undo_.clear();
     modifiedCount_ = 0;
     clearChangedLines();
     linesWrapped_ = false;
     truncated_ = false;
-    return true;
+    return outcome;
 }
 
 void TextDocument::countChange(std::int32_t step) {

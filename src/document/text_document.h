@@ -12,9 +12,11 @@
 #include "base/units.h"
 #include "document/bookmarks.h"
 #include "document/comment_state.h"
+#include "document/disk_state.h"
 #include "document/dyn_array.h"
 #include "document/line_arena.h"
 #include "document/marked_area.h"
+#include "document/text_writer.h"
 #include "document/undo_history.h"
 #include "language/extension_profile.h"
 #include "language/token_rules.h"
@@ -50,7 +52,10 @@ class TextDocument {
     // Writes the text to the path and forgets the history. False when the document is not named or the file could not
     // be written whole; the file's old contents are then as they were, and the document stays modified with its
     // history.
-    bool write();
+    bool write() { return tryWrite(false).result == WriteResult::Written; }
+    // The same, with what stands against it; the user may then allow a write without a safety copy. A file that no
+    // longer holds what was loaded from it or written there is not written over.
+    WriteOutcome tryWrite(bool withoutCopy);
     bool newEmpty();
     void setName(const std::optional<std::string>& path);
     // There is no file of the document's name that is its own, so that the first save asks for one.
@@ -59,6 +64,9 @@ class TextDocument {
     void setProfile(const ExtensionProfile& profile);
     const ExtensionProfile* profile() const { return profile_; }
 
+    // What is known of the file of this name.
+    DiskState& disk() { return disk_; }
+    const DiskState& disk() const { return disk_; }
     const std::string& fullPath() const { return path_; }
     const std::string& baseName() const { return baseName_; }
     bool isNamed() const { return named_; }
@@ -131,6 +139,8 @@ class TextDocument {
   private:
     friend class TextLoader;
     void discardText();
+    // Whether the document as it is would be written with other bytes than its file was loaded from.
+    bool changesWhenWritten() const;
     void clearChangedLines();
 
     const EditorOptions& options_;
@@ -138,6 +148,7 @@ class TextDocument {
     const ExtensionProfile* profile_ = nullptr;
     std::string path_;
     std::string baseName_;
+    DiskState disk_;
     LineArena arena_;
     DynArray lines_;
     std::unique_ptr<const TokenRules> tokenRules_;

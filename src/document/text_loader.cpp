@@ -47,7 +47,10 @@ bool TextLoader::read(File& file) {
 bool TextLoader::readLines() try {
     for (;;) {
         if (!endOfFile_ && available() < kLookAhead && !refill()) return false;
-        if (available() == 0) return true;
+        if (available() == 0) {
+            document_.disk_.checksum = checksum_.value();
+            return true;
+        }
         if (lines_ > kLastLoadedLine) {
             document_.notices().box(LoadText(TextId::FileTooLarge), kProgramCaption, BoxButtons::Ok);
             document_.truncated_ = true;
@@ -69,15 +72,31 @@ bool TextLoader::refill() {
     if (rest > 0) std::memcpy(block, next_, rest);
     next_ = block;
     end_ = block + rest;
+    char* const fresh = end_;
     while (end_ < block + size) {
         const std::optional<std::size_t> count = file_->read(end_, static_cast<std::size_t>(block + size - end_));
         if (!count) return false;
         endOfFile_ = *count == 0;
         if (endOfFile_) break;
         end_ += *count;
-        bytesRead_ += *count;
     }
+    noteRead(fresh);
     return true;
+}
+
+// What has been read into the block from here on.
+void TextLoader::noteRead(const char* begin) {
+    const std::string_view bytes(begin, static_cast<std::size_t>(end_ - begin));
+    if (bytesRead_ == 0) document_.disk_.kind = KindOfContents(bytes);
+    bytesRead_ += bytes.size();
+    checksum_.add(bytes);
+}
+
+// Among bytes, a CR before the line end belongs to the line.
+void TextLoader::noteLineEnd(const Cut& cut) {
+    if (cut.lineEnd == 0) return;
+    const bool isCrLf = cut.lineEnd == 2 || (bytes_ && cut.length > 0 && next_[cut.length - 1] == '\r');
+    (isCrLf ? document_.disk_.lineEnds.crLf : document_.disk_.lineEnds.lf) = true;
 }
 
 TextLoader::Cut TextLoader::nextCut() const {
@@ -93,6 +112,7 @@ TextLoader::Cut TextLoader::nextCut() const {
 
 void TextLoader::storeLine() {
     const Cut cut = nextCut();
+    noteLineEnd(cut);
     if (cut.tooLong) {
         storeSplit(cut);
         return;

@@ -3,7 +3,9 @@
 
 #include <cstddef>
 
+#include "base/checksum.h"
 #include "base/file.h"
+#include "document/disk_state.h"
 #include "document/line_arena.h"
 
 namespace vexa {
@@ -21,7 +23,8 @@ class TextLoader {
     TextLoader(TextDocument& document, LineArena& arena, bool bytes)
         : document_(document), arena_(arena), bytes_(bytes) {}
 
-    // False when the file could not be read to its end, or memory ran out.
+    // False when the file could not be read to its end, or memory ran out. Else the document knows its file's kind and
+    // line ends, and its checksum if all of it was read.
     bool read(File& file);
 
   private:
@@ -30,6 +33,8 @@ class TextLoader {
     bool readLines();
     bool refill();
     Cut nextCut() const;
+    void noteLineEnd(const Cut& cut);
+    void noteRead(const char* begin);
     void storeLine();
     void storeSplit(const Cut& cut);
     void store(const char* text, std::size_t length);
@@ -42,6 +47,7 @@ class TextLoader {
     char* next_ = nullptr;  // the unread part of the present block
     char* end_ = nullptr;
     std::uint64_t bytesRead_ = 0;
+    Checksum checksum_;
     bool endOfFile_ = false;
     int lines_ = 0;
 };

@@ -2,8 +2,8 @@
 
 #include <cstring>
 #include <memory>
-#include <optional>
 
+#include "base/checksum.h"
 #include "base/file.h"
 #include "base/strings.h"
 #include "document/text_document.h"
@@ -16,12 +16,11 @@ using platform::OpenMode;
 
 constexpr std::size_t kBuffer = std::size_t{1} << 18;
 constexpr char kCtrlZ = 26;
-constexpr char kLastCopyDigit = '9';
 
-// Collects bytes and hands them to a file in pieces of the buffer's size. After a failure nothing more is written.
+// Collects bytes and hands them on in pieces of the buffer's size. After a failure nothing more is handed on.
 class BufferedOutput {
   public:
-    explicit BufferedOutput(File& file) : file_(file), buffer_(new char[kBuffer]) {}
+    explicit BufferedOutput(const ByteSink& sink) : sink_(sink), buffer_(new char[kBuffer]) {}
 
     void put(std::string_view bytes) {
         if (bytes.size() > kBuffer - used_) bytes = fillAndFlush(bytes);
@@ -33,7 +32,7 @@ class BufferedOutput {
         buffer_[used_++] = byte;
     }
     bool flush() {
-        good_ = good_ && file_.write({buffer_.get(), used_});
+        good_ = good_ && sink_({buffer_.get(), used_});
         used_ = 0;
         return good_;
     }
@@ -51,7 +50,7 @@ class BufferedOutput {
         return bytes;
     }
 
-    File& file_;
+    const ByteSink& sink_;
     const std::unique_ptr<char[]> buffer_;
     std::size_t used_ = 0;
     bool good_ = true;
@@ -59,107 +58,88 @@ class BufferedOutput {
 
 }  // namespace
 
-bool WriteLines(const TextDocument& document, File& file, bool bytes) {
-    BufferedOutput output(file);
+bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes) {
+    BufferedOutput output(sink);
     const std::int32_t last = document.lineCount(LastUsed::Text);
+    const bool endsInCtrlZ = bytes && document.text(LineIndex(last)).ends_with(kCtrlZ);
     for (LineIndex i; i.value <= last; ++i) {
         output.put(document.text(i));
+        if (endsInCtrlZ && i.value == last) break;
         if (!bytes) output.put('\r');
         output.put('\n');
     }
-    if (bytes) output.put(kCtrlZ);
+    if (bytes && !endsInCtrlZ) output.put(kCtrlZ);
     return output.flush();
 }
 
 namespace {
 
-// Makes a file end where it has been written to, and brings it to the disk.
-bool Finish(File& file) {
-    return file.endHere() && file.flush();
+// The lines into a file; the checksum of what went there, or none.
+std::optional<std::uint64_t> WriteLinesTo(File& file, const TextDocument& document, bool bytes) {
+    Checksum checksum;
+    const auto sink = [&](std::string_view part) {
+        checksum.add(part);
+        return file.write(part);
+    };
+    if (!WriteLines(document, sink, bytes)) return std::nullopt;
+    return checksum.value();
 }
 
-bool CopyAll(File& from, File& to) {
-    std::string block(kBuffer, '\0');
-    for (;;) {
-        const std::optional<std::size_t> count = from.read(block.data(), block.size());
-        if (!count) return false;
-        if (*count == 0) return Finish(to);
-        if (!to.write({block.data(), *count})) return false;
-    }
-}
-
-// Opens a safety copy under the first name that is free.
-File NewSafetyCopy(const std::string& path, std::string& name) {
-    name = SafetyCopyOf(path);
-    while (platform::PathExists(name) && name.back() < kLastCopyDigit)
-        ++name.back();
-    return File(name, OpenMode::CreateNew);
-}
-
-bool WriteNewFile(const TextDocument& document, const std::string& path, bool bytes) {
+WriteOutcome WriteNewFile(const TextDocument& document, const std::string& path, bool bytes) {
     File file(path, OpenMode::CreateNew);
-    if (!file.isOpen()) return false;
-    const bool written = WriteLines(document, file, bytes) && file.flush();
-    if (file.close() && written) return true;
+    if (!file.isOpen()) return {};
+    const auto checksum = WriteLinesTo(file, document, bytes);
+    const bool written = checksum && file.flush();
+    if (file.close() && written) return {WriteResult::Written, CopyFault::None, *checksum};
     platform::RemoveFile(path);
-    return false;
+    return {};
 }
 
-bool PutBack(const std::string& copyName, File& target) {
-    File copy(copyName, OpenMode::Read);
-    return copy.isOpen() && target.isOpen() && target.seek(0) && CopyAll(copy, target);
+void Tell(const TextDocument& document, TextId text, const std::string& copyName) {
+    document.notices().box(FillText(text, {document.baseName(), copyName}), kErrorCaption, BoxButtons::Ok);
 }
 
-// Overwrites an open file whose old contents lie in the safety copy.
-bool Overwrite(const TextDocument& document, const std::string& path, File& target, const std::string& copyName,
-               bool bytes) {
-    const bool written = WriteLines(document, target, bytes) && Finish(target);
-    if (target.close() && written) {
-        platform::RemoveFile(copyName);
-        return true;
-    }
-    target = File(path, OpenMode::ReadWrite);
-    const bool back = PutBack(copyName, target);
-    if (target.close() && back) {
-        platform::RemoveFile(copyName);
-    } else {
-        document.notices().box(FillText(TextId::SaveInterrupted, {document.baseName(), copyName}), kErrorCaption,
-                               BoxButtons::Ok);
-    }
-    return false;
-}
-
-bool WriteExistingFile(const TextDocument& document, const std::string& path, bool bytes) {
+WriteResult PutBack(const TextDocument& document, const std::string& path, const SafetyCopy& old) {
     File target(path, OpenMode::ReadWrite);
-    if (!target.isOpen()) return false;
-    std::string copyName;
-    File copy = NewSafetyCopy(path, copyName);
-    if (!copy.isOpen()) return false;
-    const bool copied = CopyAll(target, copy);
-    if (!copy.close() || !copied || !target.seek(0)) {
-        platform::RemoveFile(copyName);
-        return false;
+    const bool back = target.isOpen() && old.putBack(target);
+    if (target.close() && back) {
+        old.remove();
+        return WriteResult::Failed;
     }
-    return Overwrite(document, path, target, copyName, bytes);
+    Tell(document, old.name().empty() ? TextId::OldTextLost : TextId::SaveInterrupted, old.name());
+    return WriteResult::Torn;
+}
+
+// Overwrites an open file whose old contents are safe.
+WriteOutcome Overwrite(const TextDocument& document, const std::string& path, File& target, const SafetyCopy& old,
+                       bool bytes) {
+    const auto checksum = target.seek(0) ? WriteLinesTo(target, document, bytes) : std::nullopt;
+    const bool written = checksum && target.endHere() && target.flush();
+    if (target.close() && written) {
+        if (!old.remove()) Tell(document, TextId::CopyNotRemoved, old.name());
+        return {WriteResult::Written, CopyFault::None, *checksum};
+    }
+    return {PutBack(document, path, old), CopyFault::None, 0};
+}
+
+WriteOutcome WriteExistingFile(const TextDocument& document, const std::string& path, const WriteOrder& order) {
+    File target(path, OpenMode::ReadWrite);
+    if (!target.isOpen()) return {};
+    const SafetyCopy old = order.withoutCopy ? SafetyCopy::inMemory(target) : SafetyCopy(path, target);
+    if (old.fault() == CopyFault::Unreadable) return {};
+    if (old.fault() != CopyFault::None) return {WriteResult::NoCopy, old.fault(), 0};
+    if (order.expected && *order.expected != old.checksum()) {
+        old.remove();
+        return {WriteResult::FileChanged, CopyFault::None, old.checksum()};
+    }
+    return Overwrite(document, path, target, old, order.bytes);
 }
 
 }  // namespace
 
-bool WriteText(const TextDocument& document, const std::string& path, bool bytes) {
-    return platform::PathExists(path) ? WriteExistingFile(document, path, bytes) : WriteNewFile(document, path, bytes);
-}
-
-std::string SafetyCopyOf(const std::string& path) {
-    return path + ".vx0";
-}
-
-std::string LeftSafetyCopy(const std::string& path) {
-    std::string name = SafetyCopyOf(path);
-    std::string found;
-    for (; name.back() <= kLastCopyDigit; ++name.back()) {
-        if (platform::PathExists(name)) found = name;
-    }
-    return found;
+WriteOutcome WriteText(const TextDocument& document, const std::string& path, const WriteOrder& order) {
+    return platform::PathExists(path) ? WriteExistingFile(document, path, order)
+                                      : WriteNewFile(document, path, order.bytes);
 }
 
 }  // namespace vexa

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "base/ascii.h"
+#include "base/checksum.h"
 #include "base/file.h"
+#include "base/file_name.h"
 #include "base/scoped_flag.h"
 #include "base/strings.h"
 #include "document/text_writer.h"
@@ -19,6 +22,24 @@ std::string FileNameOf(const TextDocument& document) {
     return name.substr(name.find_last_of("\\/:") + 1);
 }
 
+std::string Upper(std::string text) {
+    std::ranges::transform(text, text.begin(), UpperAscii);
+    return text;
+}
+
+// Documents that have never been saved share one name.
+std::string OwnNameOf(const TextDocument& document) {
+    const std::string& path = document.fullPath();
+    if (IsFullName(path)) return Upper(path);
+    return path + std::to_string(reinterpret_cast<std::uintptr_t>(&document));
+}
+
+std::string MarkedName(const std::string& name, const std::string& owner) {
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    const std::string mark = std::to_string(static_cast<std::uint32_t>(ChecksumOf(owner)));
+    return name.substr(0, dot) + "~" + mark + name.substr(dot);
+}
+
 }  // namespace
 
 // A time to come is left from before the clock was set back; the interval begins anew.
@@ -29,18 +50,30 @@ std::int64_t AutoBackup::BackupTime(TextDocument& document) const {
     return time;
 }
 
-bool AutoBackup::BackupDocument(TextDocument& document) const {
+bool AutoBackup::BackupDocument(TextDocument& document) {
     BackupState& state = document.backup();
     if (state.isWriting || !document.isModified()) return false;
     const ScopedFlag writing(state.isWriting);
     state.time = clock_();
+    keepOther(document);
     return writeCopy(document);
+}
+
+void AutoBackup::keepOther(const TextDocument& document) {
+    const std::string name = FileNameOf(document);
+    std::string& owner = owners_[Upper(name)];
+    const std::string path = OwnNameOf(document);
+    if (!owner.empty() && owner != path)
+        platform::RenameFile(directory_ + "\\" + name, directory_ + "\\" + MarkedName(name, owner));
+    owner = path;
 }
 
 bool AutoBackup::writeCopy(TextDocument& document) const {
     const bool bytes = options_.FileWrite;
-    return RewriteFile(directory_ + "\\" + FileNameOf(document),
-                       [&](File& file) { return WriteLines(document, file, bytes); });
+    return RewriteFile(directory_ + "\\" + FileNameOf(document), [&](File& file) {
+        return WriteLines(
+            document, [&file](std::string_view part) { return file.write(part); }, bytes);
+    });
 }
 
 bool AutoBackup::isDue(TextDocument& document) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,9 +35,11 @@ class AutoBackup {
     // document after that. Before that it is now.
     std::int64_t BackupTime(TextDocument& document) const;
 
-    // Copies a modified document into the backup directory, under its base name, over an older copy. True when the copy
+    // Copies a modified document into the backup directory, under its base name, over an older copy. Documents of one
+    // base name share that backup: the latest has it, and what it held of another document moves to a name with a mark
+    // of that document's directory. True when the copy
     // was written whole; the older one stays otherwise. Either way the next is due after another interval.
-    bool BackupDocument(TextDocument& document) const;
+    bool BackupDocument(TextDocument& document);
 
     // Backs up what is due; called by a timer several times a minute. Messages run in between, so documents may close.
     void CheckBackups();
@@ -45,10 +48,12 @@ class AutoBackup {
     bool isDue(TextDocument& document) const;
     bool isOpen(const TextDocument* document) const;
     bool writeCopy(TextDocument& document) const;
+    void keepOther(const TextDocument& document);
 
     BackupFrame& frame_;
     const EditorOptions& options_;
     const std::string directory_;
+    std::map<std::string, std::string> owners_;  // by base name: whose backup is there, as far as this session knows
     Notices& notices_;
     const Clock clock_;
     bool checking_ = false;

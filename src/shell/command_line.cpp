@@ -102,11 +102,18 @@ std::int32_t ParseLineOption(const std::string& argument) {
     return digits == found.end() ? kNoLine : LeadingInteger({digits, found.end()});
 }
 
+std::int32_t LineNamedBy(const std::string& argument) {
+    const std::int32_t line = ParseLineOption(argument);
+    const std::string path = OpenPathOf(argument);
+    const bool isFile = line != kNoLine && platform::PathExists(path) && !platform::DirectoryExists(path);
+    return isFile ? kNoLine : line;
+}
+
 std::vector<FileAtLine> FilesOf(std::span<const std::string> arguments) {
     std::int32_t line = 0;
     std::vector<std::string> names;
     for (const std::string& argument : arguments) {
-        const std::int32_t named = ParseLineOption(argument);
+        const std::int32_t named = LineNamedBy(argument);
         if (named != kNoLine) line = named;
         if (named == kNoLine && !argument.empty()) names.push_back(argument);
     }

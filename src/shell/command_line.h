@@ -33,6 +33,9 @@ struct FileAtLine {
     bool operator==(const FileAtLine&) const = default;
 };
 
+// The same, but an argument that is the name of an existing file ("my-l2.c") is that file and names no line.
+std::int32_t LineNamedBy(const std::string& argument);
+
 // The files that the arguments name, by full names: the last line option counts for every file named as it is, and a
 // name with "*" or "?" stands for the normal files that match, each at its first line. Looks into the current
 // directory, so it must be called before that changes.

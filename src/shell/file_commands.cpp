@@ -2,7 +2,9 @@
 
 #include "base/platform.h"
 #include "base/strings.h"
-#include "document/text_writer.h"
+#include "document/file_identity.h"
+#include "shell/file_name_check.h"
+#include "shell/opened_notice.h"
 
 namespace vexa {
 
@@ -26,7 +28,7 @@ bool SuffixDiffers(std::string_view a, std::string_view b) {
 }  // namespace
 
 FileCommands::FileCommands(Notices& notices, FileQuestions& questions, ProfileList& profiles)
-    : notices_(notices), questions_(questions), profiles_(profiles) {}
+    : notices_(notices), saving_(notices), questions_(questions), profiles_(profiles) {}
 
 bool FileCommands::open(TextDocument& document, const std::optional<std::string>& path) {
     document.setName(path.value_or(kUntitled));
@@ -35,56 +37,56 @@ bool FileCommands::open(TextDocument& document, const std::optional<std::string>
     if (!opened) {
         notices_.status(FillText(TextId::UnexpectedError, {"VXEPAN01", "2562"}), true, true);
         notices_.box(FillText(TextId::CannotOpenFile, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
-    } else if (path) {
-        tellOfSafetyCopy(document);
+        return false;
     }
-    return opened;
+    const std::string notice = OpenedNotice(document);
+    if (!notice.empty()) notices_.status(notice, false, false);
+    return true;
 }
 
-void FileCommands::tellOfSafetyCopy(const TextDocument& document) {
-    const std::string copy = LeftSafetyCopy(document.fullPath());
-    if (!copy.empty())
-        notices_.box(FillText(TextId::SaveInterrupted, {document.baseName(), copy}), kProgramCaption, BoxButtons::Ok);
+void FileCommands::refuseTruncated(const TextDocument& document) {
+    notices_.box(FillText(TextId::FileTruncated, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
 }
 
+// An unmodified document is written only when its file is no longer there.
 bool FileCommands::save(TextDocument& document) {
     if (document.isTruncated()) {
-        notices_.box(FillText(TextId::FileTruncated, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
+        refuseTruncated(document);
         return false;
     }
     if (!document.isNamed()) return saveAs(document);
-    if (document.isModified() && !document.write()) {
-        tellWriteFailed(document.baseName());
-        return false;
-    }
+    const bool isNeeded = document.isModified() || !platform::FactsOf(document.fullPath());
+    if (isNeeded && !(saving_.mayChangeBytes(document) && saving_.write(document))) return false;
     notices_.status(LoadText(TextId::WriteSuccessful), false, false);
     return true;
 }
 
 bool FileCommands::saveAs(TextDocument& document) {
-    const std::optional<std::string> path = questions_.askSaveName(document);
-    return path && writeUnder(document, *path);
+    const std::optional<std::string> answer = questions_.askSaveName(document);
+    if (!answer || !IsUsableName(*answer, notices_)) return false;
+    const std::string path = platform::LongPath(*answer);
+    if (document.isTruncated() && FileIdentity(path).isFileOf(document)) {
+        refuseTruncated(document);
+        return false;
+    }
+    return saving_.mayChangeBytes(document) && writeUnder(document, path);
 }
 
 bool FileCommands::writeUnder(TextDocument& document, const std::string& path) {
     const std::string oldPath = document.fullPath();
     const bool wasNamed = document.isNamed();
+    const DiskState oldState = document.disk();
     document.setName(path);
-    if (!document.write()) {
-        const std::string newName = document.baseName();
+    if (!saving_.write(document)) {
         document.setName(oldPath);
+        document.disk() = oldState;
         if (!wasNamed) document.forgetFile();
-        tellWriteFailed(newName);
         return false;
     }
     if (SuffixDiffers(oldPath, path)) takeProfile(document);
     questions_.nameChanged(document);
     notices_.status(LoadText(TextId::WriteSuccessful), false, false);
     return true;
-}
-
-void FileCommands::tellWriteFailed(const std::string& name) {
-    notices_.box(FillText(TextId::CannotWriteFile, {name}), kErrorCaption, BoxButtons::Ok);
 }
 
 bool FileCommands::queryClose(TextDocument& document) {

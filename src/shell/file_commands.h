@@ -7,6 +7,7 @@
 #include "base/notices.h"
 #include "document/text_document.h"
 #include "language/profile_list.h"
+#include "shell/file_saving.h"
 
 namespace vexa {
 
@@ -37,10 +38,10 @@ class FileCommands {
 
   private:
     bool writeUnder(TextDocument& document, const std::string& path);
-    void tellOfSafetyCopy(const TextDocument& document);
-    void tellWriteFailed(const std::string& name);
+    void refuseTruncated(const TextDocument& document);
 
     Notices& notices_;
+    FileSaving saving_;
     FileQuestions& questions_;
     ProfileList& profiles_;
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/file_name_check.h"
+#include "shell/left_copies.h"
 #include "shell/open_path.h"
 
 namespace vexa {
@@ -11,8 +13,12 @@ bool FileOpening::OpenFileAtLine(const std::optional<std::string>& name, std::in
     const LineIndex target(std::max(line, 1) - 1);
     if (!name) return frame_.openWindow(std::nullopt, target);
     const std::string path = OpenPathOf(*name);
+    if (!IsUsableName(path, notices_)) return false;
     const bool isShown = !options_.MultipleCopies && frame_.activateShowing(path, target);
-    return isShown || frame_.openWindow(path, target);
+    if (isShown) return true;
+    if (!frame_.openWindow(path, target)) return false;
+    OfferLeftCopies(path, notices_, [this](const std::string& copy) { frame_.openWindow(copy, LineIndex(0)); });
+    return true;
 }
 
 int FileOpening::OpenCommandLineFiles(std::span<const FileAtLine> files) {

@@ -19,8 +19,8 @@ namespace vexa {
 class DocumentFrame {
   public:
     virtual ~DocumentFrame() = default;
-    // Activates the first window whose document's path is this one, letter case ignored, with its caret at a line;
-    // false when there is none.
+    // Activates the first window that shows the file of this path, by whatever name, with its caret at a line; false
+    // when there is none.
     virtual bool activateShowing(const std::string& path, LineIndex line) = 0;
     // Makes a window with the file's text, the caret at a line, or with a new document when there is no path. False
     // when it could not be loaded, which the user has then been told.

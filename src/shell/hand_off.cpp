@@ -74,8 +74,8 @@ HandOffDecision ShouldHandOff(std::string_view commandLine, std::span<const std:
     if (commandLine.find_first_of("*?") != std::string_view::npos) return {};
     if (arguments.size() == 1) return {true, kNoLine};
     if (arguments.size() != 2) return {};
-    const std::int32_t first = ParseLineOption(arguments[0]);
-    const std::int32_t line = first != kNoLine ? first : ParseLineOption(arguments[1]);
+    const std::int32_t first = LineNamedBy(arguments[0]);
+    const std::int32_t line = first != kNoLine ? first : LineNamedBy(arguments[1]);
     return {line != kNoLine, line};
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/ascii.h"
 #include "base/directories.h"
+#include "base/file_name.h"
 #include "base/platform.h"
 #include "base/strings.h"
 #include "language/name_at_caret.h"
@@ -17,10 +18,8 @@ bool HasPlaceOfItsOwn(std::string_view name) {
     return name.starts_with('\\') || (name.size() > 1 && name[1] == ':');
 }
 
-// Files are opened by paths with a drive.
 bool IsFile(const std::string& path) {
-    const bool hasDrive = path.size() > 2 && path[1] == ':';
-    return hasDrive && platform::PathExists(path) && !platform::DirectoryExists(path);
+    return IsFullName(path) && platform::PathExists(path) && !platform::DirectoryExists(path);
 }
 
 std::string Joined(std::string directory, const std::string& name) {

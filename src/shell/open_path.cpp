@@ -1,22 +1,24 @@
 #include "shell/open_path.h"
 
+#include "base/file_name.h"
 #include "base/platform.h"
 
 namespace vexa {
 namespace {
 
-bool HasDrive(const std::string& name) {
-    return name.size() > 1 && name[1] == ':';
+std::string PathOf(const std::string& name) {
+    if (IsFullName(name)) return name;
+    const std::string file = name.substr(name.find_last_of('\\') + 1);
+    const std::string directory = platform::CurrentDirectory();
+    return directory.ends_with('\\') ? directory + file : directory + "\\" + file;
 }
 
 }  // namespace
 
 std::string OpenPathOf(const std::string& name) {
-    const bool isFull = HasDrive(name) && name.size() > 2;
-    if (isFull) return name;
-    const std::string file = name.substr(name.find_last_of('\\') + 1);
-    const std::string directory = platform::CurrentDirectory();
-    return directory.ends_with('\\') ? directory + file : directory + "\\" + file;
+    const std::string path = PathOf(name);
+    const std::string usual = platform::LongPath(path);
+    return usual.empty() ? path : usual;
 }
 
 }  // namespace vexa

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "base/directories.h"
+#include "base/file_name.h"
 #include "base/platform.h"
 #include "base/strings.h"
 
@@ -19,13 +20,9 @@ std::vector<std::string> Split(std::string_view text, char separator) {
     return parts;
 }
 
-bool IsFullPath(const std::string& path) {
-    return path.size() > 1 && (path[1] == ':' || path.starts_with("\\\\"));
-}
-
 // A dialog may also give names with paths of their own.
 std::string Joined(const std::string& directory, const std::string& name) {
-    if (IsFullPath(name)) return name;
+    if (IsFullName(name)) return name;
     return directory.ends_with('\\') ? directory + name : directory + "\\" + name;
 }
 

@@ -60,7 +60,7 @@ int RunEditor(const vexa::CommandLine& commandLine, int showCommand, StartTurn& 
         const bool isOpen = frame.open(showCommand);
         turn.reset();
         if (isOpen) {
-            frame.openFirstFiles(files);
+            frame.openFirstFiles(files, commandLine.arguments.empty());
             exitCode = frame.run();
         }
     }

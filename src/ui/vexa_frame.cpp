@@ -6,9 +6,9 @@
 
 #include <algorithm>
 
-#include "base/ascii.h"
 #include "base/platform.h"
 #include "base/strings.h"
+#include "document/file_identity.h"
 #include "framework/file_dialog.h"
 #include "framework/message_box.h"
 #include "framework/title_bar.h"
@@ -61,13 +61,13 @@ bool VexaFrame::open(int showCommand) {
     return true;
 }
 
-void VexaFrame::openFirstFiles(std::span<const FileAtLine> files) {
+void VexaFrame::openFirstFiles(std::span<const FileAtLine> files, bool isBareStart) {
     recentFiles_.LoadRecentFiles(application_.store, application_.options.RestoreFiles);
     showRecentFiles();
     startupFiles_.RestoreStartupFiles(application_.options.RestoreFiles,
                                       [this](const std::string& path, std::int32_t line) { restoreFile(path, line); });
     opening_.OpenCommandLineFiles(files);
-    if (children().empty() && files.empty()) newDocument();
+    if (children().empty() && isBareStart) newDocument();
 }
 
 bool VexaFrame::onCreate() {
@@ -205,9 +205,10 @@ ChildShow VexaFrame::showOfNewWindow() const {
 }
 
 bool VexaFrame::activateShowing(const std::string& path, LineIndex line) {
+    const FileIdentity file(path);
     for (const auto& child : children()) {
         auto* shown = dynamic_cast<DocumentWindow*>(child.get());
-        if (!shown || !EqualIgnoringCase(shown->document().fullPath(), path)) continue;
+        if (!shown || !file.isFileOf(shown->document())) continue;
         activate(*shown);
         shown->view().goTo(line, CharColumn(0));
         shown->refresh();

@@ -47,8 +47,9 @@ class VexaFrame : public MDIframeCL,
     // Opens the window where it was last; from then on it takes files from other programs. False when the system
     // refuses to make the window.
     bool open(int showCommand);
-    // Opens the files of the last session and then those of the command line; with none of either, a new document.
-    void openFirstFiles(std::span<const FileAtLine> files);
+    // Opens the files of the last session and then those of the command line; with none of either, a new document if
+    // it is a bare start, without arguments.
+    void openFirstFiles(std::span<const FileAtLine> files, bool isBareStart);
     // Runs until the frame is closed; the program's exit code.
     int run() { return loop_.run(); }
     bool translate(MSG& message) override;

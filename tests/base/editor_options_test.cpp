@@ -38,6 +38,22 @@ TEST_F(Options, AMissingFileGivesDefaultsAndSavingWritesTheWholeSections) {
     EXPECT_EQ(store.ReadString("History", "LastDirectoryUsed", "", 255), platform::CurrentDirectory());
 }
 
+TEST_F(Options, ADirectoryOfMoreThan254CharactersIsNotNoted) {
+    for (const std::size_t length : {std::size_t{254}, std::size_t{255}}) {
+        std::string directory = disk.path();
+        while (directory.size() < length) {
+            const std::size_t room = length - directory.size() - 1;
+            directory += "\\" + std::string(room <= 50 ? room : std::min<std::size_t>(50, room - 2), 'd');
+            ASSERT_TRUE(platform::MakeDirectory(directory));
+        }
+        ASSERT_TRUE(platform::ChangeDirectory(directory));
+        loaded().Save(store);
+        const bool isNoted = store.ReadString("History", "LastDirectoryUsed", "", 300) == directory;
+        EXPECT_EQ(isNoted, length == 254);
+        ASSERT_TRUE(platform::ChangeDirectory(disk.path() + "\\"));
+    }
+}
+
 TEST_F(Options, EveryFieldSurvivesARun) {
     EditorOptions options;
     for (bool EditorOptions::*flag :

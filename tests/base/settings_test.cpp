@@ -101,6 +101,9 @@ TEST_F(Settings, AMissingFileIsMadeAndAValueStaysOneLine) {
     store.WriteString("Main", "key", "one\r\n[Evil]\r\nk=1");
     EXPECT_EQ(text("key"), "one");
     EXPECT_EQ(store.ReadString("Evil", "k", "none", 10), "none");
+    store.WriteString("Main", "key", std::string("a\0b", 3));
+    EXPECT_EQ(text("key"), "a");
+    EXPECT_EQ(disk.get("VEXA.INI").find('\0'), std::string::npos);
     store.WriteString("Main", "key", "");
     EXPECT_EQ(text("key"), "");
     EXPECT_EQ(disk.count(), 1u) << "no file beside the settings file is left behind";

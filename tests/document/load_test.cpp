@@ -6,6 +6,7 @@
 
 #include "base/file.h"
 #include "base/strings.h"
+#include "document/file_identity.h"
 #include "document/text_document.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
@@ -119,6 +120,84 @@ TEST_F(Load, LinesAcrossTheBlocksOfTheReaderAreWhole) {
     ASSERT_TRUE(load(file + "x"));
     expected.emplace_back("x");
     EXPECT_EQ(lines(), expected);
+}
+
+TEST_F(Load, ALineAtTheEndOfABlockIsCutAsAnywhere) {
+    constexpr std::size_t kBlock = 1 << 20;
+    const std::string last = std::string(293, 'a') + "12345\r\nnext";
+    ASSERT_TRUE(load(last));
+    const Lines alone = lines();
+    for (std::size_t rest = 290; rest <= 305; ++rest) {  // how much of it the first block holds
+        std::string filler;
+        while (filler.size() < kBlock - rest)
+            filler += std::string(std::min<std::size_t>(199, kBlock - rest - filler.size() - 1), 'f') + "\n";
+        ASSERT_TRUE(load(filler + last));
+        const Lines all = lines();
+        EXPECT_EQ(Lines(all.end() - static_cast<std::ptrdiff_t>(alone.size()), all.end()), alone) << rest;
+    }
+}
+
+TEST_F(Load, AFileThatCannotBeReadToItsEndLeavesNoLines) {
+    static int reads;
+    reads = 0;
+    SetFileFault([](FileStep step) { return step == FileStep::Read && reads++ == 1; });
+    std::string bytes;
+    while (bytes.size() < 1'500'000)
+        bytes += std::string(100, 'a') + "\n";
+    EXPECT_FALSE(load(bytes));
+    SetFileFault(nullptr);
+    EXPECT_EQ(reads, 2);
+    EXPECT_FALSE(document_.isNamed());
+    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 200);
+    EXPECT_EQ(text(0), "");
+    EXPECT_EQ(document_.disk().checksum, std::nullopt);
+}
+
+TEST_F(Load, OneFileIsKnownByAllItsNames) {
+    disk_.makeDirectory("SUB");
+    ASSERT_TRUE(load("abc"));
+    disk_.link("A.TXT", "LINK.TXT");
+    disk_.put("B.TXT", "abc");
+    const std::pair<std::string, bool> cases[] = {
+        {disk_.path("a.txt"), true},   {disk_.path("SUB\\..\\A.TXT"), true}, {disk_.path("LINK.TXT"), true},
+        {disk_.path("A.TXT. "), true}, {disk_.path() + "/./A.TXT", true},    {"A.TXT", true},
+        {disk_.path("B.TXT"), false},  {disk_.path("NONE.TXT"), false},      {disk_.path("SUB"), false},
+    };
+    for (const auto& [name, isSame] : cases)
+        EXPECT_EQ(FileIdentity(name).isFileOf(document_), isSame) << name;
+    document_.setName("untitled.txt");
+    EXPECT_FALSE(FileIdentity("untitled.txt").isFileOf(document_)) << "not a name of a file";
+}
+
+TEST_F(Load, WhatAFileHoldsIsKnown) {
+    struct Case {
+        std::string bytes;
+        ContentsKind kind;
+        bool crLf;
+        bool lf;
+        bool changesUnedited;
+    };
+    const Case cases[] = {
+        {"one\r\ntwo\r\n", ContentsKind::Text, true, false, false},
+        {"one\ntwo\r\n", ContentsKind::Text, true, true, false},
+        {"one", ContentsKind::Text, false, false, false},
+        {std::string("a\0b\r\n", 5), ContentsKind::Binary, true, false, false},
+        {std::string("a\0b\n", 4), ContentsKind::Binary, false, true, true},
+        {std::string("\xFF\xFE"
+                     "a\0\n\0",
+                     6),
+         ContentsKind::Utf16, false, true, true},
+        {"\xFE\xFF", ContentsKind::Utf16, false, false, true},
+        {std::string(8192, 'x') + std::string(1, '\0'), ContentsKind::Text, false, false, false},
+    };
+    for (const Case& c : cases) {
+        load(c.bytes);
+        const DiskState& disk = document_.disk();
+        EXPECT_EQ(disk.kind, c.kind) << c.bytes.substr(0, 20);
+        EXPECT_EQ(disk.lineEnds.crLf, c.crLf) << c.bytes.substr(0, 20);
+        EXPECT_EQ(disk.lineEnds.lf, c.lf) << c.bytes.substr(0, 20);
+        EXPECT_EQ(disk.changesUnedited, c.changesUnedited) << c.bytes.substr(0, 20);
+    }
 }
 
 TEST_F(Load, ExactlyTheLimitOfLinesIsWhole) {

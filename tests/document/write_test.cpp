@@ -8,6 +8,9 @@
 #include "document/text_document.h"
 #include "document/text_writer.h"
 #ifndef _WIN32
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "support/full_disk.h"
 #endif
 #include "support/recording_notices.h"
@@ -54,6 +57,8 @@ TEST_F(Write, BytesHaveLfAndAFinalCtrlZ) {
     load("one\ntwo");
     ASSERT_TRUE(document_.write());
     EXPECT_EQ(disk_.get("A.TXT"), "one\ntwo\n\x1A");
+    ASSERT_TRUE(document_.load() && document_.write());
+    EXPECT_EQ(disk_.get("A.TXT"), "one\ntwo\n\x1A") << "no second one";
 }
 
 TEST_F(Write, ADocumentWithoutTextIsOneEmptyLine) {
@@ -144,7 +149,8 @@ std::string LargeText(char c) {
 
 TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
     const std::string old = LargeText('o');
-    const FileStep steps[] = {FileStep::Open, FileStep::Write, FileStep::End, FileStep::Flush, FileStep::Close};
+    const FileStep steps[] = {FileStep::Open, FileStep::Read,  FileStep::Write,
+                              FileStep::End,  FileStep::Flush, FileStep::Close};
     int struck = 0;
     for (const FileStep step : steps) {
         for (int countdown = 0; countdown < 12; ++countdown) {
@@ -155,7 +161,8 @@ TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
             const bool written = document_.write();
             SetFileFault(nullptr);
             SCOPED_TRACE("step " + std::to_string(static_cast<int>(step)) + " after " + std::to_string(countdown));
-            EXPECT_FALSE(disk_.has(copyName()));
+            EXPECT_FALSE(written && countdown == 0) << "the copy was not made, so the file may not be touched";
+            EXPECT_EQ(disk_.count(), 1u) << "something of the copy is left";
             EXPECT_EQ(disk_.get("A.TXT"), written ? "x" + old : old);
             EXPECT_EQ(document_.isModified(), !written);
             EXPECT_EQ(document_.undo().isEmpty(), written);
@@ -166,6 +173,59 @@ TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
 }
 
 #ifndef _WIN32
+int g_stepsBeforeEnd = 0;
+
+TEST_F(Write, AProgramThatEndsAtAnyStepLeavesTheOldTextWhole) {
+    const std::string old = LargeText('o');
+    for (int steps = 0, ended = 0; ended == 0; ++steps) {
+        platform::RemoveFile(disk_.path(copyName()));
+        load(old);
+        type("x");
+        const pid_t child = fork();
+        if (child == 0) {
+            g_stepsBeforeEnd = steps;
+            SetFileFault([](FileStep) {
+                if (g_stepsBeforeEnd-- == 0) _exit(0);
+                return false;
+            });
+            _exit(document_.write() ? 1 : 2);
+        }
+        ASSERT_EQ(waitpid(child, &ended, 0), child);
+        SCOPED_TRACE(steps);
+        const std::vector<std::string> copies = LeftSafetyCopies(disk_.path("A.TXT"));
+        ASSERT_LE(copies.size(), 1u);
+        if (!copies.empty()) {
+            EXPECT_EQ(disk_.get(copyName()), old);
+        } else {
+            const std::string now = disk_.get("A.TXT");
+            EXPECT_TRUE(now == old || now == "x" + old);
+        }
+    }
+    EXPECT_EQ(disk_.get("A.TXT"), "x" + old);
+    EXPECT_EQ(disk_.count(), 1u) << "what an earlier end left of a copy in the making";
+}
+
+TEST_F(Write, ACopyThatCannotLieBesideTheFileLiesAmongTheBackups) {
+    disk_.makeDirectory("vbackup");
+    const std::string names[] = {std::string(254, 'n'), "A.TXT"};  // the first leaves no room for ".vx0"
+    for (char digit = '0'; digit <= '9'; ++digit)
+        disk_.put(std::string("A.TXT.vx") + digit, "kept");
+    for (const std::string& name : names) {
+        disk_.put(name, LargeText('o'));
+        document_.setName(disk_.path(name));
+        ASSERT_TRUE(document_.load());
+        type("x");
+        plan = {FileStep::Write, 4, 1000, false};
+        SetFileFault(Strike);
+        EXPECT_FALSE(document_.write());
+        SetFileFault(nullptr);
+        ASSERT_FALSE(LeftSafetyCopies(disk_.path(name)).empty());
+        EXPECT_EQ(disk_.get(LeftSafetyCopies(disk_.path(name))[0].substr(3)), LargeText('o'));
+        EXPECT_TRUE(document_.write());
+    }
+    EXPECT_EQ(disk_.count("vbackup"), 2u) << "the copies of the two failures";
+}
+
 TEST_F(Write, ADiskWithoutRoomKeepsTheOldFileWherePlaceRunsOut) {
     const std::string old = LargeText('o');
     for (const rlim_t room : {rlim_t{1000}, rlim_t{300'000}, rlim_t{old.size()}, rlim_t{old.size() + 100'000}}) {
@@ -210,12 +270,62 @@ TEST_F(Write, WhenPuttingBackFailsTooTheOldTextStaysInItsCopyAndTheUserIsTold) {
     EXPECT_EQ(disk_.get(copyName()), old);
     ASSERT_EQ(notices_.boxes.size(), 1u);
     EXPECT_NE(notices_.boxes[0].text.find(disk_.path(copyName())), std::string::npos);
-    EXPECT_EQ(LeftSafetyCopy(disk_.path("A.TXT")), disk_.path(copyName()));
+    EXPECT_EQ(LeftSafetyCopies(disk_.path("A.TXT")), std::vector{disk_.path(copyName())});
 
     // The copy of an interrupted save is not overwritten by the next one.
     ASSERT_TRUE(document_.write());
     EXPECT_EQ(disk_.get(copyName()), old);
     EXPECT_FALSE(disk_.has("A.TXT.vx1"));
+}
+
+TEST_F(Write, TheTenthSafetyCopyIsTheLast) {
+    load(LargeText('o'));
+    type("x");
+    for (char digit = '0'; digit <= '8'; ++digit)
+        disk_.put(std::string("A.TXT.vx") + digit, "kept");
+    plan = {FileStep::Write, 4, 1000, false};
+    SetFileFault(Strike);
+    EXPECT_FALSE(document_.write());
+    SetFileFault(nullptr);
+    EXPECT_EQ(disk_.get("A.TXT.vx9"), LargeText('o'));
+}
+
+TEST_F(Write, AFileThatHasChangedSinceIsNotWrittenOver) {
+    const std::pair<std::string, WriteResult> cases[] = {
+        {"old", WriteResult::Written},  // touched only
+        {"odl", WriteResult::FileChanged},
+        {"old\r\n", WriteResult::FileChanged},
+        {"", WriteResult::FileChanged},
+    };
+    for (const auto& [bytes, result] : cases) {
+        load("old");
+        type("x");
+        disk_.put("A.TXT", bytes);
+        EXPECT_EQ(document_.tryWrite(false).result, result) << bytes;
+        EXPECT_EQ(disk_.get("A.TXT"), result == WriteResult::Written ? "xold\r\n" : bytes);
+        EXPECT_EQ(disk_.count(), 1u);
+    }
+    load("old");
+    for (int n = 0; n < 3; ++n) {
+        type("x");
+        EXPECT_TRUE(document_.write()) << "its own save is no change";
+    }
+    disk_.put("A.TXT", "other");
+    document_.setName(disk_.path("A.TXT"));
+    EXPECT_TRUE(document_.write()) << "a name that it was given has nothing to be compared with";
+}
+
+TEST_F(Write, WithoutACopyTheOldTextIsPutBackFromMemory) {
+    load(LargeText('o'));
+    type("x");
+    plan = {FileStep::Write, 1, 1, false};
+    SetFileFault(Strike);
+    EXPECT_EQ(document_.tryWrite(true).result, WriteResult::Failed);
+    SetFileFault(nullptr);
+    EXPECT_TRUE(plan.struck);
+    EXPECT_EQ(disk_.get("A.TXT"), LargeText('o'));
+    disk_.put("A.TXT", "other");
+    EXPECT_EQ(document_.tryWrite(true).result, WriteResult::FileChanged);
 }
 
 TEST_F(Write, ASaveWithoutAFreeNameForTheCopyDoesNotTouchTheFile) {

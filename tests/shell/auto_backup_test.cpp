@@ -130,7 +130,11 @@ TEST_F(AutoBackupTest, EveryNameLandsInTheBackupDirectory) {
     backup_.BackupDocument(one_);
     EXPECT_TRUE(backup_.BackupDocument(two_));
     EXPECT_EQ(disk_.get("vbackup\\one.c"), "xtext\r\n") << "two of one name share a copy";
-    EXPECT_EQ(disk_.count("vbackup"), 1u);
+    const auto others = platform::FindFiles(disk_.path("vbackup\\one~*.c"));
+    ASSERT_EQ(others.size(), 1u) << "what the other document had there is not lost";
+    EXPECT_EQ(disk_.get("vbackup\\" + others[0]), "xxxtext\r\n");
+    EXPECT_TRUE(backup_.BackupDocument(two_));
+    EXPECT_EQ(disk_.count("vbackup"), 2u);
 }
 
 TEST_F(AutoBackupTest, AFailedCopyKeepsTheOlderOneAndIsTriedAgainLater) {

@@ -95,6 +95,15 @@ TEST_F(CommandLineFiles, EveryFileGetsTheLastLineNamed) {
     EXPECT_EQ(FilesOf({}), Files{});
 }
 
+TEST_F(CommandLineFiles, AnExistingFileIsAFileAlsoWhenItLooksLikeALine) {
+    disk_.put("my-l2.c", "");
+    EXPECT_EQ(FilesOf(Arguments{"my-l2.c", "b.c", "-L7"}), (Files{file("my-l2.c", 7), file("b.c", 7)}));
+    EXPECT_EQ(FilesOf(Arguments{"my-l3.c", "b.c"}), Files{file("b.c", 3)}) << "there is no such file";
+    EXPECT_EQ(LineNamedBy("my-l2.c"), -1);
+    const std::string shared = "\\\\server\\share\\a.c";
+    EXPECT_EQ(FilesOf(Arguments{shared}), (Files{{shared, 0}}));
+}
+
 TEST_F(CommandLineFiles, WildcardsStandForNormalFilesAtTheirFirstLine) {
     disk_.makeDirectory("sub");
     for (const char* name : {"one.c", "two.c", "x.h", "sub\\three.c"})

@@ -163,12 +163,106 @@ TEST_F(FileCommandsTest, ClosingAsksAboutChanges) {
     EXPECT_FALSE(document_.isModified());
 }
 
-TEST_F(FileCommandsTest, ASafetyCopyThatACrashLeftIsAnnounced) {
-    disk_.put("A.TXT.vx0", "the old text");
-    openFile("A.TXT", "half");
-    ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_EQ(notices_.boxes[0].text, FillText(TextId::SaveInterrupted, {"A.TXT", disk_.path("A.TXT.vx0")}));
-    EXPECT_TRUE(disk_.has("A.TXT.vx0"));
+TEST_F(FileCommandsTest, WhatAnotherProgramHasChangedIsAskedAbout) {
+    openFile("A.TXT", "abc");
+    type("x");
+    disk_.put("A.TXT", "theirs");
+    notices_.answers = {BoxAnswer::No};
+    EXPECT_FALSE(commands_.save(document_));
+    EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::FileChangedOutside, {"A.TXT"}));
+    EXPECT_EQ(disk_.get("A.TXT"), "theirs");
+    EXPECT_TRUE(document_.isModified());
+    notices_.answers = {BoxAnswer::Yes};
+    EXPECT_TRUE(commands_.save(document_));
+    EXPECT_EQ(disk_.get("A.TXT"), "xabc\r\n");
+    EXPECT_EQ(notices_.boxes.size(), 2u);
+}
+
+TEST_F(FileCommandsTest, WithoutASafetyCopyTheUserDecides) {
+    openFile("A.TXT", "abc");
+    type("x");
+    for (char digit = '0'; digit <= '9'; ++digit)
+        disk_.put(std::string("A.TXT.vx") + digit, "kept");
+    notices_.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    EXPECT_FALSE(commands_.save(document_));
+    EXPECT_EQ(notices_.boxes.back().text,
+              FillText(TextId::NoSafetyCopy, {"A.TXT", LoadText(TextId::AllCopyNamesTaken)}));
+    EXPECT_EQ(disk_.get("A.TXT"), "abc");
+    EXPECT_TRUE(commands_.save(document_));
+    EXPECT_EQ(disk_.get("A.TXT"), "xabc\r\n");
+    EXPECT_EQ(disk_.get("A.TXT.vx9"), "kept");
+}
+
+TEST_F(FileCommandsTest, AFileThatHasGoneIsWrittenAgain) {
+    openFile("A.TXT", "abc");
+    platform::RemoveFile(disk_.path("A.TXT"));
+    EXPECT_TRUE(commands_.save(document_));
+    EXPECT_EQ(disk_.get("A.TXT"), "abc\r\n");
+    platform::RemoveFile(disk_.path("A.TXT"));
+    disk_.makeDirectory("A.TXT");
+    EXPECT_FALSE(commands_.save(document_));
+    EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::CannotWriteFile, {"A.TXT"}));
+}
+
+TEST_F(FileCommandsTest, ATruncatedDocumentIsNotSavedOverItsFileUnderAnyName) {
+    ASSERT_NO_FATAL_FAILURE(truncate());
+    disk_.link("BIG.TXT", "LINK.TXT");
+    for (const char* name : {"BIG.TXT", "big.txt", ".\\BIG.TXT", "LINK.TXT"}) {
+        questions_.answer = disk_.path(name);
+        EXPECT_FALSE(commands_.saveAs(document_)) << name;
+        EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::FileTruncated, {"BIG.TXT"})) << name;
+    }
+    EXPECT_EQ(disk_.get("BIG.TXT").size(), 90002u * 2);
+}
+
+TEST_F(FileCommandsTest, ANameToSaveUnderIsMadeFullOrRefused) {
+    ASSERT_TRUE(commands_.open(document_, std::nullopt));
+    type("x");
+    for (const std::string& name :
+         {std::string(300, 'n'), std::string("a|b"), std::string("NUL"), std::string("SUB\\")}) {
+        questions_.answer = name;
+        EXPECT_FALSE(commands_.saveAs(document_)) << name;
+        EXPECT_EQ(notices_.boxes.back().text,
+                  FillText(name.size() == 300 ? TextId::NameTooLong : TextId::NameNotAFile, {name}));
+    }
+    questions_.answer = disk_.path("NO\\DIR.TXT");
+    EXPECT_FALSE(commands_.saveAs(document_));
+    EXPECT_EQ(document_.fullPath(), "untitled.txt") << "what failed leaves no name";
+    EXPECT_FALSE(document_.isNamed());
+    questions_.answer = disk_.path().substr(0, 2) + "foo";
+    EXPECT_TRUE(commands_.saveAs(document_));
+    EXPECT_EQ(document_.fullPath(), disk_.path("foo"));
+    EXPECT_EQ(document_.baseName(), "foo");
+    EXPECT_EQ(disk_.get("foo"), "x\r\n");
+}
+
+TEST_F(FileCommandsTest, AnOpenedFileSaysWhatASaveWouldMeet) {
+    openFile("CRLF.TXT", "a\r\n");
+    EXPECT_TRUE(notices_.statuses.empty());
+    openFile("LF.TXT", "a\n");
+    EXPECT_EQ(notices_.lastStatus(), FillText(TextId::OtherLineEnds, {"LF", "CR LF"}));
+    disk_.setReadOnly("LF.TXT", true);
+    ASSERT_TRUE(commands_.open(document_, disk_.path("LF.TXT")));
+    EXPECT_EQ(notices_.lastStatus(),
+              FillText(TextId::FileIsReadOnly, {"LF.TXT"}) + " " + FillText(TextId::OtherLineEnds, {"LF", "CR LF"}));
+    disk_.setReadOnly("LF.TXT", false);
+    options_.FileWrite = true;
+    openFile("MIXED.TXT", "a\r\nb\n");
+    EXPECT_EQ(notices_.lastStatus(), FillText(TextId::OtherLineEnds, {LoadText(TextId::LineEndsMixed), "LF"}));
+}
+
+TEST_F(FileCommandsTest, WhatIsNoTextIsAskedAboutBeforeItsUneditedBytesChange) {
+    const std::string binary("a\0b\n", 4);
+    openFile("A.BIN", binary);
+    EXPECT_TRUE(commands_.save(document_)) << "nothing is written";
+    type("x");
+    notices_.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    EXPECT_FALSE(commands_.save(document_));
+    EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::NotPlainText, {"A.BIN", LoadText(TextId::ZeroBytes)}));
+    EXPECT_EQ(disk_.get("A.BIN"), binary);
+    EXPECT_TRUE(commands_.save(document_));
+    type("y");
+    EXPECT_TRUE(commands_.save(document_)) << "asked once";
 }
 
 }  // namespace

@@ -60,6 +60,60 @@ TEST_F(FileOpeningTest, AFileIsShownInItsWindowUnlessCopiesAreWanted) {
     EXPECT_EQ(notices_.busyDepth, 0);
 }
 
+TEST_F(FileOpeningTest, NamesThatCannotBeAFilesAreRefused) {
+    for (const std::string& name : {std::string("a|b.c"), std::string("C:\\NUL"),
+                                    std::string("C:\\") + std::string(257, 'x'), std::string("a\0b", 3)})
+        EXPECT_FALSE(opening_.OpenFileAtLine(name, 1)) << name;
+    EXPECT_EQ(notices_.boxes.size(), 4u);
+    EXPECT_EQ(takeLog(), "");
+    EXPECT_TRUE(opening_.OpenFileAtLine("C:\\" + std::string(256, 'x'), 1));
+}
+
+TEST_F(FileOpeningTest, LeftSafetyCopiesAreOfferedUntilTheUserHasDecided) {
+    constexpr auto kYes = BoxAnswer::Yes;
+    constexpr auto kNo = BoxAnswer::No;
+    const auto copy = disk_.path("a.c.vx1");
+    struct Case {
+        const char* contents;
+        std::deque<BoxAnswer> answers;
+        std::string lastQuestion;
+        const char* log;
+        const char* left;  // the copy's name afterwards
+    };
+    const std::string kept = copy + "k0";
+    const Case cases[] = {
+        {"same", {kYes}, FillText(TextId::LeftCopyIsEqual, {"a.c", copy}), "open a.c 0;", nullptr},
+        {"same", {kNo}, FillText(TextId::LeftCopyIsEqual, {"a.c", copy}), "open a.c 0;", "a.c.vx1k0"},
+        {"other", {kYes}, FillText(TextId::LeftCopyDiffers, {"a.c", copy}), "open a.c 0;open a.c.vx1 0;", "a.c.vx1"},
+        {"other", {kNo, kYes}, FillText(TextId::DeleteLeftCopy, {copy, kept}), "open a.c 0;", nullptr},
+        {"other", {kNo, kNo}, FillText(TextId::DeleteLeftCopy, {copy, kept}), "open a.c 0;", "a.c.vx1k0"},
+    };
+    disk_.put("a.c", "same");
+    for (const Case& c : cases) {
+        disk_.put("a.c.vx1", c.contents);
+        notices_.answers = c.answers;
+        EXPECT_TRUE(opening_.OpenFileAtLine(disk_.path("a.c"), 1));
+        EXPECT_EQ(takeLog(), c.log);
+        EXPECT_EQ(notices_.boxes.back().text, c.lastQuestion);
+        EXPECT_EQ(disk_.count(), c.left ? 2u : 1u);
+        if (!c.left) continue;
+        EXPECT_EQ(disk_.get(c.left), c.contents);
+        platform::RemoveFile(disk_.path(c.left));
+    }
+}
+
+TEST_F(FileOpeningTest, TheLatestOfSeveralCopiesIsSpokenOfFirst) {
+    disk_.put("a.c", "now");
+    disk_.put("a.c.vx7", "older");
+    const auto older = platform::FactsOf(disk_.path("a.c.vx7"))->writeTime;
+    do {
+        disk_.put("a.c.vx2", "later");
+    } while (platform::FactsOf(disk_.path("a.c.vx2"))->writeTime == older);
+    notices_.answers = {BoxAnswer::Yes, BoxAnswer::Yes};
+    EXPECT_TRUE(opening_.OpenFileAtLine(disk_.path("a.c"), 1));
+    EXPECT_EQ(takeLog(), "open a.c 0;open a.c.vx2 0;open a.c.vx7 0;");
+}
+
 TEST_F(FileOpeningTest, LinesBelowOneAreTheFirst) {
     for (const int line : {1, 0, -1, -2147483647 - 1})
         EXPECT_TRUE(opening_.OpenFileAtLine("a.c", line));

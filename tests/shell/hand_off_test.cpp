@@ -75,11 +75,12 @@ TEST_F(HandOffTest, NothingIsHandedOverUnlessAnEditorRuns) {
 
 TEST_F(HandOffTest, OnlyALineOfTheUpperCaseFormIsCutOffTheName) {
     platform::AddGlobalMarker(kActiveMarker);
+    const std::string cutAway = "\"a.c" + std::string(255, ' ') + "x";  // behind the 259 characters that count
     const std::pair<const char*, std::string> cases[] = {
         {"a.c -L20", disk_.path("a.c") + "\r\n20"},       {"a.c -l20", disk_.path("a.c -l20") + "\r\n20"},
         {"a.c /L20", disk_.path("a.c \\L20") + "\r\n20"}, {"\"a b.c\" -L3", disk_.path("a b.c") + "\r\n3"},
         {"\"a b.c\"", disk_.path("a b.c") + "\r\n-1"},    {"x-Lib.c", disk_.path("x-Lib.c") + "\r\n-1"},
-        {"x-Lib.c -L4", disk_.path("x") + "\r\n4"},
+        {"x-Lib.c -L4", disk_.path("x") + "\r\n4"},       {cutAway.c_str(), disk_.path("a.c") + "\r\n-1"},
     };
     for (const auto& [arguments, expected] : cases) {
         EXPECT_TRUE(handOff(arguments)) << arguments;
@@ -91,6 +92,7 @@ TEST_F(HandOffTest, ANameThatIsNoPathIsNotHandedOver) {
     platform::AddGlobalMarker(kActiveMarker);
     EXPECT_FALSE(handOff("-L20 a.c")) << "nothing is left in front of the line";
     EXPECT_FALSE(handOff(std::string(200, 'x')));
+    EXPECT_FALSE(handOff("\"a.c" + std::string(254, ' ') + "x"));
     EXPECT_FALSE(platform::PathExists(file()));
     EXPECT_TRUE(notices_.boxes.empty());
 }
@@ -126,6 +128,7 @@ TEST_F(HandOffTest, AnyBytesAreReadAsFileAndLine) {
         {"", {"", 0}},
         {"\r\n5\r\n", {"", 5}},
         {"C:\\A.C\r\nabc", {"C:\\A.C", 0}},
+        {std::string(255, 'x') + "\r\n7\n", {std::string(255, 'x'), 7}},
         {std::string(300, 'x') + "\n7\n", {std::string(255, 'x'), 7}},
         {std::string(1 << 20, 'y'), {std::string(255, 'y'), 0}},
         {"a\0b\r\n3"s, {"a\0b"s, 3}},

@@ -36,6 +36,10 @@ bool TestDisk::has(std::string_view name) const {
     return fs::exists(real(name));
 }
 
+void TestDisk::link(std::string_view name, std::string_view second) const {
+    fs::create_hard_link(real(name), real(second));
+}
+
 void TestDisk::makeDirectory(std::string_view name) const {
     fs::create_directories(real(name));
 }

@@ -26,6 +26,8 @@ class TestDisk {
     // The whole file; a missing one fails the test and gives "".
     std::string get(std::string_view name) const;
     bool has(std::string_view name) const;
+    // Gives a file a second name.
+    void link(std::string_view name, std::string_view second) const;
     void makeDirectory(std::string_view name) const;
     void setReadOnly(std::string_view name, bool readOnly) const;
     void setHidden(std::string_view name) const;  // on the host only for names that begin with "."

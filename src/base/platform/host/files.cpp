@@ -139,6 +139,15 @@ bool CloseFile(FileHandle file) {
     return close(Descriptor(file)) == 0;
 }
 
+std::optional<FileFacts> FactsOf(const std::string& path) {
+    const auto info = StatusOf(HostPath(path));
+    if (!info || !S_ISREG(info->st_mode)) return std::nullopt;
+    constexpr std::uint64_t kNanoseconds = 1'000'000'000;
+    const auto written = static_cast<std::uint64_t>(info->st_mtim.tv_sec) * kNanoseconds +
+                         static_cast<std::uint64_t>(info->st_mtim.tv_nsec);
+    return FileFacts{info->st_dev, info->st_ino, written, (info->st_mode & S_IWUSR) == 0};
+}
+
 bool PathExists(const std::string& path) {
     return StatusOf(HostPath(path)).has_value();
 }

@@ -65,6 +65,11 @@ std::string FullPath(const std::string& path) {
     return full.size() <= kLongestPath ? full : std::string();
 }
 
+// No host has a second, short name for a file.
+std::string LongPath(const std::string& path) {
+    return FullPath(path);
+}
+
 std::string CurrentDirectory() {
     return FullPath(".");
 }

@@ -7,26 +7,12 @@
 #include <memory>
 
 #include "base/ascii.h"
+#include "base/file_name.h"
 #include "base/platform.h"
 
 namespace vexa::platform::host {
 
 namespace {
-
-bool IsDevice(std::string_view name) {
-    const std::string_view stem = name.substr(0, name.find('.'));
-    for (const char* device : {"CON", "PRN", "AUX", "NUL"})
-        if (EqualIgnoringCase(stem, device)) return true;
-    const bool numbered = stem.size() == 4 && stem[3] >= '1' && stem[3] <= '9';
-    return numbered && (EqualIgnoringCase(stem.substr(0, 3), "COM") || EqualIgnoringCase(stem.substr(0, 3), "LPT"));
-}
-
-bool IsName(std::string_view part) {
-    const auto refused = [](char c) {
-        return static_cast<unsigned char>(c) < ' ' || std::string_view("\"*/:<>?|").find(c) != std::string_view::npos;
-    };
-    return std::ranges::none_of(part, refused) && !IsDevice(part);
-}
 
 // The entry of a folder whose name is the part, letter case ignored; the part itself when there is none.
 std::string SpelledAsOnDisk(const std::string& folder, const std::string& part) {
@@ -63,7 +49,7 @@ std::string HostPath(const std::string& path) {
     for (std::size_t begin = 3; begin < full.size();) {
         const std::size_t end = std::min(full.find('\\', begin), full.size());
         const std::string part = full.substr(begin, end - begin);
-        if (!IsName(part)) return {};
+        if (!IsNamePart(part)) return {};
         host += "/" + SpelledAsOnDisk(host, part);
         begin = end + 1;
     }

@@ -54,6 +54,10 @@ bool IsReadOnlyFile(const std::string& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & kDirectoryOrReadOnly) == FILE_ATTRIBUTE_READONLY;
 }
 
+std::uint64_t Joined(DWORD high, DWORD low) {
+    return std::uint64_t{high} << 32 | low;
+}
+
 // The lower half of a 64-bit quantity that the system gives in two; its failure value is also a valid half.
 bool Failed(DWORD low) {
     return low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR;
@@ -135,11 +139,26 @@ std::optional<std::uint64_t> FileSize(FileHandle file) {
     SetLastError(NO_ERROR);
     const DWORD low = GetFileSize(Native(file), &high);
     if (Failed(low)) return std::nullopt;
-    return std::uint64_t{high} << 32 | low;
+    return Joined(high, low);
 }
 
 bool CloseFile(FileHandle file) {
     return CloseHandle(Native(file));
+}
+
+std::optional<FileFacts> FactsOf(const std::string& path) {
+    // Asking for no access at all is granted whoever has the file open.
+    const HANDLE file = CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION info{};
+    const bool isKnown = GetFileType(file) == FILE_TYPE_DISK && GetFileInformationByHandle(file, &info) &&
+                         !(info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
+    CloseHandle(file);
+    if (!isKnown) return std::nullopt;
+    return FileFacts{info.dwVolumeSerialNumber, Joined(info.nFileIndexHigh, info.nFileIndexLow),
+                     Joined(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime),
+                     (info.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0};
 }
 
 bool PathExists(const std::string& path) {
@@ -164,7 +183,7 @@ bool RemoveFile(const std::string& path) {
 
 bool RenameFile(const std::string& from, const std::string& to) {
     if (Attributes(from) == INVALID_FILE_ATTRIBUTES || DirectoryExists(from) || IsReadOnlyFile(to)) return false;
-    if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING)) return true;
+    if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
     return GetLastError() == ERROR_CALL_NOT_IMPLEMENTED && ReplaceInSteps(from, to);
 }
 

@@ -25,6 +25,19 @@ std::string FullPath(const std::string& path) {
     return FilledPath([&](DWORD size, char* buffer) { return GetFullPathNameA(path.c_str(), size, buffer, nullptr); });
 }
 
+// The system lengthens only a path that exists as a whole; of a file still to come, that is its directory.
+std::string LongPath(const std::string& path) {
+    const auto lengthened = [](const std::string& existing) {
+        return FilledPath([&](DWORD size, char* buffer) { return GetLongPathNameA(existing.c_str(), buffer, size); });
+    };
+    const std::string full = FullPath(path);
+    const std::string whole = lengthened(full);
+    if (!whole.empty()) return whole;
+    const std::size_t nameStart = full.rfind('\\') + 1;
+    const std::string directory = lengthened(full.substr(0, nameStart));
+    return directory.empty() ? full : directory + full.substr(nameStart);
+}
+
 std::string CurrentDirectory() {
     return FilledPath([](DWORD size, char* buffer) { return GetCurrentDirectoryA(size, buffer); });
 }

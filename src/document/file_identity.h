@@ -1,0 +1,27 @@
+// Whether two names are names of one file.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "base/platform.h"
+
+namespace vexa {
+
+class TextDocument;
+
+// One file, by its name in the system's full and long form, and by the numbers that the system gives it, which a link
+// or another name of its disk has too.
+class FileIdentity {
+  public:
+    explicit FileIdentity(const std::string& path);
+
+    // Whether the document's text was loaded from this file or saved there, or has its name.
+    bool isFileOf(const TextDocument& document) const;
+
+  private:
+    std::string path_;
+    std::optional<platform::FileFacts> facts_;
+};
+
+}  // namespace vexa
