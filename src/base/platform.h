@@ -68,6 +68,9 @@ bool MakeDirectory(const std::string& path);
 // The names (without directory) of the normal files that match the wildcards in the pattern's last part: no
 // directories, hidden or system files. "*.*" matches every name. Sorted by name, letter case ignored.
 std::vector<std::string> FindFiles(const std::string& pattern);
+// The names of the directories of a directory (named without "\" at the end, unless it is a root) that are not hidden,
+// without "." and with ".." where there is one above. Sorted as the files are.
+std::vector<std::string> FindDirectories(const std::string& directory);
 
 // ---- places ------------------------------------------------------------------------------------------------------
 
@@ -80,6 +83,8 @@ std::string CurrentDirectory();
 bool ChangeDirectory(const std::string& path);
 // Changes to a drive (0 is A) and to the current directory it had.
 bool ChangeDrive(int drive);
+// The letters of the drives that there are, in capitals, in their order.
+std::string DriveLetters();
 // The full path of the executable.
 std::string ProgramPath();
 // The value of an environment variable; empty when there is none of that name.

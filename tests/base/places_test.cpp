@@ -48,6 +48,8 @@ TEST_F(Places, DirectoriesAndDrivesChangeOnlyToWhatExists) {
     for (const int drive : {-1, 26, 1000})
         EXPECT_FALSE(platform::ChangeDrive(drive)) << drive;
     EXPECT_FALSE(platform::ChangeDrive('q' - 'a'));
+    EXPECT_NE(platform::DriveLetters().find('C'), std::string::npos);
+    EXPECT_EQ(platform::DriveLetters().find('Q'), std::string::npos);
     EXPECT_EQ(CurrentDirectory(), disk.path("Sub"));
     EXPECT_TRUE(platform::ChangeDrive('c' - 'a'));
     EXPECT_EQ(CurrentDirectory(), disk.path("Sub")) << "a drive keeps its directory";

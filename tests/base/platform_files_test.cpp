@@ -1,6 +1,8 @@
 // What the platform promises about files, held to on every platform.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/platform.h"
 #include "support/test_disk.h"
 
@@ -197,6 +199,12 @@ TEST_F(PlatformFiles, WildcardsFindNormalFilesInOrder) {
     EXPECT_EQ(FindFiles(disk.path("*.x")), Names{});
     EXPECT_EQ(FindFiles(disk.path("NO\\*")), Names{});
     EXPECT_EQ(FindFiles(""), Names{});
+    disk.makeDirectory("d.c\\B");
+    disk.makeDirectory("d.c\\a");
+    EXPECT_EQ(FindDirectories(disk.path("d.c")), (Names{"..", "a", "B"}));
+    EXPECT_EQ(FindDirectories(disk.path("NO")), Names{});
+    const Names inRoot = FindDirectories("C:\\");
+    EXPECT_EQ(std::ranges::count(inRoot, ".."), 0) << "nothing is above a root";
 }
 
 }  // namespace

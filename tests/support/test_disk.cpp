@@ -44,6 +44,10 @@ void TestDisk::makeDirectory(std::string_view name) const {
     fs::create_directories(real(name));
 }
 
+void TestDisk::remove(std::string_view name) const {
+    EXPECT_GT(fs::remove_all(real(name)), 0u) << "no file " << name;
+}
+
 std::size_t TestDisk::count(std::string_view directory) const {
     return static_cast<std::size_t>(std::distance(fs::directory_iterator(real(directory)), fs::directory_iterator()));
 }

@@ -29,6 +29,8 @@ class TestDisk {
     // Gives a file a second name.
     void link(std::string_view name, std::string_view second) const;
     void makeDirectory(std::string_view name) const;
+    // A file, or a directory with everything in it.
+    void remove(std::string_view name) const;
     void setReadOnly(std::string_view name, bool readOnly) const;
     void setHidden(std::string_view name) const;  // on the host only for names that begin with "."
     // How many files and directories a directory holds, hidden ones too.

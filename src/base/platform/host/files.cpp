@@ -76,6 +76,23 @@ bool NameMatches(const std::string& name, const std::string& pattern) {
     return MatchesWildcards(name, pattern) || (dotless && MatchesWildcards(name + ".", pattern));
 }
 
+// The sorted names in a folder of the host, with what they name, that pass the test.
+template <class Test>
+std::vector<std::string> Names(const std::string& folder, Test passes) {
+    const auto closeDirectory = [](DIR* directory) { closedir(directory); };
+    const std::unique_ptr<DIR, decltype(closeDirectory)> directory(folder.empty() ? nullptr : opendir(folder.c_str()),
+                                                                   closeDirectory);
+    std::vector<std::string> names;
+    if (!directory) return names;
+    while (const dirent* entry = readdir(directory.get())) {
+        const std::string name = entry->d_name;
+        const auto info = StatusOf(folder + "/" + name);
+        if (info && passes(name, *info)) names.push_back(name);
+    }
+    std::ranges::sort(names, LessIgnoringCase);
+    return names;
+}
+
 }  // namespace
 
 FileHandle OpenFile(const std::string& path, OpenMode mode) {
@@ -183,19 +200,16 @@ bool MakeDirectory(const std::string& path) {
 std::vector<std::string> FindFiles(const std::string& pattern) {
     const std::size_t nameStart = pattern.find_last_of("\\/:") + 1;
     const std::string folder = HostPath(nameStart == 0 ? "." : pattern.substr(0, nameStart));
-    const auto closeDirectory = [](DIR* directory) { closedir(directory); };
-    const std::unique_ptr<DIR, decltype(closeDirectory)> directory(folder.empty() ? nullptr : opendir(folder.c_str()),
-                                                                   closeDirectory);
-    std::vector<std::string> names;
-    if (!directory) return names;
-    while (const dirent* entry = readdir(directory.get())) {
-        const std::string name = entry->d_name;
-        const auto info = StatusOf(folder + "/" + name);
-        const bool shown = !name.starts_with('.') && info && S_ISREG(info->st_mode);
-        if (shown && NameMatches(name, pattern.substr(nameStart))) names.push_back(name);
-    }
-    std::ranges::sort(names, LessIgnoringCase);
-    return names;
+    return Names(folder, [&](const std::string& name, const struct stat& info) {
+        return S_ISREG(info.st_mode) && !name.starts_with('.') && NameMatches(name, pattern.substr(nameStart));
+    });
+}
+
+std::vector<std::string> FindDirectories(const std::string& directory) {
+    const bool isRoot = FullPath(directory).size() == std::string_view("C:\\").size();
+    return Names(HostPath(directory), [isRoot](const std::string& name, const struct stat& info) {
+        return S_ISDIR(info.st_mode) && (name == ".." ? !isRoot : !name.starts_with('.'));
+    });
 }
 
 }  // namespace vexa::platform

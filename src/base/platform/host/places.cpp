@@ -91,6 +91,14 @@ bool ChangeDrive(int drive) {
     return true;
 }
 
+std::string DriveLetters() {
+    std::string letters;
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        if (DirectoryExists(std::string(1, letter) + ":\\")) letters += letter;
+    }
+    return letters;
+}
+
 std::string ProgramPath() {
     return host::ThePlaces().programPath;
 }

@@ -87,6 +87,23 @@ bool ReplaceInSteps(const std::string& from, const std::string& to) {
     return true;
 }
 
+constexpr DWORD kNotShown = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+
+// The sorted names that match a pattern and pass the test.
+template <class Test>
+std::vector<std::string> Names(const std::string& pattern, Test passes) {
+    std::vector<std::string> names;
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA(pattern.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        if (passes(found)) names.emplace_back(found.cFileName);
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    std::ranges::sort(names, LessIgnoringCase);
+    return names;
+}
+
 }  // namespace
 
 FileHandle OpenFile(const std::string& path, OpenMode mode) {
@@ -192,17 +209,18 @@ bool MakeDirectory(const std::string& path) {
 }
 
 std::vector<std::string> FindFiles(const std::string& pattern) {
-    constexpr DWORD kNotNormal = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    std::vector<std::string> names;
-    WIN32_FIND_DATAA found;
-    const HANDLE search = FindFirstFileA(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
-    do {
-        if (!(found.dwFileAttributes & kNotNormal)) names.emplace_back(found.cFileName);
-    } while (FindNextFileA(search, &found));
-    FindClose(search);
-    std::ranges::sort(names, LessIgnoringCase);
-    return names;
+    return Names(pattern, [](const WIN32_FIND_DATAA& found) {
+        return !(found.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | kNotShown));
+    });
+}
+
+std::vector<std::string> FindDirectories(const std::string& directory) {
+    const std::string pattern = directory + (directory.ends_with('\\') ? "*" : "\\*");
+    return Names(pattern, [](const WIN32_FIND_DATAA& found) {
+        const std::string_view name = found.cFileName;
+        const DWORD attributes = found.dwFileAttributes;
+        return (attributes & FILE_ATTRIBUTE_DIRECTORY) && (name == ".." || !(attributes & kNotShown)) && name != ".";
+    });
 }
 
 }  // namespace vexa::platform

@@ -51,6 +51,15 @@ bool ChangeDrive(int drive) {
     return drive >= 0 && drive < 26 && _chdrive(drive + 1) == 0;
 }
 
+std::string DriveLetters() {
+    std::string letters;
+    const DWORD drives = GetLogicalDrives();
+    for (int drive = 0; drive < 26; ++drive) {
+        if (drives >> drive & 1) letters += static_cast<char>('A' + drive);
+    }
+    return letters;
+}
+
 std::string ProgramPath() {
     return FilledPath([](DWORD size, char* buffer) { return GetModuleFileNameA(nullptr, buffer, size); });
 }
