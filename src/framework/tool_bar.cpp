@@ -7,6 +7,7 @@ namespace {
 
 constexpr WindowClass kToolBarClass{.name = "CtrlWindowCL", .background = COLOR_BTNFACE};
 constexpr COLORREF kMagenta = RGB(255, 0, 255);
+constexpr int kGrowth = 16;  // pictures for which a full list makes room
 
 std::vector<TBBUTTON> Items(const std::vector<ToolButton>& buttons) {
     std::vector<TBBUTTON> items;
@@ -20,6 +21,16 @@ std::vector<TBBUTTON> Items(const std::vector<ToolButton>& buttons) {
         items.push_back(item);
     }
     return items;
+}
+
+// The strips have a palette of their own; a list of their depth would show them in the system's.
+Handle<ImageListTraits> LoadPictures(const ToolPictures& pictures) {
+    const BitmapHandle strip(static_cast<HBITMAP>(LoadImageA(
+        GetModuleHandleA(nullptr), MAKEINTRESOURCEA(pictures.resource), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    Handle<ImageListTraits> images(
+        ImageList_Create(pictures.height, pictures.height, ILC_COLOR24 | ILC_MASK, 0, kGrowth));
+    ImageList_AddMasked(images.get(), strip.get(), kMagenta);
+    return images;
 }
 
 }  // namespace
@@ -55,9 +66,7 @@ const ToolPictures& ToolBarCL::fittingPictures() const {
 
 void ToolBarCL::refreshPictures() {
     const ToolPictures& pictures = fittingPictures();
-    Handle<ImageListTraits> images(ImageList_LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(pictures.resource),
-                                                        pictures.height, 0, kMagenta, IMAGE_BITMAP,
-                                                        LR_CREATEDIBSECTION));
+    Handle<ImageListTraits> images = LoadPictures(pictures);
     SendMessageA(bar_, TB_SETBITMAPSIZE, 0, MAKELPARAM(pictures.height, pictures.height));
     SendMessageA(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));
     images_ = std::move(images);
