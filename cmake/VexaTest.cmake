@@ -9,7 +9,6 @@ if(VEXA_TESTS)
     include_directories(BEFORE ${CMAKE_SOURCE_DIR}/tests/support/mingw)
   endif()
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
-  add_compile_definitions(VEXA_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}")
 endif()
 
 # One test program a folder of src/. SOURCES are its files, DEPENDS the libraries under test.
