@@ -161,9 +161,7 @@ auto PlainOurs(const std::string& text, bool ignoreCase) {
 }
 
 auto PlainWithoutSse2(const std::string& text, bool ignoreCase) {
-    const Instructions limit = LimitInstructions(Instructions::Plain);
-    const PlainSearch search(text, ignoreCase ? LetterCase::Ignored : LetterCase::Sensitive);
-    LimitInstructions(limit);
+    const PlainSearch search(text, ignoreCase ? LetterCase::Ignored : LetterCase::Sensitive, Instructions::Plain);
     return [search](std::string_view line) { return OffsetIn(line, search.find(line)); };
 }
 

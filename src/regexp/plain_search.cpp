@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <utility>
 
 #include "base/ascii.h"
 
@@ -45,21 +44,15 @@ Instructions DetectInstructions() {
 }
 #endif
 
-Instructions allowed = Instructions::Ssse3;
-
 }  // namespace
 
-Instructions BestInstructions() {
+Instructions AvailableOf(Instructions most) {
     static const Instructions available = DetectInstructions();
-    return std::min(available, allowed);
+    return std::min(available, most);
 }
 
-Instructions LimitInstructions(Instructions most) {
-    return std::exchange(allowed, most);
-}
-
-PlainSearch::PlainSearch(std::string_view literal, LetterCase letterCase)
-    : literal_(literal), letterCase_(letterCase), instructions_(BestInstructions()) {
+PlainSearch::PlainSearch(std::string_view literal, LetterCase letterCase, Instructions most)
+    : literal_(literal), letterCase_(letterCase), instructions_(AvailableOf(most)) {
     if (literal.empty()) return;
     if (letterCase == LetterCase::Ignored) std::ranges::transform(literal_, literal_.begin(), LowerAscii);
     first_.fill(literal_.front());

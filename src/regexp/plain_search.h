@@ -6,17 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "regexp/letter_case.h"
+#include "regexp/search_tuning.h"
+
 namespace vexa {
 
-enum class LetterCase { Sensitive, Ignored };
-
-// Which of the processor's instructions a search uses, each set with those before it. All give the same results.
-enum class Instructions : std::uint8_t { Plain, Sse2, Ssse3 };
-
-// What searches that are prepared from now on use: the most that the processor has.
-Instructions BestInstructions();
-// For tests: or the most that is allowed. Returns what was allowed before.
-Instructions LimitInstructions(Instructions most);
+// What the processor has of the instructions that a search may use.
+Instructions AvailableOf(Instructions most);
 
 // A literal, prepared to be looked for in many lines. Ignoring letter case folds A-Z to a-z on both sides.
 class PlainSearch {
@@ -24,7 +20,7 @@ class PlainSearch {
     // The empty literal.
     PlainSearch() = default;
     // Throws std::bad_alloc.
-    PlainSearch(std::string_view literal, LetterCase letterCase);
+    PlainSearch(std::string_view literal, LetterCase letterCase, Instructions most = SearchTuning().most);
 
     bool empty() const { return literal_.empty(); }
     // The first occurrence in the text, or null. An empty literal occurs at the start of every text.

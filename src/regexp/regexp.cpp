@@ -78,10 +78,9 @@ void RegExp::setOptimisations(bool startsWithStar) {
     }
 }
 
-const Plan& RegExp::plan() {
-    const LetterCase letterCase = ignoreCase ? LetterCase::Ignored : LetterCase::Sensitive;
-    std::unique_ptr<Plan>& plan = plans_[ignoreCase ? 1 : 0];
-    if (!plan) plan = std::make_unique<Plan>(program_, letterCase, origin_, anchored_);
+const Plan& RegExp::plan(LetterCase letterCase) {
+    std::unique_ptr<Plan>& plan = plans_[static_cast<std::size_t>(letterCase)];
+    if (!plan) plan = std::make_unique<Plan>(program_, letterCase, origin_, anchored_, tuning_);
     plan->countExecution();
     return *plan;
 }
@@ -91,6 +90,15 @@ bool RegExp::Execute(RegExp* program, const char* subject) {
 }
 
 bool RegExp::Execute(RegExp* program, std::string_view line, std::size_t from) {
+    return Execute(program, line, ignoreCase ? LetterCase::Ignored : LetterCase::Sensitive, from);
+}
+
+void RegExp::tune(SearchTuning tuning) {
+    tuning_ = tuning;
+    plans_ = {};
+}
+
+bool RegExp::Execute(RegExp* program, std::string_view line, LetterCase letterCase, std::size_t from) {
     if (program == nullptr || line.data() == nullptr) {
         ReportRegExpError(kNullParameter);
         return false;
@@ -100,19 +108,19 @@ bool RegExp::Execute(RegExp* program, std::string_view line, std::size_t from) {
         return false;
     }
     try {
-        return program->execute(line, from);
+        return program->execute(line, letterCase, from);
     } catch (const std::bad_alloc&) {
         ReportRegExpError(kOutOfSpace);
         return false;
     }
 }
 
-bool RegExp::execute(std::string_view line, std::size_t from) {
+bool RegExp::execute(std::string_view line, LetterCase letterCase, std::size_t from) {
     if (starts_[0] != nullptr) {
         starts_ = {};
         ends_ = {};
     }
-    const std::optional<Match> match = FindMatch(plan(), line, from);
+    const std::optional<Match> match = FindMatch(plan(letterCase), line, from);
     if (!match) return false;
     const auto firstEnd = match->saved.begin() + kPositions;
     std::copy(match->saved.begin(), firstEnd, starts_.begin());

@@ -21,6 +21,9 @@
 #include <string_view>
 #include <vector>
 
+#include "regexp/letter_case.h"
+#include "regexp/search_tuning.h"
+
 namespace vexa {
 
 namespace regexp {
@@ -46,6 +49,11 @@ class RegExp {
     // The same for a line whose length is known. A NUL must follow the last character; a NUL inside ends the subject.
     // Matches that begin before a position of the line are passed over; "^" and "\<" still see what stands before it.
     static bool Execute(RegExp* program, std::string_view line, std::size_t from = 0);
+    // The same in a letter case of the caller's own.
+    static bool Execute(RegExp* program, std::string_view line, LetterCase letterCase, std::size_t from = 0);
+
+    // Executions from now on search so.
+    void tune(SearchTuning tuning);
 
     RegExp(const RegExp&) = delete;
     RegExp& operator=(const RegExp&) = delete;
@@ -67,8 +75,8 @@ class RegExp {
   private:
     RegExp(std::vector<std::uint8_t> program, regexp::Origin origin);
     void setOptimisations(bool startsWithStar);
-    const regexp::Plan& plan();
-    bool execute(std::string_view line, std::size_t from);
+    const regexp::Plan& plan(LetterCase letterCase);
+    bool execute(std::string_view line, LetterCase letterCase, std::size_t from);
 
     std::array<const char*, kPositions> starts_{};
     std::array<const char*, kPositions> ends_{};
@@ -78,12 +86,13 @@ class RegExp {
     std::uint32_t mustLength_ = 0;
     const std::vector<std::uint8_t> program_;
     const regexp::Origin origin_;
-    // Made when first needed: one for letter case, one for none.
+    SearchTuning tuning_;
+    // Made when first needed, by letter case.
     std::array<std::unique_ptr<regexp::Plan>, 2> plans_;
 };
 
-// The case mode of all executions; case-sensitive at first. Ignoring case folds A-Z to a-z wherever characters are
-// compared, except for a single literal character under "*" or "+", which is counted as it is written.
+// The case mode of all executions that name none; case-sensitive at first. Ignoring case folds A-Z to a-z wherever
+// characters are compared, except for a single literal character under "*" or "+", which is counted as it is written.
 void SetRegExpIgnoreCase(bool ignore);
 bool RegExpIgnoresCase();
 

@@ -39,9 +39,9 @@ void AddAlternatives(unsigned row, const ByteTable& table, std::array<Byte, 16>&
 
 }  // namespace
 
-PlaceFilter::PlaceFilter(const std::vector<Alternative>& alternatives)
+PlaceFilter::PlaceFilter(const std::vector<Alternative>& alternatives, Instructions most)
     : mode_(alternatives.size() == 1 ? Mode::OneAlternative : Mode::SeveralAlternatives),
-      instructions_(BestInstructions()) {
+      instructions_(AvailableOf(most)) {
     const auto addRow = mode_ == Mode::OneAlternative ? AddRow : AddAlternatives;
     for (std::size_t offset = 0; offset < kOffsets; ++offset) {
         for (std::size_t i = 0; i < alternatives.size(); ++i)

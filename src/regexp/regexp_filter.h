@@ -23,7 +23,7 @@ class PlaceFilter {
     // Lets every place pass.
     PlaceFilter() = default;
     // Takes one to kMostAlternatives. Throws std::bad_alloc.
-    explicit PlaceFilter(const std::vector<Alternative>& alternatives);
+    PlaceFilter(const std::vector<Alternative>& alternatives, Instructions most);
 
     bool active() const { return mode_ != Mode::Off; }
     // The first place that passes, the end included; null when none does. A NUL is at the end.

@@ -16,9 +16,9 @@ class HintFinder {
     Hints find() {
         const std::string_view leading = leadingLiteral();
         const std::string_view required = requiredLiteral();
-        if (required != leading) hints_.required = PlainSearch(required, plan_.letterCase);
+        if (required != leading) hints_.required = PlainSearch(required, plan_.letterCase, plan_.tuning.most);
         if (!leading.empty()) {
-            hints_.leading = PlainSearch(leading, plan_.letterCase);
+            hints_.leading = PlainSearch(leading, plan_.letterCase, plan_.tuning.most);
             hints_.start = Start::Literal;
         } else if (findLeadingLoop()) {
             hints_.start = Start::Loop;
@@ -98,7 +98,7 @@ class HintFinder {
         if (!loop.possessive || leading.width + loop.minimum == 0) return;
         ByteSet last = loop.repeated;
         if (loop.minimum == 0) last |= node(plan_.start).first;
-        hints_.filter = PlaceFilter({{last, node(loop.next).first, ByteSet::All()}});
+        hints_.filter = PlaceFilter({{last, node(loop.next).first, ByteSet::All()}}, plan_.tuning.most);
     }
 
     void filterStarts() {
@@ -113,7 +113,7 @@ class HintFinder {
         }
         if (alternatives.empty() || alternatives.size() > PlaceFilter::kMostAlternatives)
             alternatives = {beginning(index)};
-        hints_.filter = PlaceFilter(alternatives);
+        hints_.filter = PlaceFilter(alternatives, plan_.tuning.most);
     }
 
     // The sets of the first characters from a node on, as far as all matches have the same lengths.

@@ -11,17 +11,8 @@
 
 namespace vexa::regexp {
 
-namespace {
-
-std::ptrdiff_t budget = 1024;
-
-}  // namespace
-
-std::ptrdiff_t SetMachineBudget(std::ptrdiff_t steps) {
-    return std::exchange(budget, steps);
-}
-
-Machine::Machine(const Plan& plan, const char* subject) : plan_(plan), subject_(subject), budget_(budget) {}
+Machine::Machine(const Plan& plan, const char* subject)
+    : plan_(plan), subject_(subject), budget_(plan.tuning.stepsBeforeMemo) {}
 
 const char* Machine::match(NodeIndex index, const char* place) {
     used_ = 0;

@@ -17,9 +17,6 @@
 
 namespace vexa::regexp {
 
-// For tests: how many steps an execution takes before the machine begins to remember. Returns the number before.
-std::ptrdiff_t SetMachineBudget(std::ptrdiff_t steps);
-
 class Machine {
   public:
     // Positions kept by Save nodes, by slot; null for those that were not reached.

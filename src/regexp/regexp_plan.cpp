@@ -31,8 +31,9 @@ void ForEachLink(const std::vector<PlanNode>& nodes, NodeIndex index, Visit visi
 
 }  // namespace
 
-Plan::Plan(std::span<const std::uint8_t> program, LetterCase programCase, Origin programOrigin, bool isAnchored)
-    : letterCase(programCase), origin(programOrigin), anchored(isAnchored) {
+Plan::Plan(std::span<const std::uint8_t> program, LetterCase programCase, Origin programOrigin, bool isAnchored,
+           SearchTuning howToSearch)
+    : letterCase(programCase), origin(programOrigin), anchored(isAnchored), tuning(howToSearch) {
     DecodedProgram decoded = DecodeProgram(program, programCase);
     start = decoded.start;
     nodes = std::move(decoded.nodes);

@@ -1,4 +1,4 @@
-// A program made ready for execution in one case mode: decoded nodes with direct links and character sets, and hints
+// A program made ready for execution in one letter case: decoded nodes with direct links and character sets, and hints
 // where a match can begin.
 #pragma once
 
@@ -53,7 +53,8 @@ enum class Origin : std::uint8_t { Compiler, Elsewhere };
 
 struct Plan {
     // Survives any bytes. The program, which must outlive the plan, begins with the magic byte. Throws std::bad_alloc.
-    Plan(std::span<const std::uint8_t> program, LetterCase programCase, Origin programOrigin, bool isAnchored);
+    Plan(std::span<const std::uint8_t> program, LetterCase programCase, Origin programOrigin, bool isAnchored,
+         SearchTuning howToSearch);
 
     // To be called before each execution. Hints take longer to find than a line takes to search, so only a program that
     // is executed again and again gets them. Throws std::bad_alloc.
@@ -66,6 +67,7 @@ struct Plan {
     const LetterCase letterCase;
     const Origin origin;
     const bool anchored;  // matches begin at the start of the subject only
+    const SearchTuning tuning;
     NodeIndex start = 0;
     std::vector<PlanNode> nodes;
     std::size_t memoRows = 0;

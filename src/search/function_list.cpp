@@ -1,11 +1,12 @@
 #include "search/function_list.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "base/ascii.h"
 #include "language/c_functions.h"
 #include "language/profile_list.h"
-#include "regexp/regex_matcher.h"
+#include "regexp/regexp.h"
 
 namespace vexa {
 
@@ -16,30 +17,18 @@ struct LineRule {
     std::string_view extensions;  // each between blanks
     const char* pattern;
     std::string_view nameEnds;  // the characters in front of which the shown name ends
-    int caseMode;
+    LetterCase letterCase;
 };
-constexpr int kAnyCase = 0;
 
 constexpr LineRule kLineRules[] = {
-    {" py pyw ", "^[ \t]*(async[ \t]+)?(def|class)[ \t]+[A-Za-z_]", "(:", RegexMatcher::kCaseSensitive},
-    {" pas dpr pp ", "^[ \t]*(class[ \t]+)?(procedure|function|constructor|destructor)[ \t]+[a-z_]", "(:;", kAnyCase},
+    {" py pyw ", "^[ \t]*(async[ \t]+)?(def|class)[ \t]+[A-Za-z_]", "(:", LetterCase::Sensitive},
+    {" pas dpr pp ", "^[ \t]*(class[ \t]+)?(procedure|function|constructor|destructor)[ \t]+[a-z_]", "(:;",
+     LetterCase::Ignored},
     {" bas frm vb vbs ",
      "^[ \t]*((public|private|friend|static|shared|declare)[ \t]+)*(sub|function|property)[ \t]+[a-z_]", "('",
-     kAnyCase},
-    {" pl pm ", "^[ \t]*sub[ \t]+[A-Za-z_]", "({;#", RegexMatcher::kCaseSensitive},
-    {" asm ", "^[ \t]*[a-z_@?$][a-z0-9_@?$]*[ \t]+proc\\>", ";", kAnyCase},
-};
-
-// All matchers share one case mode, which others rely on.
-class KeptCaseMode {
-  public:
-    KeptCaseMode() = default;
-    ~KeptCaseMode() { SetRegExpIgnoreCase(ignoresCase_); }
-    KeptCaseMode(const KeptCaseMode&) = delete;
-    KeptCaseMode& operator=(const KeptCaseMode&) = delete;
-
-  private:
-    const bool ignoresCase_ = RegExpIgnoresCase();
+     LetterCase::Ignored},
+    {" pl pm ", "^[ \t]*sub[ \t]+[A-Za-z_]", "({;#", LetterCase::Sensitive},
+    {" asm ", "^[ \t]*[a-z_@?$][a-z0-9_@?$]*[ \t]+proc\\>", ";", LetterCase::Ignored},
 };
 
 const LineRule* RuleFor(const TextDocument& document) {
@@ -60,15 +49,13 @@ FunctionEntry EntryOf(std::string_view name, LineIndex line) {
 }
 
 std::vector<FunctionEntry> FindByLines(const TextDocument& document, const LineRule& rule) {
-    const KeptCaseMode kept;
-    RegexMatcher matcher(rule.caseMode);
+    const std::unique_ptr<RegExp> program = RegExp::Compile(rule.pattern);
     std::vector<FunctionEntry> found;
     const LineIndex last(document.lineCount(LastUsed::Text));
     for (LineIndex line(0); line <= last; ++line) {
-        // What stands behind a byte 0 is out of the matcher's sight.
-        const std::string text(document.text(line));
-        if (matcher.match(text.c_str(), rule.pattern) == 0) continue;
-        found.push_back(EntryOf(std::string_view(text).substr(0, text.find_first_of(rule.nameEnds)), line));
+        const std::string_view text = document.text(line);
+        if (!RegExp::Execute(program.get(), text, rule.letterCase)) continue;
+        found.push_back(EntryOf(text.substr(0, text.find_first_of(rule.nameEnds)), line));
     }
     return found;
 }

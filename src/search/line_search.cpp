@@ -12,11 +12,11 @@ LineSearch::LineSearch(const SearchOptions& options, std::string_view delimiters
       delimiters_(delimiters),
       regular_(options.regularExpression()),
       wholeWord_(options.wholeWord()),
-      ignoreCase_(!options.matchCase()) {
+      letterCase_(options.matchCase() ? LetterCase::Sensitive : LetterCase::Ignored) {
     if (regular_) {
         program_ = RegExp::Compile(text_.c_str());
     } else {
-        plain_ = PlainSearch(text_, ignoreCase_ ? LetterCase::Ignored : LetterCase::Sensitive);
+        plain_ = PlainSearch(text_, letterCase_);
     }
 }
 
@@ -45,10 +45,8 @@ bool LineSearch::isWholeWord(std::string_view subject, std::size_t at) const {
     return ends && (at == 0 || IsBlank(subject[at - 1]));
 }
 
-// The case mode belongs to all users of the engine, so it is set anew for each line.
 bool LineSearch::findRegular(std::string_view subject, std::size_t from, LineMatch& match) const {
-    SetRegExpIgnoreCase(ignoreCase_);
-    if (!RegExp::Execute(program_.get(), subject, from)) return false;
+    if (!RegExp::Execute(program_.get(), subject, letterCase_, from)) return false;
     const auto length = std::min<std::ptrdiff_t>(program_->end(0) - program_->start(0), RegexMatcher::kTextLimit);
     match = {CharColumn(static_cast<std::int32_t>(program_->start(0) - subject.data())),
              static_cast<std::int32_t>(length)};

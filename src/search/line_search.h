@@ -49,7 +49,7 @@ class LineSearch {
     const std::string delimiters_;
     const bool regular_;
     const bool wholeWord_;
-    const bool ignoreCase_;
+    const LetterCase letterCase_;
     PlainSearch plain_;
     // The engine itself rather than a RegexMatcher, which looks its pattern up for each line. Matches have the same
     // limit.

@@ -52,20 +52,20 @@ inline std::string DifferenceInMatching(const std::string& pattern, const std::s
     compare(*program, "new");
     compare(*foreign, "from elsewhere");
 
-    constexpr std::ptrdiff_t kRememberAtOnce = 0;
-    const std::ptrdiff_t budget = regexp::SetMachineBudget(kRememberAtOnce);
+    EarnHints(*program);
+    compare(*program, "with hints");
+
+    constexpr SearchTuning kRememberAtOnce{.stepsBeforeMemo = 0};
+    program->tune(kRememberAtOnce);
+    foreign->tune(kRememberAtOnce);
     compare(*program, "new, remembering");
     compare(*foreign, "from elsewhere, remembering");
     EarnHints(*program);
     compare(*program, "with hints, remembering");
-    regexp::SetMachineBudget(budget);
-    compare(*program, "with hints");
 
-    const Instructions limit = LimitInstructions(Instructions::Plain);
-    const std::unique_ptr<RegExp> plain = RegExp::Compile(pattern.c_str());
-    EarnHints(*plain);
-    LimitInstructions(limit);
-    compare(*plain, "with hints, without vector instructions");
+    program->tune({.most = Instructions::Plain});
+    EarnHints(*program);
+    compare(*program, "with hints, without vector instructions");
     return difference;
 }
 
