@@ -12,6 +12,8 @@ namespace vexa {
 
 // The match that the last search found; at no line when there is none.
 struct LastMatch {
+    bool isNone() const { return line.value < 0; }
+
     LineIndex line{-1};
     CharColumn column{-1};
     std::int32_t length = 0;  // characters

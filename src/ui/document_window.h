@@ -37,6 +37,10 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     const TextDocument& document() const { return document_; }
     EditView& view() { return view_; }
     const EditView& view() const { return view_; }
+    // Where columns of a line are on the screen, as far as they are in sight.
+    RECT screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
+        return pane_.screenPlaceOf(line, from, to);
+    }
     // The document's path, marked while it has changes that are not saved.
     std::string caption() const;
     // Shows what has been done to the view from outside.

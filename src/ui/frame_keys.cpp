@@ -31,10 +31,14 @@ struct FrameKeys {
 // The frame looks at these keys before the system does, which would go to the next window with Ctrl+F6.
 bool VexaFrame::translate(MSG& message) {
     if (!takesCommands()) return false;  // a dialog has the keys
+    const KeyEvent event = KeyEventOf(message);
+    const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    if (isKey && searchDialog_ && searchDialog_->useKey(message, event)) return true;
     if (message.message == WM_KEYDOWN) {
         const DocumentWindow* active = activeDocument();
-        const KeyEvent event = KeyEventOf(message);
-        if (useFrameKey(event, active && IsChild(active->window(), message.hwnd))) {
+        const bool inText = active && IsChild(active->window(), message.hwnd);
+        if (inText && event.key == kKeyEscape && searchDialog_ && searchDialog_->leave()) return true;
+        if (useFrameKey(event, inText)) {
             macro_.recordKey(event);
             return true;
         }

@@ -9,7 +9,9 @@ template <class Dialog>
 void VexaFrame::openSearchDialog() {
     if (searchDialog_) searchDialog_->close(false);
     searchDialog_ = std::make_unique<Dialog>(application_, search_, static_cast<SearchHost&>(*this));
-    if (searchDialog_->openModeless(window())) loop_.setModelessDialog(searchDialog_->window());
+    if (!searchDialog_->openModeless(window())) return;
+    loop_.setModelessDialog(searchDialog_->window());
+    if (const DocumentWindow* active = activeDocument()) showMatchBesideDialog(*active);
 }
 
 void VexaFrame::find() {
@@ -33,7 +35,16 @@ void VexaFrame::search(const Search& search) {
     DocumentWindow* active = activeDocument();
     notices_.clearStatus();
     search(active ? &active->view() : nullptr);
-    if (active) active->refresh();
+    if (!active) return;
+    active->refresh();
+    showMatchBesideDialog(*active);
+}
+
+void VexaFrame::showMatchBesideDialog(const DocumentWindow& active) {
+    const SearchOptions& options = application_.searchOptions;
+    if (!searchDialog_ || !options.matchPending() || options.lastMatch.isNone()) return;
+    const LastMatch& match = options.lastMatch;
+    searchDialog_->keepClearOf(active.screenPlaceOf(match.line, match.displayStart, match.displayEnd));
 }
 
 }  // namespace vexa

@@ -88,6 +88,17 @@ POINT PaneWindowCL::caretPlace() const {
     return cell ? POINT{cell->column * painter_.cellWidth(), cell->row * painter_.cellHeight()} : kOutOfSight;
 }
 
+RECT PaneWindowCL::screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
+    const LONG top = (line - view_.topLine()) * painter_.cellHeight();
+    const RECT cells = {(from - view_.leftColumn()) * painter_.cellWidth(), top,
+                        (to - view_.leftColumn()) * painter_.cellWidth(), top + painter_.cellHeight()};
+    const RECT client = clientArea();
+    RECT place{};
+    IntersectRect(&place, &cells, &client);
+    MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
 // A bar between two characters where typing inserts, a block over the character that typing replaces.
 void PaneWindowCL::refreshCaret() {
     if (GetFocus() != window()) return;

@@ -37,6 +37,8 @@ class PaneWindowCL : public WindowCL {
     // Shows the view as it now is: draws the rows that look different, moves the caret and the scroll bars.
     void refresh();
     const RowPainter& painter() const { return painter_; }
+    // Where columns of a line are on the screen, as far as they are in sight.
+    RECT screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const;
     // Takes over the font and the resolution in force.
     void refreshFont();
     // Takes over the colours in force.

@@ -1,6 +1,8 @@
 #include "ui/search_dialog.h"
 
 #include "ui/dialog_controls.h"
+#include "ui/dialog_keys.h"
+#include "ui/dialog_place.h"
 
 namespace vexa {
 namespace {
@@ -15,23 +17,23 @@ constexpr CheckBox kCheckBoxes[] = {
     {IDC_REGULAR_EXPRESSION, &FindDialogModel::regularExpression},
 };
 
-struct FieldCommand {
-    CommandId command;
-    UINT message;
-    WPARAM first;
-    LPARAM second;
-};
-constexpr FieldCommand kFieldCommands[] = {
-    {CommandId::Undo, WM_UNDO, 0, 0},
-    {CommandId::Cut, WM_CUT, 0, 0},
-    {CommandId::Copy, WM_COPY, 0, 0},
-    {CommandId::Paste, WM_PASTE, 0, 0},
-    {CommandId::Clear, WM_CLEAR, 0, 0},
-    {CommandId::Redo, EM_SETSEL, 0, -1},  // the key is Ctrl+A, which marks all of a field
-};
-
 bool IsTextField(HWND control) {
     return SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
+}
+
+// What the user has typed into a field shows no mnemonics.
+bool ShowsMnemonic(HWND control) {
+    const LRESULT kind = SendMessageA(control, WM_GETDLGCODE, 0, 0);
+    return IsWindowVisible(control) && (kind & (DLGC_STATIC | DLGC_BUTTON)) != 0;
+}
+
+std::vector<std::string> ControlTexts(HWND dialog) {
+    std::vector<std::string> texts;
+    for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+        char text[100] = "";
+        if (ShowsMnemonic(control) && GetWindowTextA(control, text, sizeof(text)) > 0) texts.emplace_back(text);
+    }
+    return texts;
 }
 
 }  // namespace
@@ -78,15 +80,34 @@ void SearchDialog::refreshOptions(const SearchOptions& options) {
     setChecked(IDC_REGULAR_EXPRESSION, options.regularExpression());
 }
 
-bool SearchDialog::editField(CommandId command) {
-    const HWND field = GetFocus();
-    if (!window() || !IsChild(window(), field) || !IsTextField(field)) return false;
-    for (const FieldCommand& row : kFieldCommands) {
-        if (row.command != command) continue;
-        SendMessageA(field, row.message, row.first, row.second);
-        return true;
-    }
-    return false;
+bool SearchDialog::useKey(MSG& message, const KeyEvent& event) {
+    const HWND focus = GetFocus();
+    if (!window() || !IsChild(window(), focus)) return false;
+    const bool inField = IsTextField(focus);
+    const DialogKeyUse use = DialogKeyUseOf(event, ControlTexts(window()), inField);
+    if (use == DialogKeyUse::MarkField) SendMessageA(focus, EM_SETSEL, 0, -1);
+    return use == DialogKeyUse::MarkField || (use == DialogKeyUse::Own && IsDialogMessageA(window(), &message));
+}
+
+bool SearchDialog::leave() {
+    if (!window()) return false;
+    onCancel();
+    return true;
+}
+
+void SearchDialog::keepClearOf(const RECT& match) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    RECT dialog{};
+    if (!window() || !GetWindowRect(window(), &dialog)) return;
+    if (!GetMonitorInfoA(MonitorFromRect(&match, MONITOR_DEFAULTTONEAREST), &monitor)) return;
+    const auto area = [](const RECT& r) {
+        return ScreenArea{static_cast<std::int32_t>(r.left), static_cast<std::int32_t>(r.top),
+                          static_cast<std::int32_t>(r.right), static_cast<std::int32_t>(r.bottom)};
+    };
+    const auto corner = CornerClearOf(area(match), area(dialog), area(monitor.rcWork));
+    if (!corner) return;
+    SetWindowPos(window(), nullptr, corner->left, corner->top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // ---- what the user does ------------------------------------------------------------------------------------------

@@ -30,9 +30,13 @@ class SearchDialog : public EditorDialog {
 
     // Shows options that have been switched from outside.
     void refreshOptions(const SearchOptions& options);
-    // Lets a command of the Edit menu, whose key is one of text fields too, work on the field with the focus. False
-    // when none of the dialog's fields has it.
-    bool editField(CommandId command);
+    // Uses a key that means something to the dialog while it has the focus, so that none of the frame's commands gets
+    // it; false for any other key.
+    bool useKey(MSG& message, const KeyEvent& event);
+    // Closes the dialog as its Cancel button does; false when it is not open.
+    bool leave();
+    // Moves aside where the dialog lies over a match, given by its place on the screen.
+    void keepClearOf(const RECT& match);
 
   protected:
     virtual FindDialogModel& model() = 0;

@@ -154,7 +154,6 @@ void VexaFrame::showItemHelp(std::optional<WORD> id) {
 }
 
 void VexaFrame::runCommand(WORD id) {
-    if (searchDialog_ && searchDialog_->editField(CommandId{id})) return;
     macro_.recordCommand(CommandId{id});
     dispatcher_.Dispatch(CommandId{id});
     refreshToolBar();

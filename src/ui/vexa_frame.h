@@ -128,6 +128,8 @@ class VexaFrame : public MDIframeCL,
     void findPrevious();
     template <class Dialog>
     void openSearchDialog();
+    // Moves the Find or Replace dialog off the match that was found last.
+    void showMatchBesideDialog(const DocumentWindow& active);
     // Carries out a key that is the frame's own; false for any other.
     bool useFrameKey(const KeyEvent& event, bool inText);
     void toggleMatchCase();

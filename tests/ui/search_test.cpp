@@ -1,15 +1,19 @@
 // Finding and replacing, from the menu's keys and in the dialogs.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
 #include "ui/dialog_controls.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/pixels.h"
 
 namespace vexa::test {
 namespace {
+
+constexpr std::uint32_t kMarkingBackground = 0x008080;
 
 bool IsEnabled(HWND dialog, int control) {
     return IsWindowEnabled(GetDlgItem(dialog, control));
@@ -248,6 +252,44 @@ TEST_F(SearchTest, EditingKeysOfAFieldWorkOnTheField) {
     EXPECT_TRUE(WaitUntil([&] { return !IsEnabled(dialog, IDOK); }));
     leave(dialog);
     EXPECT_EQ(editor->caption().find('*'), std::string::npos);
+    end();
+}
+
+TEST_F(SearchTest, ADialogsMnemonicsAndFieldKeysComeBeforeCommands) {
+    edit("one\r\n");
+    const HWND dialog = openFind();
+    editor->keys("abc{Ctrl+Home}x{Ctrl+End}y{Ctrl+Left}{Shift+Del}{Alt+X}{Alt+W}{Alt+S}");
+    EXPECT_TRUE(WaitUntil([&] { return IsChecked(dialog, IDC_MATCH_CASE); }));
+    EXPECT_TRUE(IsChecked(dialog, IDC_REGULAR_EXPRESSION));
+    EXPECT_TRUE(IsChecked(dialog, IDC_WHOLE_WORD));
+    EXPECT_EQ(FieldOf(dialog, IDC_FIND_TEXT), "xabcy");
+    EXPECT_TRUE(editor->isRunning());
+    EXPECT_EQ(editor->message(), "");
+    editor->keys("{Alt+T}");  // no key of this dialog
+    EXPECT_TRUE(editor->dialog("Replace"));
+    end();
+}
+
+TEST_F(SearchTest, TheDialogLeavesTheMatchInSightAndEscInTheTextClosesIt) {
+    std::string text;
+    for (int line = 0; line < 60; ++line)
+        text += std::string(60, '.') + (line % 7 == 6 ? "needle" : "......") + std::string(30, '.') + "\r\n";
+    edit(text);
+    const HWND dialog = openFind();
+    editor->keys("needle{Enter}");
+    ASSERT_TRUE(editor->showsPosition(7, 61));
+    const auto marked = [&] { return std::ranges::count(PixelsOf(editor->activePane()), kMarkingBackground); };
+    ASSERT_TRUE(WaitUntil([&] { return marked() > 0; }));
+    const auto whole = marked();
+    for (const int line : {14, 21, 28, 35, 42, 49, 56}) {
+        editor->keys("{Enter}");
+        ASSERT_TRUE(editor->showsPosition(line, 61));
+        EXPECT_TRUE(WaitUntil([&] { return marked() == whole; })) << line;
+        if (line == 28) editor->takePicture("find-clear-of-match");
+    }
+    goTo(editor->frame());
+    editor->keys("{Esc}");
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
     end();
 }
 
