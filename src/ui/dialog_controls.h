@@ -58,6 +58,7 @@
 #define IDC_COLOURS 403
 #define IDC_HIGHLIGHTING 404
 #define IDC_COLOUR_SAMPLE 405
+#define IDC_CONTRAST 406
 
 // "File Extensions".
 #define IDC_EXTENSIONS 451

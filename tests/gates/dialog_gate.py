@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""Checks the dialogs that a person uses by keyboard: in each, no two controls share a mnemonic or a place, all lie inside,
-one button is the default, one leaves, every field has its label just before it, and texts have room.
+"""Checks the dialogs that a person uses by keyboard: in each, every control that can be worked has a mnemonic, no
+two share a mnemonic or a place, all lie inside, one button is the default, one leaves, every field has its label just before
+it, and texts have room.
 
 usage: dialog_gate.py DIALOGS.RC
 """
@@ -15,6 +16,7 @@ CONTROL = re.compile(r'^\s+(\w+) (?:"((?:[^"]|"")*)", )?(-?\w+)((?:, [^,]+)*)$')
 FIELDS = {"EDITTEXT", "COMBOBOX", "LISTBOX"}
 LABELS = {"LTEXT", "RTEXT", "GROUPBOX"}
 BUTTONS = {"DEFPUSHBUTTON", "PUSHBUTTON"}
+WORKED = FIELDS | BUTTONS | {"AUTOCHECKBOX", "AUTORADIOBUTTON"}
 # What a control shows beside its text, in dialog units: a button's frame, a box and the blank after it.
 BESIDE_TEXT = {"LTEXT": 0, "RTEXT": 0, "DEFPUSHBUTTON": 6, "PUSHBUTTON": 6, "AUTOCHECKBOX": 12, "AUTORADIOBUTTON": 12}
 # A dialog unit is a quarter of the mean width of a letter; texts of the usual letters take a little less than four.
@@ -98,6 +100,14 @@ def missing_labels(controls):
             yield f"{control} has no label before it"
 
 
+# A field is reached by the mnemonic of its label.
+def missing_mnemonics(controls):
+    for before, control in zip([None] + controls, controls):
+        named = before if control.kind in FIELDS else control
+        if control.kind in WORKED and named is not None and named.mnemonic is None:
+            yield f"{control} cannot be reached by a mnemonic"
+
+
 def missing_buttons(controls):
     buttons = {control.number: control.kind for control in controls if control.kind in BUTTONS}
     if sum(kind == "DEFPUSHBUTTON" for kind in buttons.values()) != 1:
@@ -108,7 +118,7 @@ def missing_buttons(controls):
 
 def faults(text):
     for name, width, height, controls in read_dialogs(text):
-        for find in (shared_mnemonics, clipped, missing_labels, missing_buttons):
+        for find in (shared_mnemonics, clipped, missing_labels, missing_mnemonics, missing_buttons):
             yield from (f"{name}: {fault}" for fault in find(controls))
         yield from (f"{name}: {fault}" for fault in misplaced(controls, width, height))
 

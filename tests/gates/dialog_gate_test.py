@@ -29,6 +29,8 @@ class DialogGateTest(unittest.TestCase):
 
     def test_each_fault_is_found(self):
         for old, new in [
+            ("&Name:", "Name:"),
+            ("&Update", "Update"),
             ("&Name:", "&Cost:"),  # the mnemonic of a button
             ("50, 8, 60", "30, 8, 60"),  # the field lies on its label
             ("140, 24", "160, 24"),  # beyond the right edge
