@@ -1,6 +1,8 @@
 // The fields of the "Color Setup" dialog and what its controls do.
 #pragma once
 
+#include <string>
+
 #include "language/colour_table.h"
 
 namespace vexa {
@@ -20,6 +22,8 @@ class ColourSetupModel {
     // The palette entry that the colour list selects for the chosen element.
     std::int32_t colour() const { return working_.indexOf(element_) & (kPaletteSize - 1); }
     void chooseColour(std::int32_t index);
+    // Says how well the chosen element can be read; of a background, what stands on it.
+    std::string contrastText() const;
     bool isHighlightingOn() const { return working_.isHighlightingOn(); }
     void setHighlighting(bool on) { working_.setHighlighting(on); }
 

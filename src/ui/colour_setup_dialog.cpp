@@ -67,6 +67,7 @@ void ColourSetupDialog::showChoice() {
     chooseRow(IDC_PRESETS, static_cast<std::size_t>(model_.preset()));
     chooseRow(IDC_ELEMENTS, static_cast<std::size_t>(model_.element()));
     chooseRow(IDC_COLOURS, static_cast<std::size_t>(model_.colour()));
+    setTextOf(IDC_CONTRAST, model_.contrastText());
     InvalidateRect(control(IDC_COLOUR_SAMPLE), nullptr, FALSE);
 }
 

@@ -86,6 +86,23 @@ TEST(ColourSetupModel, PresetsFillTheWorkingSetAndUserDefinedGoesBack) {
     EXPECT_EQ(model.working(), table);
 }
 
+TEST(ColourSetupModel, SaysTheContrastOfWhatIsChosen) {
+    ColourSetupModel model{ColourTable()};
+    const std::pair<E, const char*> rows[] = {
+        {E::Background, "Contrast 14.9 to 1"},
+        {E::Keywords, "Contrast 16.0 to 1"},
+        {E::Numbers, "Contrast 5.1 to 1"},
+        {E::MarkingBackground, "Contrast 4.3, hard to read"},
+        {E::MarkingText, "Contrast 4.3, hard to read"},
+    };
+    for (const auto& [element, text] : rows) {
+        model.chooseElement(element);
+        EXPECT_EQ(model.contrastText(), text) << ElementName(element);
+    }
+    model.chooseColour(13);
+    EXPECT_EQ(model.contrastText(), "Contrast 1.0, hard to read") << "a colour on itself";
+}
+
 TEST(ColourSetupModel, OnlyUpdateTakesTheChoicesIntoEffect) {
     ColourTable table;
     ColourSetupModel model(table);
