@@ -33,15 +33,19 @@ void GapVector::moveGap(std::int32_t to) {
     gapStart_ = to;
 }
 
-void GapVector::widenGap() {
+void GapVector::widenGap(std::int32_t least) {
     moveGap(size());
-    const std::size_t wider = std::max<std::size_t>(64, items_.size() / 2);
+    const std::size_t wider = std::max({std::size_t{64}, items_.size() / 2, static_cast<std::size_t>(least)});
     items_.resize(items_.size() + wider);
-    gapLength_ = static_cast<std::int32_t>(wider);
+    gapLength_ += static_cast<std::int32_t>(wider);
+}
+
+void GapVector::reserve(std::int32_t count) {
+    if (gapLength_ < count) widenGap(count);
 }
 
 void GapVector::insert(std::int32_t i, TextLine* item) {
-    if (gapLength_ == 0) widenGap();
+    reserve(1);
     moveGap(i);
     items_[static_cast<std::size_t>(gapStart_++)] = item;
     --gapLength_;
@@ -53,6 +57,7 @@ TextLine* GapVector::remove(std::int32_t i) {
 }
 
 void GapVector::append(std::int32_t count, TextLine* item) {
+    reserve(count);
     for (; count > 0; --count)
         insert(size(), item);
 }
@@ -106,6 +111,10 @@ bool DynArray::reach(std::int32_t count) {
         Report(kNoMemory);
         return false;
     }
+}
+
+void DynArray::reserve(std::int32_t i) {
+    slots_.reserve(std::max(i + 1 - slots_.size(), 1));
 }
 
 void DynArray::trim() {

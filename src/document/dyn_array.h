@@ -24,13 +24,14 @@ class GapVector {
     TextLine* operator[](std::int32_t i) const { return items_[place(i)]; }
     void insert(std::int32_t i, TextLine* item);
     TextLine* remove(std::int32_t i);
-    // Throws std::bad_alloc and is then unchanged.
+    // Makes room for that many more. Throws std::bad_alloc and is then unchanged, as append is.
+    void reserve(std::int32_t count);
     void append(std::int32_t count, TextLine* item);
 
   private:
     std::size_t place(std::int32_t i) const { return static_cast<std::size_t>(i < gapStart_ ? i : i + gapLength_); }
     void moveGap(std::int32_t to);
-    void widenGap();
+    void widenGap(std::int32_t least);
 
     std::vector<TextLine*> items_;
     std::int32_t gapStart_ = 0;
@@ -71,6 +72,10 @@ class DynArray {
     bool putIfVacant(LinePtr line, std::int32_t i);  // no line leaves the slot vacant
     bool append(LinePtr line);
     bool insertAt(LinePtr line, std::int32_t i);  // moves the lines from i on up by one
+
+    // Makes sure that a line can then be put into slot i, or inserted there, whatever memory is left by then: a line
+    // on its way back into the text must not be lost. std::bad_alloc, and nothing is changed.
+    void reserve(std::int32_t i);
 
     // Moves the lines behind i down by one and hands the line over; none for a vacant slot.
     LinePtr detach(std::int32_t i);

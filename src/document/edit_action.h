@@ -8,7 +8,7 @@ namespace vexa {
 class TextDocument;
 
 // Taking back is exact: undo() in the state that perform() left restores what perform() found, and performing again,
-// also on a text that has changed since, keeps that so.
+// also on a text that has changed since, keeps that so. Either may throw std::bad_alloc, and has then done nothing.
 class EditAction {
   public:
     explicit EditAction(TextDocument& document) : document_(document) {}

@@ -14,7 +14,9 @@ LinePtr TakeOut(TextDocument& document, LineIndex index) {
     return document.lines().detach(index.value);
 }
 
-void PutBack(TextDocument& document, LinePtr line, LineIndex index) {
+// The line stays where it is when there is no memory to store it.
+void PutBack(TextDocument& document, LinePtr& line, LineIndex index) {
+    document.lines().reserve(index.value);
     document.lines().insertAt(std::move(line), index.value);
 }
 
@@ -22,7 +24,7 @@ void PutBack(TextDocument& document, LinePtr line, LineIndex index) {
 
 bool InsertLine::change() {
     if (!line_) line_ = document().makeLine({});
-    PutBack(document(), std::move(line_), document().currentLine());
+    PutBack(document(), line_, document().currentLine());
     return true;
 }
 
@@ -38,37 +40,42 @@ bool DeleteLine::change() {
 }
 
 void DeleteLine::takeBack() {
-    if (line_) PutBack(document(), std::move(line_), document().currentLine());
+    if (line_) PutBack(document(), line_, document().currentLine());
 }
 
 bool SplitLine::change() {
     TextLine& line = document().current();
     const CharColumn end = std::min(line.column(), CharColumn(line.length()));
     LinePtr tail = document().makeLine(line.text().substr(static_cast<std::size_t>(end.value)));
+    document().lines().reserve(document().currentLine().value + 1);
     line.truncate(end);
-    PutBack(document(), std::move(tail), document().currentLine() + 1);
+    PutBack(document(), tail, document().currentLine() + 1);
     return true;
 }
 
 void SplitLine::takeBack() {
-    const LinePtr tail = TakeOut(document(), document().currentLine() + 1);
-    document().current().append(tail->text());
+    const LineIndex tail = document().currentLine() + 1;
+    const std::string_view text = document().editableLine(tail).text();
+    document().current().append(text);
+    document().lines().detach(tail.value);
 }
 
 bool JoinLines::change() {
     const LineIndex here = document().currentLine();
     if (here.value >= document().lines().lastUsed(LastUsed::Plain)) return false;
-    next_ = TakeOut(document(), here + 1);
+    const std::string_view text = document().editableLine(here + 1).text();
     TextLine& line = document().current();
     joint_ = CharColumn(line.length());
-    line.append(next_->text());
+    line.append(text);
+    next_ = document().lines().detach(here.value + 1);
     return true;
 }
 
 void JoinLines::takeBack() {
     if (!next_) return;
+    document().lines().reserve(document().currentLine().value + 1);
     document().current().truncate(joint_);
-    PutBack(document(), std::move(next_), document().currentLine() + 1);
+    PutBack(document(), next_, document().currentLine() + 1);
 }
 
 }  // namespace vexa

@@ -70,6 +70,7 @@ class LineEditor {
     template <class Action, class... Arguments>
     void run(Arguments&&... arguments) {
         auto action = std::make_unique<Action>(document_, std::forward<Arguments>(arguments)...);
+        document_.undo().makeRoom();
         action->perform();
         document_.undo().record(std::move(action));
     }

@@ -127,6 +127,7 @@ std::int32_t TextDocument::lineCount(LastUsed mode) const {
 TextLine& TextDocument::editableLine(LineIndex index) {
     comments_.touch(index);
     if (TextLine* line = lines_.occupied(index.value)) return *line;
+    lines_.reserve(index.value);
     lines_.put(makeLine({}), index.value);
     lines_.occupied(index.value)->clearChanged();  // the cursor has only come to a line that nobody has used yet
     return *lines_.occupied(index.value);

@@ -1,9 +1,16 @@
 #include "document/undo_history.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
 namespace vexa {
+
+void UndoHistory::makeRoomIn(Stack& stack) {
+    constexpr std::size_t kFirstRoom = 64;
+    if (stack.size() == stack.capacity()) stack.reserve(std::max(kFirstRoom, stack.size() * 2));
+}
 
 void UndoHistory::record(std::unique_ptr<EditAction> action) {
     action->setGroup(group_);
@@ -23,13 +30,14 @@ bool UndoHistory::moveGroup(Stack& from, Stack& to, Direction direction) {
     const std::uint32_t group = from.back()->group();
     std::optional<BusyCursor> busy;
     for (int count = 1; !from.empty() && from.back()->group() == group; ++count) {
+        makeRoomIn(to);
+        if (direction == Direction::Undo) {
+            from.back()->undo();
+        } else {
+            from.back()->perform();
+        }
         to.push_back(std::move(from.back()));
         from.pop_back();
-        if (direction == Direction::Undo) {
-            to.back()->undo();
-        } else {
-            to.back()->perform();
-        }
         if (count == kBusySteps) busy.emplace(notices_);
     }
     return true;

@@ -19,11 +19,15 @@ class UndoHistory {
 
     explicit UndoHistory(Notices& notices) : notices_(notices) {}
 
+    // To be called before an action is performed: recording it finds the room that this makes. What has been done but
+    // could not be recorded, no undo would take back. std::bad_alloc, and nothing is changed.
+    void makeRoom() { makeRoomIn(undoStack_); }
     // Takes an action that has been performed into the present group.
     void record(std::unique_ptr<EditAction> action);
     // Called once after each command or keystroke.
     void nextGroup() { ++group_; }
-    // Undo or redo one group; false when there is none.
+    // Undo or redo one group; false when there is none. Where memory runs out in the middle, the steps that are done
+    // are on the other side, and the rest of the group is where it was.
     bool undo();
     bool redo();
     void clear();
@@ -33,6 +37,7 @@ class UndoHistory {
   private:
     using Stack = std::vector<std::unique_ptr<EditAction>>;
     enum class Direction { Undo, Redo };
+    static void makeRoomIn(Stack& stack);
     bool moveGroup(Stack& from, Stack& to, Direction direction);
 
     Notices& notices_;
