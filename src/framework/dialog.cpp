@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "framework/centred.h"
+
 namespace vexa {
 namespace {
 
@@ -39,12 +41,6 @@ const ListMessages& MessagesOf(HWND list) {
     char name[16] = "";
     GetClassNameA(list, name, sizeof(name));
     return lstrcmpiA(name, "ComboBox") == 0 ? kComboBox : kListBox;
-}
-
-POINT CentredOver(const RECT& owner, const RECT& dialog) {
-    const LONG left = (owner.left + owner.right - (dialog.right - dialog.left)) / 2;
-    const LONG top = (owner.top + owner.bottom - (dialog.bottom - dialog.top)) / 2;
-    return {left > 0 ? left : 0, top > 0 ? top : 0};
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ LRESULT MDIchildCL::defaultProcedure(const Message& message) {
 
 bool MDIchildCL::onClose() {
     const bool isRefused = !frame_.takesCommands() || !mayClose();
+    if (!isRefused) onClosing();
     return isRefused;
 }
 

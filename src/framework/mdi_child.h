@@ -13,6 +13,8 @@ class MDIchildCL : public WindowCL {
 
     // Whether the user may close the window now; asks him if need be.
     virtual bool mayClose() { return true; }
+    // The window has agreed and is going to be closed.
+    virtual void onClosing() {}
 
   protected:
     friend class MDIframeCL;

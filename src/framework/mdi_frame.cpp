@@ -2,26 +2,13 @@
 
 #include <algorithm>
 
+#include "framework/drawing_pause.h"
+
 namespace vexa {
 namespace {
 
 // The numbers of the child windows' menu items, above those of all commands.
 constexpr UINT kFirstChildItem = 0x6000;
-
-// While it lives, the children of the client window come and go unseen; then all is drawn at once.
-class DrawingPause {
-  public:
-    explicit DrawingPause(HWND client) : client_(client) { SendMessageA(client, WM_SETREDRAW, FALSE, 0); }
-    ~DrawingPause() {
-        SendMessageA(client_, WM_SETREDRAW, TRUE, 0);
-        RedrawWindow(client_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-    }
-    DrawingPause(const DrawingPause&) = delete;
-    DrawingPause& operator=(const DrawingPause&) = delete;
-
-  private:
-    HWND client_;
-};
 
 }  // namespace
 
@@ -74,6 +61,7 @@ void MDIframeCL::arrange(Arrangement arrangement) {
         {WM_MDICASCADE, 0},     {WM_MDITILE, 0}, {WM_MDITILE, MDITILE_VERTICAL}, {WM_MDITILE, MDITILE_HORIZONTAL},
         {WM_MDIICONARRANGE, 0},
     };
+    const DrawingPause pause(client_);
     const Request& request = kRequests[static_cast<std::size_t>(arrangement)];
     SendMessageA(client_, request.message, request.flags, 0);
 }
@@ -100,19 +88,43 @@ bool MDIframeCL::openAs(MDIchildCL& child, const WindowClass& windowClass, const
     return true;
 }
 
+std::vector<MDIchildCL*> MDIframeCL::childrenByUse() const {
+    std::vector<MDIchildCL*> found;
+    for (HWND window = GetWindow(client_, GW_CHILD); window; window = GetWindow(window, GW_HWNDNEXT)) {
+        const auto child = std::ranges::find(children_, window, [](const auto& owned) { return owned->window(); });
+        if (child != children_.end()) found.push_back(child->get());
+    }
+    return found;
+}
+
+bool MDIframeCL::owns(const MDIchildCL* child) const {
+    return std::ranges::any_of(children_, [child](const auto& owned) { return owned.get() == child; });
+}
+
 bool MDIframeCL::closeChild(MDIchildCL& child) {
     if (!child.mayClose()) return false;
-    SendMessageA(client_, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child.window()), 0);
+    closeAgreed(child);
     return true;
 }
 
-bool MDIframeCL::closeChildren() {
-    while (!children_.empty()) {
-        const std::size_t count = children_.size();
-        const bool isClosed = closeChild(*children_.front()) && children_.size() < count;
-        if (!isClosed) return false;
+void MDIframeCL::closeAgreed(MDIchildCL& child) {
+    child.onClosing();
+    SendMessageA(client_, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child.window()), 0);
+}
+
+bool MDIframeCL::mayCloseChildren() const {
+    return std::ranges::all_of(children_, [](const auto& child) { return child->mayClose(); });
+}
+
+// The frame takes nothing in meanwhile: no key may reach a document that the user has agreed to close.
+void MDIframeCL::closeChildren(const std::vector<MDIchildCL*>& order) {
+    const DrawingPause pause(client_);
+    EnableWindow(window(), FALSE);
+    for (MDIchildCL* child : order) {
+        if (owns(child)) closeAgreed(*child);
+        if (pumpMessages()) break;
     }
-    return true;
+    EnableWindow(window(), TRUE);
 }
 
 void MDIframeCL::forget(const MDIchildCL& child) {

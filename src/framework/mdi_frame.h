@@ -30,8 +30,12 @@ class MDIframeCL : public AppFrameCL {
     // Opens the child's window and takes the child over. False, and the child is gone, when the system refuses.
     bool adopt(std::unique_ptr<MDIchildCL> child, const WindowClass& windowClass, const std::string& title,
                ChildShow show);
-    // Closes the children one after the other, asking each; stops at the first that refuses, and false then.
-    bool closeChildren();
+    // The children, the one used last first.
+    std::vector<MDIchildCL*> childrenByUse() const;
+    // Asks each child whether it may be closed, up to the first that refuses; all stay open.
+    bool mayCloseChildren() const;
+    // Closes children that have agreed, letting messages run between them.
+    void closeChildren(const std::vector<MDIchildCL*>& order);
     // Closes a child if it agrees.
     bool closeChild(MDIchildCL& child);
     // Lets go of a child whose window has been destroyed.
@@ -45,12 +49,16 @@ class MDIframeCL : public AppFrameCL {
     // The child windows have the whole rectangle of the frame's client area.
     void placeClient(const RECT& area);
 
+    // Lets what is queued run in the middle of long work; true when the program is about to end.
+    virtual bool pumpMessages() { return false; }
     // A child window has gone, or another one is the active one.
     virtual void childrenChanged() {}
 
     LRESULT defaultProcedure(const Message& message) override;
 
   private:
+    bool owns(const MDIchildCL* child) const;
+    void closeAgreed(MDIchildCL& child);
     bool openAs(MDIchildCL& child, const WindowClass& windowClass, const std::string& title, bool maximised);
 
     HWND client_ = nullptr;

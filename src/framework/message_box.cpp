@@ -1,9 +1,51 @@
 #include "framework/message_box.h"
 
+#include <utility>
+
+#include "framework/centred.h"
+
 namespace vexa {
+namespace {
+
+// The system puts its boxes into the middle of the screen. While this lives, one that comes up for the owner is put
+// over the owner before it is seen. The hook knows no objects; one box comes up at a time.
+class BoxOverOwner {
+  public:
+    explicit BoxOverOwner(HWND owner) {
+        g_owner = owner;
+        hook_ = owner ? SetWindowsHookExA(WH_CBT, &BoxOverOwner::OnEvent, nullptr, GetCurrentThreadId()) : nullptr;
+    }
+    ~BoxOverOwner() {
+        if (hook_) UnhookWindowsHookEx(hook_);
+    }
+    BoxOverOwner(const BoxOverOwner&) = delete;
+    BoxOverOwner& operator=(const BoxOverOwner&) = delete;
+
+  private:
+    static LRESULT CALLBACK OnEvent(int code, WPARAM wParam, LPARAM lParam) {
+        const auto box = reinterpret_cast<HWND>(wParam);
+        if (code == HCBT_ACTIVATE && g_owner && GetWindow(box, GW_OWNER) == g_owner) {
+            putOver(std::exchange(g_owner, nullptr), box);
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static void putOver(HWND owner, HWND box) {
+        RECT ownerPlace{};
+        RECT boxPlace{};
+        if (IsIconic(owner) || !GetWindowRect(owner, &ownerPlace) || !GetWindowRect(box, &boxPlace)) return;
+        const POINT corner = CentredOver(ownerPlace, boxPlace);
+        SetWindowPos(box, nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+
+    inline static HWND g_owner = nullptr;
+    HHOOK hook_ = nullptr;
+};
+
+}  // namespace
 
 int ShowBox(HWND owner, const std::string& text, const std::string& caption, UINT buttons) {
     MessageBeep(MB_ICONEXCLAMATION);
+    const BoxOverOwner over(owner);
     const int answer = MessageBoxA(owner, text.c_str(), caption.c_str(), buttons | MB_ICONEXCLAMATION);
     return answer ? answer : IDCANCEL;
 }
@@ -17,6 +59,7 @@ void ShowAboutBox(HWND owner, const std::string& text, const std::string& captio
     box.lpszCaption = caption.c_str();
     box.dwStyle = MB_OK | MB_USERICON;
     box.lpszIcon = MAKEINTRESOURCEA(icon);
+    const BoxOverOwner over(owner);
     MessageBoxIndirectA(&box);
 }
 

@@ -74,7 +74,7 @@ LRESULT WindowCL::receive(Message message) noexcept {
     try {
         if (!route(message)) message.result = defaultProcedure(message);
     } catch (...) {
-        OutputDebugStringA("A window's handler failed.");
+        recover(message);
         message.result = DefWindowProcA(window_, message.number, message.wParam, message.lParam);
     }
     if (message.number == WM_NCDESTROY) {
@@ -84,6 +84,15 @@ LRESULT WindowCL::receive(Message message) noexcept {
     }
     if (--depth_ == 0 && std::exchange(isGone_, false)) onGone();
     return message.result;
+}
+
+void WindowCL::recover(const Message& message) noexcept {
+    OutputDebugStringA("A window's handler failed.");
+    try {
+        if (message.number != WM_PAINT) onFailed();
+    } catch (...) {
+        OutputDebugStringA("A window cannot show what has been done.");
+    }
 }
 
 LRESULT WindowCL::defaultProcedure(const Message& message) {

@@ -95,7 +95,7 @@ class WindowCL {
     virtual bool onClose() { return false; }
     virtual void onEnabled() {}  // after it was not
     virtual bool onQueryEndSession(bool& /*agreed*/) { return false; }
-    virtual void onEndSession() {}
+    virtual void onEndSession(bool /*ends*/) {}  // false: another program has refused
     virtual bool onSize(UINT /*kind*/) { return false; }
     virtual void onMove() {}
     virtual bool onDpiChanged(const RECT& /*suggested*/) { return false; }
@@ -129,6 +129,10 @@ class WindowCL {
     virtual bool onMenuSelect(WORD /*id*/, UINT /*flags*/) { return false; }
     virtual bool onMenuClosed() { return false; }
 
+    // A handler has failed, most likely because memory has run out: what the window shows may be behind what has been
+    // done. Not for painting, which would only be asked for again.
+    virtual void onFailed() {}
+
     // A message that has no handler of its own, such as one whose number is only known at run time.
     virtual bool onOther(Message& /*message*/) { return false; }
 
@@ -140,6 +144,7 @@ class WindowCL {
     static bool Register(const WindowClass& windowClass);
     LRESULT receive(Message message) noexcept;
     bool route(Message& message);
+    void recover(const Message& message) noexcept;
     bool paint();
 
     HWND window_ = nullptr;

@@ -90,7 +90,7 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
      }},
     {WM_ENDSESSION,
      [](WindowCL& w, Message& m) {
-         if (m.wParam) w.onEndSession();
+         w.onEndSession(m.wParam != 0);
          return false;
      }},
     {WM_SIZE, [](WindowCL& w, Message& m) { return w.onSize(static_cast<UINT>(m.wParam)); }},

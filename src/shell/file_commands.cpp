@@ -97,7 +97,6 @@ bool FileCommands::queryClose(TextDocument& document) {
             save(document);
             return !document.isModified();
         case BoxAnswer::No:
-            document.clearModified();
             return true;
         default:
             return false;

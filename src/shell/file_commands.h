@@ -33,7 +33,8 @@ class FileCommands {
     bool saveAs(TextDocument& document);
     // Gives a document the profile of its name, as that profile now is.
     void takeProfile(TextDocument& document) { document.setProfile(profiles_.profileFor(document.fullPath())); }
-    // Asks about unsaved changes; true when the document may be closed.
+    // Asks about unsaved changes; true when the document may be closed. Changes that the user gives up stay until then:
+    // another document may still be kept open, and this one with it.
     bool queryClose(TextDocument& document);
 
   private:

@@ -1,6 +1,7 @@
 #include "shell/startup_files.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/ascii.h"
 
@@ -26,6 +27,23 @@ void StartupFiles::RecordStartupFile(const std::string& path, std::int32_t line)
     paths_[slot] = path;
     store_.WriteString(kSection, KeyOf(slot), path + " " + std::to_string(line));
     slot_ = (slot_ + 1) % kSlots;
+}
+
+void StartupFiles::keep() {
+    takeBack();
+    Kept kept{{}, paths_, slot_};
+    for (std::size_t slot = 0; slot < kSlots; ++slot)
+        kept.values[slot] = store_.ReadString(kSection, KeyOf(slot), "", kValueSize);
+    kept_ = std::move(kept);
+}
+
+void StartupFiles::takeBack() {
+    if (!kept_) return;
+    for (std::size_t slot = 0; slot < kSlots; ++slot)
+        store_.WriteString(kSection, KeyOf(slot), kept_->values[slot]);
+    paths_ = kept_->paths;
+    slot_ = kept_->slot;
+    kept_.reset();
 }
 
 void StartupFiles::RestoreStartupFiles(bool restoreFiles, const Open& open) {

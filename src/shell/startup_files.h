@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "base/config_store.h"
@@ -28,10 +29,22 @@ class StartupFiles {
     using Open = std::function<void(const std::string& path, std::int32_t line)>;
     void RestoreStartupFiles(bool restoreFiles, const Open& open);
 
+    // The files as they are now come back with takeBack(), should the end that they are recorded for be called off.
+    void keep();
+    void takeBack();
+
   private:
+    using Slots = std::array<std::string, kSlots>;
+    struct Kept {
+        Slots values;  // as the settings have them
+        Slots paths;
+        std::size_t slot;
+    };
+
     ConfigStore& store_;
-    std::array<std::string, kSlots> paths_;
+    Slots paths_;
     std::size_t slot_ = 0;
+    std::optional<Kept> kept_;
 };
 
 }  // namespace vexa

@@ -56,6 +56,11 @@ void DocumentWindow::refreshOptions() {
     refresh();
 }
 
+void DocumentWindow::recover() {
+    document_.undo().nextGroup();
+    refresh();
+}
+
 bool DocumentWindow::onFocusGained() {
     SetFocus(pane_.window());
     return false;  // the system may have to make the window the active one

@@ -24,6 +24,8 @@ class DocumentHost {
     virtual void keyUsed(const KeyEvent& event) = 0;
     virtual void zoom(std::int32_t steps) = 0;
     virtual bool mayCloseDocument(DocumentWindow& window) = 0;
+    // The window is going to be closed.
+    virtual void documentCloses(const DocumentWindow& window) = 0;
     virtual void showContextMenu(POINT screenPlace) = 0;
 };
 
@@ -45,6 +47,8 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     std::string caption() const;
     // Shows what has been done to the view from outside.
     void refresh() { pane_.refresh(); }
+    // A command has broken off: what it has done is a command of its own for undo, and is shown.
+    void recover();
     // Takes over another font, or the resolution of the monitor that the frame is on.
     void refreshFont();
     // Takes over colours that have been changed.
@@ -53,6 +57,7 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     void refreshOptions();
 
     bool mayClose() override { return host_.mayCloseDocument(*this); }
+    void onClosing() override { host_.documentCloses(*this); }
 
   protected:
     bool onCreate() override;
@@ -64,6 +69,7 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     void layOut();
     void userActs() override;
     void viewChanged() override;
+    void commandFailed() override { recover(); }
     void keyUsed(const KeyEvent& event) override { host_.keyUsed(event); }
     void zoom(std::int32_t steps) override { host_.zoom(steps); }
     void showContextMenu(POINT screenPlace) override { host_.showContextMenu(screenPlace); }

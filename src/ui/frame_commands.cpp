@@ -114,7 +114,9 @@ void VexaFrame::openDocuments() {
     request.explorerStyle = application_.options.UseExplorer;
     const std::optional<std::string> answer = AskOpenFiles(request);
     if (!answer) return;
-    for (const std::string& path : SplitSelection(*answer))
+    const std::vector<std::string> paths = SplitSelection(*answer);
+    const DrawingPause pause = pauseFor(paths.size());
+    for (const std::string& path : paths)
         opening_.OpenFileAtLine(path, 0);
 }
 
@@ -152,7 +154,11 @@ void VexaFrame::exit() {
 }
 
 void VexaFrame::closeAllDocuments() {
-    closeChildren();
+    if (!mayCloseChildren()) return;
+    std::vector<MDIchildCL*> all;
+    for (const auto& child : children())
+        all.push_back(child.get());
+    closeChildren(all);
 }
 
 // ---- editing -----------------------------------------------------------------------------------------------------

@@ -3,9 +3,12 @@
 
 #include <shellapi.h>
 
+#include <algorithm>
+
 #include "base/directories.h"
 #include "base/platform.h"
 #include "base/strings.h"
+#include "shell/closing_order.h"
 #include "ui/for_each_document.h"
 #include "ui/vexa_frame.h"
 
@@ -76,7 +79,7 @@ void VexaFrame::onMove() {
 
 // ---- files of the session ----------------------------------------------------------------------------------------
 
-void VexaFrame::noteDocumentClosed(const DocumentWindow& window) {
+void VexaFrame::documentCloses(const DocumentWindow& window) {
     const TextDocument& document = window.document();
     if (!document.isNamed()) return;
     if (isClosing_) {
@@ -108,11 +111,26 @@ void VexaFrame::restoreFile(const std::string& path, std::int32_t line) {
     }
 }
 
+std::vector<MDIchildCL*> VexaFrame::sessionOrder() const {
+    std::vector<MDIchildCL*> documents = childrenByUse();
+    const auto isUnnamed = [](const MDIchildCL* child) {
+        const auto* shown = dynamic_cast<const DocumentWindow*>(child);
+        return !shown || !shown->document().isNamed();
+    };
+    const auto named = std::ranges::stable_partition(documents, isUnnamed);
+    std::vector<MDIchildCL*> order(documents.begin(), named.begin());
+    for (const std::size_t rank : ClosingOrder(named.size()))
+        order.push_back(named[rank]);
+    return order;
+}
+
+// All questions come before the first window closes: whoever cancels has lost nothing.
 bool VexaFrame::mayClose() {
+    if (!mayCloseChildren()) return false;
     isClosing_ = true;
-    const bool closed = closeChildren();
-    isClosing_ = closed;
-    return closed;
+    closeChildren(sessionOrder());
+    isClosing_ = children().empty();
+    return isClosing_;
 }
 
 void VexaFrame::saveSession() {
@@ -132,27 +150,38 @@ void VexaFrame::onDestroy() {
     MDIframeCL::onDestroy();
 }
 
-// Windows may end the process at any time after it has asked, so the session is noted before the user is.
+// Windows may end the process at any time after it has asked, so the session is noted before the user is. Nothing is
+// closed: another program may still refuse the end.
 bool VexaFrame::onQueryEndSession(bool& agreed) {
     recordSession();
-    return MDIframeCL::onQueryEndSession(agreed);
+    agreed = takesCommands() && mayCloseChildren();
+    if (!agreed) startupFiles_.takeBack();
+    return true;
 }
 
 void VexaFrame::recordSession() {
+    startupFiles_.keep();
     isClosing_ = true;
-    forEachDocument([this](DocumentWindow& window) { noteDocumentClosed(window); });
+    for (const MDIchildCL* child : sessionOrder()) {
+        if (const auto* shown = dynamic_cast<const DocumentWindow*>(child)) documentCloses(*shown);
+    }
     isClosing_ = false;
     saveSession();
 }
 
-void VexaFrame::onEndSession() {
-    saveSession();
+void VexaFrame::onEndSession(bool ends) {
+    if (ends) {
+        saveSession();
+    } else {
+        startupFiles_.takeBack();
+    }
 }
 
 // ---- from outside ------------------------------------------------------------------------------------------------
 
 bool VexaFrame::onDropFiles(const std::vector<std::string>& names) {
     if (isFree()) {
+        const DrawingPause pause = pauseFor(names.size());
         opening_.OpenDroppedFiles(names);
     } else {
         for (const std::string& name : names)
@@ -174,11 +203,6 @@ bool VexaFrame::onOther(Message& message) {
 
 void VexaFrame::openWaitingSoon() {
     PostMessageA(window(), kOpenWaitingMessage, 0, 0);
-}
-
-bool VexaFrame::onTimer(UINT_PTR /*timer*/) {
-    backup_.CheckBackups();
-    return true;
 }
 
 std::vector<TextDocument*> VexaFrame::openDocuments() const {

@@ -22,6 +22,8 @@ class PaneHost {
     virtual void keyUsed(const KeyEvent& event) = 0;
     // The caret, the text or the mode may have changed.
     virtual void viewChanged() = 0;
+    // What a key or the mouse has started has broken off.
+    virtual void commandFailed() = 0;
     // The user wants larger characters, or smaller ones below 0.
     virtual void zoom(std::int32_t steps) = 0;
     // The user wants the pop-up menu, at a place of the screen.
@@ -53,6 +55,7 @@ class PaneWindowCL : public WindowCL {
     bool onPaint(HDC dc, const RECT& update) override;
     bool onEraseBackground(HDC dc) override;
     bool onFocusGained() override;
+    void onFailed() override { host_.commandFailed(); }
     bool onFocusLost() override;
     bool onKey(const KeyMessage& key) override;
     bool onCharacter(unsigned char character, UINT repeat) override;

@@ -23,6 +23,7 @@ namespace {
 
 constexpr WindowClass kFrameClass{.name = kFrameClassName, .background = COLOR_APPWORKSPACE, .icon = IDI_VEXA};
 constexpr UINT_PTR kBackupTimer = 1;
+constexpr UINT_PTR kSettingsTimer = 2;
 constexpr UINT kBackupCheckInterval = 10'000;  // milliseconds
 
 // The panes after the message area at their widest.
@@ -66,6 +67,7 @@ void VexaFrame::openFirstFiles(std::span<const FileAtLine> files, bool isBareSta
     showRecentFiles();
     startupFiles_.RestoreStartupFiles(application_.options.RestoreFiles,
                                       [this](const std::string& path, std::int32_t line) { restoreFile(path, line); });
+    const DrawingPause pause = pauseFor(files.size());
     opening_.OpenCommandLineFiles(files);
     if (children().empty() && isBareStart) newDocument();
 }
@@ -85,13 +87,33 @@ bool VexaFrame::onCreate() {
     return true;
 }
 
+// A program may tell of thousands of changes in a row; they are taken in when the system has nothing else to tell.
 void VexaFrame::onSettingChange() {
+    constexpr UINT kSettlingTime = 50;  // milliseconds
+    SetTimer(window(), kSettingsTimer, kSettlingTime, nullptr);
+}
+
+void VexaFrame::takeSystemSettings() {
     if (!statusBar_.window()) return;
     statusBar_.refreshFont();
     toolBar_.refreshPictures();
     layOut();
     application_.display.refresh();
     refreshColours();
+}
+
+bool VexaFrame::onTimer(UINT_PTR timer) {
+    if (timer == kSettingsTimer) {
+        KillTimer(window(), kSettingsTimer);
+        takeSystemSettings();
+    } else {
+        backup_.CheckBackups();
+    }
+    return true;
+}
+
+void VexaFrame::onFailed() {
+    if (DocumentWindow* active = activeDocument()) active->recover();
 }
 
 void VexaFrame::refreshColours() {
@@ -108,7 +130,7 @@ bool VexaFrame::workWhileIdle() {
 }
 
 bool VexaFrame::onDpiChanged(const RECT& suggested) {
-    onSettingChange();
+    takeSystemSettings();
     refreshFonts();
     return MDIframeCL::onDpiChanged(suggested);
 }
@@ -242,9 +264,7 @@ void VexaFrame::restoreIfMinimised() {
 
 bool VexaFrame::mayCloseDocument(DocumentWindow& window) {
     if (window.document().isModified()) activate(window);
-    if (!files_.queryClose(window.document())) return false;
-    noteDocumentClosed(window);
-    return true;
+    return files_.queryClose(window.document());
 }
 
 std::optional<std::string> VexaFrame::askSaveName(const TextDocument& document) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "framework/dde_server.h"
+#include "framework/drawing_pause.h"
 #include "framework/mdi_frame.h"
 #include "framework/message_loop.h"
 #include "framework/status_bar.h"
@@ -59,13 +60,14 @@ class VexaFrame : public MDIframeCL,
     bool onCreate() override;
     void onDestroy() override;
     bool onQueryEndSession(bool& agreed) override;
-    void onEndSession() override;
+    void onEndSession(bool ends) override;
     void onSettingChange() override;
     bool onDpiChanged(const RECT& suggested) override;
     bool onSetCursor(UINT hitTest) override;
     bool onSize(UINT kind) override;
     void onMove() override;
     bool onTimer(UINT_PTR timer) override;
+    void onFailed() override;
     bool onDropFiles(const std::vector<std::string>& names) override;
     bool onOther(Message& message) override;
     void onFree() override { openWaitingSoon(); }
@@ -75,6 +77,7 @@ class VexaFrame : public MDIframeCL,
     void showItemHelp(std::optional<WORD> id) override;
     void layOut() override;
     bool mayClose() override;
+    bool pumpMessages() override { return notices_.pumpMessages(); }
     void childrenChanged() override;
 
   private:
@@ -88,6 +91,9 @@ class VexaFrame : public MDIframeCL,
     template <class Use>
     void forEachDocument(Use use) const;
     void refreshToolBar();
+    void takeSystemSettings();
+    // For opening that many files in a row.
+    DrawingPause pauseFor(std::size_t files) const { return DrawingPause(files > 1 ? mdiClient() : nullptr); }
     void refreshFonts();
     // Shows the colours in force in all windows.
     void refreshColours();
@@ -163,7 +169,8 @@ class VexaFrame : public MDIframeCL,
     // ---- session ----
 
     void restorePlacement(int showCommand);
-    void noteDocumentClosed(const DocumentWindow& window);
+    // The documents in the order in which the session remembers them best.
+    std::vector<MDIchildCL*> sessionOrder() const;
     void restoreFile(const std::string& path, std::int32_t line);
     void recordSession();
     void saveSession();
@@ -176,6 +183,7 @@ class VexaFrame : public MDIframeCL,
     void zoom(std::int32_t steps) override;
     void documentChanged(const DocumentWindow& window) override;
     bool mayCloseDocument(DocumentWindow& window) override;
+    void documentCloses(const DocumentWindow& window) override;
     void showContextMenu(POINT screenPlace) override;
     std::optional<std::string> askSaveName(const TextDocument& document) override;
     void nameChanged(const TextDocument& document) override;

@@ -160,7 +160,7 @@ TEST_F(FileCommandsTest, ClosingAsksAboutChanges) {
 
     notices_.answers = {BoxAnswer::No};
     EXPECT_TRUE(commands_.queryClose(document_));
-    EXPECT_FALSE(document_.isModified());
+    EXPECT_TRUE(document_.isModified()) << "until it is really closed";
 }
 
 TEST_F(FileCommandsTest, WhatAnotherProgramHasChangedIsAskedAbout) {

@@ -1,6 +1,9 @@
 // What is remembered from one session to the next: recent files, open files, the frame's place.
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "shell/closing_order.h"
 #include "shell/frame_placement.h"
 #include "shell/recent_files.h"
 #include "shell/startup_files.h"
@@ -99,6 +102,35 @@ TEST_F(Session, OfFourOpenFilesThreeAreReopenedTheLastSlotFirst) {
     EXPECT_EQ(Restore(starting, true), (Opened{{"C:\\C", 3}, {"C:\\My B", 20}, {"C:\\D", 4}}));
     EXPECT_EQ(history("StartupFile:1"), "");
     EXPECT_EQ(Restore(starting, true), Opened{}) << "each is opened once";
+}
+
+TEST_F(Session, TheFilesUsedLastComeBackAndTheLastOneIsActive) {
+    for (std::size_t documents = 0; documents < 12; ++documents) {
+        StartupFiles closing(store_);
+        closing.keep();
+        const std::vector<std::size_t> order = ClosingOrder(documents);
+        EXPECT_EQ(std::set<std::size_t>(order.begin(), order.end()).size(), documents) << "each is closed once";
+        for (const std::size_t rank : order)
+            closing.RecordStartupFile(std::to_string(rank), 1);
+        Opened expected = {{"2", 1}, {"1", 1}, {"0", 1}};
+        expected.erase(expected.begin(), expected.end() - static_cast<long>(std::min<std::size_t>(documents, 3)));
+        StartupFiles starting(store_);
+        EXPECT_EQ(Restore(starting, true), expected) << documents;
+    }
+}
+
+TEST_F(Session, AnEndThatIsCalledOffLeavesNoFilesBehind) {
+    setHistory("StartupFile:1", "C:\\A 5");
+    StartupFiles files(store_);
+    files.keep();
+    for (const char* path : {"C:\\B", "C:\\C", "C:\\D", "C:\\E"})
+        files.RecordStartupFile(path, 1);
+    files.takeBack();
+    EXPECT_EQ(history("StartupFile:0") + history("StartupFile:1") + history("StartupFile:2"), "C:\\A 5");
+    files.RecordStartupFile("C:\\F", 1);
+    EXPECT_EQ(history("StartupFile:0"), "C:\\F 1") << "the ring begins where it began";
+    files.takeBack();
+    EXPECT_EQ(history("StartupFile:0"), "C:\\F 1") << "it is only called off once";
 }
 
 TEST_F(Session, AFileClosedTwiceKeepsItsSlotAndTheSlotMovesOn) {

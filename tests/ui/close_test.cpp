@@ -72,10 +72,12 @@ TEST_F(CloseTest, FrameAsksForEachDocumentAndStaysWhenOneRefuses) {
     ASSERT_TRUE(WaitUntil([&] { return (box = editor.dialog("Vexa 95")) && BoxText(box) == question("b.txt"); }));
     ASSERT_TRUE(Press(box, IDCANCEL));
     EXPECT_TRUE(editor.hasCaption("b.txt *]"));
-    EXPECT_EQ(editor.documents().size(), 1u);
+    EXPECT_EQ(editor.documents().size(), 2u) << "all questions come before the first window closes";
 
     editor.command(CommandId::Exit);
-    ASSERT_TRUE(box = editor.dialog("Vexa 95"));
+    ASSERT_TRUE(WaitUntil([&] { return (box = editor.dialog("Vexa 95")) && BoxText(box) == question("a.txt"); }));
+    ASSERT_TRUE(Press(box, IDNO));
+    ASSERT_TRUE(WaitUntil([&] { return (box = editor.dialog("Vexa 95")) && BoxText(box) == question("b.txt"); }));
     ASSERT_TRUE(Press(box, IDYES));
     EXPECT_TRUE(editor.ends());
     EXPECT_EQ(folder.get("a.txt"), "a\r\n");
@@ -101,6 +103,21 @@ TEST_F(CloseTest, EndOfTheSessionIsRefusedWithTheDocument) {
     CloseHandle(thread);
     EXPECT_EQ(answer, static_cast<DWORD>(FALSE));
     EXPECT_TRUE(editor.hasCaption("a.txt *]"));
+}
+
+TEST_F(CloseTest, EndOfTheSessionThatAnotherProgramRefusesChangesNothing) {
+    {
+        const Editor editor(folder, {"a.txt", "b.txt"});
+        EXPECT_TRUE(SendMessageA(editor.frame(), WM_QUERYENDSESSION, 0, 0));
+        EXPECT_EQ(editor.documents().size(), 2u);
+        SendMessageA(editor.frame(), WM_ENDSESSION, FALSE, 0);
+        EXPECT_TRUE(editor.runCommand(CommandId::FileClose));
+        editor.requestClose();
+        ASSERT_TRUE(editor.ends());
+    }
+    const Editor again(folder);
+    EXPECT_TRUE(again.hasCaption("a.txt]"));
+    EXPECT_EQ(again.documents().size(), 1u) << "what was closed by hand has not come back";
 }
 
 TEST_F(CloseTest, NothingClosesWhileAQuestionIsOpen) {

@@ -1,6 +1,8 @@
 // Which commands run, and what those that do not run say.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "ui/dialogs.h"
 #include "ui/editor.h"
 
@@ -79,11 +81,17 @@ TEST(Command, KeysWithoutAMenuItemMoveInTheDocument) {
 TEST(Command, AboutBoxNamesTheProgram) {
     const TestFolder folder;
     const Editor editor(folder);
+    MoveWindow(editor.frame(), 30, 20, 500, 400, TRUE);
     editor.command(CommandId::About);
     const HWND box = editor.dialog("About Vexa 95");
     ASSERT_TRUE(box);
     EXPECT_NE(BoxText(box).find("Vexa 95\nVersion "), std::string::npos);
     editor.takePicture("about");
+    RECT frame;
+    RECT about;
+    ASSERT_TRUE(GetWindowRect(editor.frame(), &frame) && GetWindowRect(box, &about));
+    EXPECT_LE(std::abs(frame.left + frame.right - about.left - about.right), 2) << "it stands over the frame";
+    EXPECT_LE(std::abs(frame.top + frame.bottom - about.top - about.bottom), 2);
     EXPECT_TRUE(Press(box, IDOK));
 }
 
