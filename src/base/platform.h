@@ -89,6 +89,11 @@ std::string DriveLetters();
 std::string ProgramPath();
 // The value of an environment variable; empty when there is none of that name.
 std::string EnvironmentValue(const std::string& name);
+// Sets a variable for this program and those that it starts from now on; an empty value takes it away.
+void SetEnvironmentValue(const std::string& name, const std::string& value);
+// The path in its short form, every part of at most 8 and 3 characters; empty when nothing of that name exists. Disks
+// that keep no short names give the path as it is.
+std::string ShortPath(const std::string& path);
 
 // ---- settings files (INI) ----------------------------------------------------------------------------------------
 
@@ -155,6 +160,30 @@ class SharedNumber {
 // The full path of a file that a command line names, in the ANSI code page; no file is opened. Empty when the text is
 // no path, or one of more than 127 bytes.
 std::string ParseFileName(const std::string& text);
+
+// ---- other programs ----------------------------------------------------------------------------------------------
+
+// A program that was started. What the operating system calls a handle, and 0 for none.
+using ProcessHandle = std::intptr_t;
+inline constexpr ProcessHandle kNoProcess = 0;
+
+enum class StartResult { Started, FileNotFound, PathNotFound, DirectoryNotFound, Failed };
+
+struct StartedProcess {
+    ProcessHandle process = kNoProcess;
+    StartResult result = StartResult::Failed;
+};
+
+// Starts the program that a command line names first, in the current directory, with this program's environment and a
+// console window of its own. The show mode is Windows' number: 0 hidden, 1 normal, 2 minimised, 3 maximised, 7
+// minimised and not active. Does not wait. No handle of this program is inherited.
+// A program of the host's disk is a shell script: its one argument is the rest of the command line, and VEXA_DISK names
+// the sandbox root.
+StartedProcess StartProcess(const std::string& commandLine, const std::string& title, std::uint16_t showMode);
+// The exit code of a program that has ended, whatever number it is; none while it runs, or when it cannot be asked.
+std::optional<std::uint32_t> ExitCodeOf(ProcessHandle process);
+// Lets go of the handle. The program runs on.
+void CloseProcess(ProcessHandle process);
 
 // ---- the rest ----------------------------------------------------------------------------------------------------
 

@@ -108,4 +108,16 @@ std::string EnvironmentValue(const std::string& name) {
     return value ? value : std::string();
 }
 
+void SetEnvironmentValue(const std::string& name, const std::string& value) {
+    if (value.empty()) {
+        unsetenv(name.c_str());
+    } else {
+        setenv(name.c_str(), value.c_str(), 1);
+    }
+}
+
+std::string ShortPath(const std::string& path) {
+    return PathExists(path) ? path : std::string();
+}
+
 }  // namespace vexa::platform

@@ -75,4 +75,12 @@ std::string EnvironmentValue(const std::string& name) {
     return value;
 }
 
+void SetEnvironmentValue(const std::string& name, const std::string& value) {
+    SetEnvironmentVariableA(name.c_str(), value.empty() ? nullptr : value.c_str());
+}
+
+std::string ShortPath(const std::string& path) {
+    return FilledPath([&](DWORD size, char* buffer) { return GetShortPathNameA(path.c_str(), buffer, size); });
+}
+
 }  // namespace vexa::platform
