@@ -1,5 +1,6 @@
 #include "base/config_store.h"
 
+#include "base/ascii.h"
 #include "base/platform.h"
 
 namespace vexa {
@@ -7,6 +8,14 @@ namespace vexa {
 namespace {
 
 constexpr std::size_t kPathLimit = 255;
+constexpr std::size_t kGuardAndTerminator = 3;
+
+// Readers of a settings file take blanks around a value and one pair of quotes off; a further pair saves the text's
+// own.
+std::string Guarded(const std::string& text) {
+    const bool quoted = text.size() > 1 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+    return quoted || TrimBlanks(text) != text ? '"' + text + '"' : text;
+}
 
 }  // namespace
 
@@ -30,6 +39,15 @@ std::int32_t ConfigStore::ReadInt(const std::string& section, const std::string&
 void ConfigStore::WriteString(const std::string& section, const std::string& key, const std::string& value) {
     using namespace std::string_view_literals;
     platform::WriteSetting(path_, section, key, value.substr(0, value.find_first_of("\r\n\0"sv)));
+}
+
+std::string ConfigStore::ReadGuarded(const std::string& section, const std::string& key, const std::string& fallback,
+                                     std::size_t limit) const {
+    return ReadString(section, key, fallback, limit + kGuardAndTerminator);
+}
+
+void ConfigStore::WriteGuarded(const std::string& section, const std::string& key, const std::string& value) {
+    WriteString(section, key, Guarded(value));
 }
 
 void ConfigStore::WriteInt(const std::string& section, const std::string& key, std::int32_t value) {

@@ -24,6 +24,11 @@ class ConfigStore {
     // Text that is no number gives 0.
     std::int32_t ReadInt(const std::string& section, const std::string& key, std::int32_t fallback) const;
     void WriteString(const std::string& section, const std::string& key, const std::string& value);
+    // For texts that may begin or end with blanks or quotes: what is written comes back as it was, up to that many
+    // characters.
+    std::string ReadGuarded(const std::string& section, const std::string& key, const std::string& fallback,
+                            std::size_t limit) const;
+    void WriteGuarded(const std::string& section, const std::string& key, const std::string& value);
     void WriteInt(const std::string& section, const std::string& key, std::int32_t value);
 
     const std::string& path() const { return path_; }

@@ -2,16 +2,11 @@
 
 #include <algorithm>
 
-#include "base/ascii.h"
-
 namespace vexa {
 
 namespace {
 
 constexpr const char* kSection = "Searching";
-
-// A text with its terminator and the pair of quotes that may guard it.
-constexpr std::size_t kBufferSize = SearchOptions::kTextLimit + 1 + 2;
 
 struct OptionKey {
     const char* key;
@@ -29,13 +24,6 @@ std::string Limited(std::string_view text) {
     return std::string(text.substr(0, std::min(text.find('\0'), SearchOptions::kTextLimit)));
 }
 
-// Readers of a settings file take blanks around a value and one pair of quotes off; a further pair saves the text's
-// own.
-std::string Guarded(const std::string& text) {
-    const bool quoted = text.size() > 1 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
-    return quoted || TrimBlanks(text) != text ? '"' + text + '"' : text;
-}
-
 std::string WithoutEscapes(const std::string& typed) {
     std::string text;
     for (std::size_t i = 0; i < typed.size(); ++i) {
@@ -49,15 +37,15 @@ std::string WithoutEscapes(const std::string& typed) {
 }  // namespace
 
 void SearchOptions::Load(const ConfigStore& store) {
-    setFindText(store.ReadString(kSection, "FindText", "", kBufferSize), false);
-    setReplaceText(store.ReadString(kSection, "ReplaceText", "", kBufferSize));
+    setFindText(store.ReadGuarded(kSection, "FindText", "", kTextLimit), false);
+    setReplaceText(store.ReadGuarded(kSection, "ReplaceText", "", kTextLimit));
     for (const OptionKey& row : kOptionKeys)
         values_.*row.option = store.ReadInt(kSection, row.key, values_.*row.option ? 1 : 0) != 0;
 }
 
 void SearchOptions::Save(ConfigStore& store) const {
-    store.WriteString(kSection, "FindText", Guarded(findText()));
-    store.WriteString(kSection, "ReplaceText", Guarded(replaceText()));
+    store.WriteGuarded(kSection, "FindText", findText());
+    store.WriteGuarded(kSection, "ReplaceText", replaceText());
     for (const OptionKey& row : kOptionKeys)
         store.WriteInt(kSection, row.key, values_.*row.option ? 1 : 0);
 }
