@@ -1,0 +1,44 @@
+#include "external/program_request.h"
+
+#include <algorithm>
+
+#include "base/platform.h"
+
+namespace vexa {
+
+namespace {
+
+std::string Limited(std::string_view text, std::size_t limit) {
+    return std::string(text.substr(0, std::min(text.find('\0'), limit)));
+}
+
+}  // namespace
+
+ProgramRequest::ProgramRequest(std::string_view program, std::string_view arguments, std::string_view directory) {
+    setProgram(program);
+    setArguments(arguments);
+    setDirectory(directory.empty() ? platform::CurrentDirectory() : std::string(directory));
+}
+
+void ProgramRequest::setProgram(std::string_view text) {
+    program_ = Limited(text, kTextLimit);
+}
+
+void ProgramRequest::setMenuText(std::string_view text) {
+    menuText_ = Limited(text, kMenuTextLimit);
+}
+
+void ProgramRequest::setArguments(std::string_view text) {
+    arguments_ = Limited(text, kTextLimit);
+}
+
+void ProgramRequest::setDirectory(std::string_view text) {
+    directory_ = Limited(text, kTextLimit);
+}
+
+std::string ProgramRequest::description() const {
+    const std::size_t name = program_.rfind('\\');
+    return program_.substr(name == std::string::npos ? 0 : name) + " " + arguments_;
+}
+
+}  // namespace vexa

@@ -1,0 +1,125 @@
+#include "external/tool_list.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/file.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr const char* kFileName = "\\VexaTool.INF";
+constexpr std::size_t kRecordSize = 815;
+constexpr std::size_t kTextField = 256;
+constexpr std::size_t kMenuTextField = 41;
+constexpr std::size_t kLargestFile = 1 + kMostTools * kRecordSize;
+
+constexpr std::size_t kFirstKeysEnd = 4;  // tools on Shift+F1 to Shift+F4
+constexpr std::size_t kSkippedKeys = 2;   // Shift+F5 and Shift+F6 are other commands'
+
+struct TextField {
+    std::size_t size;
+    const std::string& (ProgramRequest::*get)() const;
+    void (ProgramRequest::*set)(std::string_view text);
+};
+
+// In the order of the file.
+constexpr TextField kTextFields[] = {
+    {kTextField, &ProgramRequest::program, &ProgramRequest::setProgram},
+    {kMenuTextField, &ProgramRequest::menuText, &ProgramRequest::setMenuText},
+    {kTextField, &ProgramRequest::arguments, &ProgramRequest::setArguments},
+    {kTextField, &ProgramRequest::directory, &ProgramRequest::setDirectory},
+};
+
+std::string_view Take(std::string_view& bytes, std::size_t size) {
+    const std::string_view field = bytes.substr(0, size);
+    bytes.remove_prefix(field.size());
+    return field;
+}
+
+std::uint8_t TakeByte(std::string_view& bytes) {
+    return static_cast<std::uint8_t>(Take(bytes, 1).front());
+}
+
+std::uint16_t TakeNumber(std::string_view& bytes) {
+    const unsigned low = TakeByte(bytes);
+    return static_cast<std::uint16_t>(low | TakeByte(bytes) * 256u);
+}
+
+// A kind that does not exist counts as a program of Windows, as a file of no known kind does.
+ProgramKind KindOf(std::uint16_t number) {
+    const bool exists = number <= static_cast<std::uint16_t>(ProgramKind::Interpreter);
+    return exists ? static_cast<ProgramKind>(number) : ProgramKind::Windows;
+}
+
+ProgramRequest DecodeTool(std::string_view record) {
+    ProgramRequest tool;
+    tool.capture = TakeByte(record) != 0;
+    tool.askForArguments = TakeByte(record) != 0;
+    tool.kind = KindOf(TakeNumber(record));
+    tool.showMode = static_cast<ShowMode>(TakeNumber(record));
+    for (const TextField& field : kTextFields)
+        (tool.*field.set)(Take(record, field.size));
+    return tool;
+}
+
+void AddNumber(std::string& bytes, std::uint16_t number) {
+    bytes += static_cast<char>(number & 0xFF);
+    bytes += static_cast<char>(number >> 8);
+}
+
+void AddTool(std::string& bytes, const ProgramRequest& tool) {
+    bytes += static_cast<char>(tool.capture);
+    bytes += static_cast<char>(tool.askForArguments);
+    AddNumber(bytes, static_cast<std::uint16_t>(tool.kind));
+    AddNumber(bytes, static_cast<std::uint16_t>(tool.showMode));
+    for (const TextField& field : kTextFields) {
+        const std::string& text = (tool.*field.get)();
+        bytes.append(text).append(field.size - text.size(), '\0');
+    }
+}
+
+}  // namespace
+
+Tools DecodeTools(std::string_view bytes) {
+    Tools tools;
+    if (bytes.empty()) return tools;
+    const std::size_t count = std::min<std::size_t>(TakeByte(bytes), kMostTools);
+    while (tools.size() < count && bytes.size() >= kRecordSize)
+        tools.push_back(DecodeTool(Take(bytes, kRecordSize)));
+    return tools;
+}
+
+std::string EncodeTools(const Tools& tools) {
+    std::string bytes(1, static_cast<char>(tools.size()));
+    for (const ProgramRequest& tool : tools)
+        AddTool(bytes, tool);
+    return bytes;
+}
+
+ToolList::ToolList(const Directories& directories) : path_(directories.GetDirectory(kConfigDirectory) + kFileName) {}
+
+void ToolList::LoadTools() {
+    File file(path_, platform::OpenMode::Read);
+    tools_ = file.isOpen() ? DecodeTools(file.readUpTo(kLargestFile).value_or(std::string())) : Tools();
+}
+
+std::optional<std::size_t> ToolList::find(std::string_view menuText) const {
+    const auto found = std::ranges::find(tools_, menuText, &ProgramRequest::menuText);
+    if (found == tools_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - tools_.begin());
+}
+
+bool ToolList::replace(Tools tools) {
+    if (!WriteWholeFile(path_, EncodeTools(tools))) return false;
+    tools_ = std::move(tools);
+    return true;
+}
+
+std::string ToolMenuText(const ProgramRequest& tool, std::size_t index) {
+    const std::size_t key = index + 1 + (index < kFirstKeysEnd ? 0 : kSkippedKeys);
+    return tool.menuText() + "\tShift+F" + std::to_string(key);
+}
+
+}  // namespace vexa
