@@ -14,6 +14,7 @@ HERE = Path(__file__).parent
 LARGEST_PROGRAM = 1_000_000  # bytes
 X86 = pefile.MACHINE_TYPE["IMAGE_FILE_MACHINE_I386"]
 NEEDED_RESOURCES = ["RT_GROUP_ICON", "RT_MANIFEST", "RT_VERSION"]
+KINDS = {"IMAGE_SUBSYSTEM_WINDOWS_GUI": "with windows", "IMAGE_SUBSYSTEM_WINDOWS_CUI": "for the console"}
 NEEDED_FLAGS = {
     "IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE": "a random address (ASLR)",
     "IMAGE_DLLCHARACTERISTICS_NX_COMPAT": "data that is not executable (NX)",
@@ -50,10 +51,10 @@ def import_faults(program):
                 yield f"imports {name} from {dll_name}, which Windows 98 does not have"
 
 
-def header_faults(program):
+def header_faults(program, subsystem="IMAGE_SUBSYSTEM_WINDOWS_GUI"):
     header = program.OPTIONAL_HEADER
-    if header.Subsystem != pefile.SUBSYSTEM_TYPE["IMAGE_SUBSYSTEM_WINDOWS_GUI"]:
-        yield "is no program with windows"
+    if header.Subsystem != pefile.SUBSYSTEM_TYPE[subsystem]:
+        yield f"is no program {KINDS[subsystem]}"
     version = (header.MajorSubsystemVersion, header.MinorSubsystemVersion)
     if program.FILE_HEADER.Machine == X86 and version != (4, 0):
         yield f"asks for version {version[0]}.{version[1]} of the system instead of 4.0"

@@ -1,0 +1,37 @@
+#!/usr/bin/python3
+"""Checks the built starter of the command interpreter: that it is small, needs the system's kernel alone, and is as safe to
+load as the program is.
+
+usage: interpreter_gate.py VexaDOS.PIF
+"""
+
+import sys
+from pathlib import Path
+
+import pefile
+
+import program_gate
+
+LARGEST = 16 * 1024  # bytes
+
+
+def faults(data):
+    program = pefile.PE(data=data)
+    yield from program_gate.import_faults(program)
+    yield from program_gate.header_faults(program, "IMAGE_SUBSYSTEM_WINDOWS_CUI")
+    for dll in getattr(program, "DIRECTORY_ENTRY_IMPORT", []):
+        if dll.dll.decode().lower() != "kernel32.dll":
+            yield f"imports {dll.dll.decode()} besides kernel32.dll"
+    if len(data) >= LARGEST:
+        yield f"has {len(data)} bytes, and must have fewer than {LARGEST}"
+
+
+def main():
+    data = Path(sys.argv[1]).read_bytes()
+    found = list(faults(data))
+    print("\n".join(found) if found else f"{len(data)} bytes")
+    sys.exit(1 if found else 0)
+
+
+if __name__ == "__main__":
+    main()
