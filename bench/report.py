@@ -46,6 +46,10 @@ BARS = [
     ("tokens/C/vexa", "tokens/C/scintilla", 1),
     ("comment_on_top_painted/C/vexa", 16e6, 1),
     ("scroll_line/C/vexa", 16e6, 1),
+    ("load_output/vexa", "load_output/read_and_cut", 3),
+    ("classify/vexa", "classify/engine", 1.5),
+    ("next_error/vexa", 100e6, 1),
+    ("bytes_line/load_output/vexa", 16, 1),
 ]
 
 # The same for all the work whose names begin alike: the start of the names, what is measured, the peers of which the best
@@ -86,7 +90,7 @@ def read_figures(folder):
                 figures[name] = 1e9 / run["items_per_second"]
             else:
                 figures[name] = run["cpu_time" if clocked == run["name"] else "real_time"] * UNITS[run["time_unit"]]
-            for counter in ("bytes_step", "ns_hit"):
+            for counter in ("bytes_step", "bytes_line", "ns_hit"):
                 if counter in run:
                     figures[f"{counter}/{name}"] = run[counter]
     for path in sorted(folder.glob("*.txt")):
