@@ -18,11 +18,11 @@ bool AppFrameCL::translate(MSG& message) {
     return isCommandKey;
 }
 
-bool AppFrameCL::onCommand(WORD id) {
+bool AppFrameCL::onCommand(WORD id, bool fromKey) {
     isTranslating_ = false;
     if (!takesCommands()) return true;
     if (!itemState(id)) return false;
-    runCommand(id);
+    runCommand(id, fromKey);
     return true;
 }
 

@@ -26,7 +26,8 @@ class AppFrameCL : public WindowCL {
 
     // ---- what the program fills in ----
 
-    virtual void runCommand(WORD id) = 0;
+    // A command chosen by its key, or in a menu or the tool bar.
+    virtual void runCommand(WORD id, bool fromKey) = 0;
     // None for an item that is no command of the program.
     virtual std::optional<ItemState> itemState(WORD id) const = 0;
     // Shows the help text of the item that the user is looking at; none when he leaves the menu.
@@ -38,7 +39,7 @@ class AppFrameCL : public WindowCL {
     // The last dialog that was in the way has ended.
     virtual void onFree() {}
 
-    bool onCommand(WORD id) override;
+    bool onCommand(WORD id, bool fromKey) override;
     bool onMenuPopup(HMENU menu, bool isSystemMenu) override;
     bool onMenuSelect(WORD id, UINT flags) override;
     bool onMenuClosed() override;

@@ -33,6 +33,14 @@ bool MessageLoop::PumpMessages() {
     return false;
 }
 
+void MessageLoop::processKey(MSG& message) {
+    process(message);
+    MSG character{};
+    while (PeekMessageA(&character, nullptr, WM_CHAR, WM_DEADCHAR, PM_REMOVE) ||
+           PeekMessageA(&character, nullptr, WM_SYSCHAR, WM_SYSDEADCHAR, PM_REMOVE))
+        process(character);
+}
+
 void MessageLoop::process(MSG& message) {
     if (frame_.translate(message)) return;
     const bool isForDialog = modelessDialog_ && IsWindow(modelessDialog_);

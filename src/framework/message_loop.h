@@ -16,6 +16,8 @@ class MessageLoop {
     // Processes everything that is queued. False when the queue is empty; true, at once, when the next message is the
     // one that ends the program, which stays in the queue.
     bool PumpMessages();
+    // Processes a key that was taken out of the queue before, and the character that the system makes of it.
+    void processKey(MSG& message);
     // A dialog that is open beside the frame and gets its keys first; null when it closes.
     void setModelessDialog(HWND dialog) { modelessDialog_ = dialog; }
 

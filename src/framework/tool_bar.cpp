@@ -84,7 +84,7 @@ bool ToolBarCL::onSize(UINT /*kind*/) {
     return true;
 }
 
-bool ToolBarCL::onCommand(WORD id) {
+bool ToolBarCL::onCommand(WORD id, bool /*fromKey*/) {
     SendMessageA(GetParent(window()), WM_COMMAND, id, 0);
     return true;
 }

@@ -57,7 +57,7 @@ class ToolBarCL : public WindowCL {
   protected:
     bool onCreate() override;
     bool onSize(UINT kind) override;
-    bool onCommand(WORD id) override;
+    bool onCommand(WORD id, bool fromKey) override;
     bool onNotify(NMHDR& notice) override;
 
   private:

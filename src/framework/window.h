@@ -122,7 +122,7 @@ class WindowCL {
     virtual bool onScroll(int /*bar*/, UINT /*request*/) { return false; }
     virtual bool onTimer(UINT_PTR /*timer*/) { return false; }
 
-    virtual bool onCommand(WORD /*id*/) { return false; }
+    virtual bool onCommand(WORD /*id*/, bool /*fromKey*/) { return false; }
     virtual bool onNotify(NMHDR& /*notice*/) { return false; }
     virtual bool onDropFiles(const std::vector<std::string>& /*names*/) { return false; }
     virtual bool onMenuPopup(HMENU /*menu*/, bool /*isSystemMenu*/) { return false; }

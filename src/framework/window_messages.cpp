@@ -13,6 +13,7 @@
 namespace vexa {
 namespace {
 
+constexpr WORD kFromAccelerator = 1;              // what tells a command's key from its menu item
 constexpr UINT kHorizontalWheelMessage = 0x020E;  // younger than the headers this is built for
 
 bool IsDown(int key) {
@@ -129,7 +130,8 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_VSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_VERT, LOWORD(m.wParam)); }},
     {WM_HSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_HORZ, LOWORD(m.wParam)); }},
     {WM_TIMER, [](WindowCL& w, Message& m) { return w.onTimer(m.wParam); }},
-    {WM_COMMAND, [](WindowCL& w, Message& m) { return w.onCommand(LOWORD(m.wParam)); }},
+    {WM_COMMAND,
+     [](WindowCL& w, Message& m) { return w.onCommand(LOWORD(m.wParam), HIWORD(m.wParam) == kFromAccelerator); }},
     {WM_NOTIFY, [](WindowCL& w, Message& m) { return m.lParam && w.onNotify(*reinterpret_cast<NMHDR*>(m.lParam)); }},
     {WM_DROPFILES,
      [](WindowCL& w, Message& m) { return w.onDropFiles(TakeDroppedNames(reinterpret_cast<HDROP>(m.wParam))); }},

@@ -21,6 +21,7 @@ bool FindCommands::attach(EditView* view) {
 }
 
 void FindCommands::tellNotFound() {
+    if (failureListener_) failureListener_(finder_.wasStopped());
     if (finder_.wasStopped()) return tell(LoadText(TextId::SearchStopped));
     tellError(FillText(options_.forward() ? TextId::NotFoundForward : TextId::NotFoundBackward, {options_.findText()}));
 }

@@ -1,6 +1,9 @@
 // The commands of searching and what they tell the user.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "document/edit_view.h"
 #include "search/finder.h"
 #include "search/search_options.h"
@@ -14,6 +17,8 @@ class FindCommands {
         : options_(options), notices_(notices), finder_(options, notices, watch) {}
 
     SearchOptions& options() { return options_; }
+    // Told of every search that finds nothing, and whether it is the user who has stopped it.
+    void setFailureListener(std::function<void(bool isUserStop)> listener) { failureListener_ = std::move(listener); }
 
     // Find Next (307) and Find Previous (308) also change the direction that is kept.
     void findNext(EditView* view);
@@ -35,6 +40,7 @@ class FindCommands {
     SearchOptions& options_;
     Notices& notices_;
     Finder finder_;
+    std::function<void(bool isUserStop)> failureListener_;
 };
 
 }  // namespace vexa

@@ -34,11 +34,11 @@ bool CommandDispatcher::IsChecked(CommandId id) const {
     return registration && registration->isChecked && registration->isChecked();
 }
 
-bool CommandDispatcher::Dispatch(CommandId id) {
+bool CommandDispatcher::Dispatch(CommandId id, CommandOrigin origin) {
     if (CanRun(id)) {
         // A copy: the handler may register others, or bring about its own end.
         const Handler handler = registrationOf(id)->handler;
-        if (recorder_) recorder_(id);
+        if (recorder_ && origin != CommandOrigin::Step) recorder_(id, origin);
         handler(id);
         return true;
     }

@@ -26,15 +26,16 @@ class CommandDispatcher {
     // A command that switches something: its menu item has a check mark while the query says so.
     void RegisterToggle(CommandId id, Handler handler, CheckQuery isChecked);
 
-    // Told of every command that is about to run, for the macro that is being recorded.
-    void setRecorder(Handler recorder) { recorder_ = std::move(recorder); }
+    // Told of every command that is about to run and is no step, for the macro that is being recorded.
+    using Recorder = std::function<void(CommandId, CommandOrigin)>;
+    void setRecorder(Recorder recorder) { recorder_ = std::move(recorder); }
 
     // The one answer to "may it run?": it has a handler, and what it needs is there.
     bool CanRun(CommandId id) const;
     bool IsChecked(CommandId id) const;
     // Runs the command if it may; true when it ran. A command that finds no open document says so in the status line,
     // one without a handler does nothing.
-    bool Dispatch(CommandId id);
+    bool Dispatch(CommandId id, CommandOrigin origin = CommandOrigin::Menu);
 
   private:
     struct Registration {
@@ -46,7 +47,7 @@ class CommandDispatcher {
 
     Notices& notices_;
     NeedQuery isMet_;
-    Handler recorder_;
+    Recorder recorder_;
     std::map<CommandId, Registration> registrations_;
 };
 

@@ -18,8 +18,19 @@ enum class CommandNeed : std::uint8_t {
     EditArea,  // the active window takes the editing commands: a document, or a list of output lines
 };
 
-// Whether choosing the command while a macro is recorded warns that the macro will not hold it.
-enum class MacroUse : std::uint8_t { Silent, Warns };
+// How a command that runs while a macro is recorded becomes a step of it.
+enum class MacroUse : std::uint8_t {
+    Silent,       // it is recorded, or has no use in a macro
+    Warns,        // it is not recorded, and the user is warned of that
+    WarnsInMenu,  // the same when it is chosen in a menu; its keys are recorded
+};
+
+// What a command was started by.
+enum class CommandOrigin : std::uint8_t {
+    Menu,  // or a button of the tool bar
+    Key,
+    Step,  // a step of the macro that is played, or a key that is recorded as a key
+};
 
 struct CommandRow {
     CommandId id{};

@@ -4,13 +4,16 @@
 
 #include "base/scoped_flag.h"
 #include "base/strings.h"
-#include "shell/command_table.h"
 
 namespace vexa {
 
 namespace {
 
 constexpr CommandId kMacroCommands[] = {CommandId::PlayMacro, CommandId::RecordMacro, CommandId::RepeatMacro};
+
+bool IsRefused(MacroUse use, CommandOrigin origin) {
+    return use == MacroUse::Warns || (use == MacroUse::WarnsInMenu && origin == CommandOrigin::Menu);
+}
 
 }  // namespace
 
@@ -44,54 +47,66 @@ void KeyMacro::RecordStep(const KeyMacroStep& step) {
     ++stepCount_;
 }
 
-void KeyMacro::recordCommand(CommandId id) {
+void KeyMacro::recordCommand(CommandId id, CommandOrigin origin) {
     if (!recording_ || std::ranges::find(kMacroCommands, id) != std::end(kMacroCommands)) return;
     const CommandRow* row = FindCommand(id);
-    if (row && row->macro == MacroUse::Warns) {
-        notices_.status(LoadText(TextId::CannotRecordAction), true, true);
+    if (row && IsRefused(row->macro, origin)) {
+        refuseStep();
     } else {
         RecordStep(id);
     }
 }
 
-bool KeyMacro::Play() {
+void KeyMacro::refuseStep() {
+    if (recording_) notices_.status(LoadText(TextId::CannotRecordAction), true, true);
+}
+
+bool KeyMacro::mayPlay() {
     if (recording_) {
         notices_.status(LoadText(TextId::CannotPlayWhileRecording), true, true);
-        return false;
-    }
-    if (playing_) return false;
-    if (steps_.empty()) {
+    } else if (!playing_ && steps_.empty()) {
         notices_.status(LoadText(TextId::NoMacroRecorded), true, true);
-        return false;
     }
+    return !recording_ && !playing_ && !steps_.empty();
+}
+
+bool KeyMacro::Play() {
+    if (!mayPlay()) return false;
     const ScopedFlag playing(playing_);
+    isStopped_ = false;
     notices_.status(LoadText(TextId::PlaybackStarted), false, false);
-    const bool played = playSteps();
-    if (played) notices_.status(LoadText(TextId::PlaybackComplete), false, false);
-    return played;
+    const Ending ending = playSteps();
+    tell(ending);
+    return ending == Ending::Complete;
 }
 
 // Nothing is recorded while a macro is played, so the steps do not change meanwhile.
-bool KeyMacro::playSteps() {
+KeyMacro::Ending KeyMacro::playSteps() {
     for (const KeyMacroStep& step : steps_) {
-        playStep(step);
+        if (!playStep(step)) return Ending::NoDocument;
         target_.updateDisplay();
-        if (notices_.pumpMessages()) return false;
+        if (notices_.pumpMessages()) return Ending::ProgramEnds;
+        if (isStopped_) return Ending::Stopped;
     }
+    return Ending::Complete;
+}
+
+bool KeyMacro::playStep(const KeyMacroStep& step) {
+    if (const auto* key = std::get_if<KeyEvent>(&step)) return target_.playKey(*key);
+    if (const auto* id = std::get_if<CommandId>(&step)) return target_.playCommand(*id);
+    target_.playMessage(std::get<MacroMessage>(step));
     return true;
 }
 
-void KeyMacro::playStep(const KeyMacroStep& step) {
-    if (const auto* key = std::get_if<KeyEvent>(&step)) {
-        target_.playKey(*key);
-    } else if (const auto* message = std::get_if<MacroMessage>(&step)) {
-        target_.playMessage(*message);
-    } else {
-        target_.playCommand(std::get<CommandId>(step));
-    }
+void KeyMacro::tell(Ending ending) {
+    if (ending == Ending::Complete) notices_.status(LoadText(TextId::PlaybackComplete), false, false);
+    if (ending == Ending::Stopped) notices_.status(LoadText(TextId::PlaybackStopped), true, false);
+    if (ending == Ending::NoDocument) notices_.status(LoadText(TextId::NeedsOpenFile), true, true);
 }
 
 void KeyMacro::PlayRepeated(std::int32_t count) {
+    if (playing_) return;
+    const ScopedFlag repeating(repeating_);
     while (count > 0 && Play())
         --count;
 }

@@ -8,7 +8,7 @@
 
 #include "base/notices.h"
 #include "document/key_event.h"
-#include "shell/command_id.h"
+#include "shell/command_table.h"
 
 namespace vexa {
 
@@ -29,9 +29,11 @@ using KeyMacroStep = std::variant<KeyEvent, MacroMessage, CommandId>;
 class MacroTarget {
   public:
     virtual ~MacroTarget() = default;
-    virtual void playKey(const KeyEvent& event) = 0;
+    // False when there is no document for the key.
+    virtual bool playKey(const KeyEvent& event) = 0;
     virtual void playMessage(const MacroMessage& message) = 0;
-    virtual void playCommand(CommandId id) = 0;
+    // False when the command cannot run, as a document or a window is missing.
+    virtual bool playCommand(CommandId id) = 0;
     // Shows what the step has done.
     virtual void updateDisplay() = 0;
 };
@@ -56,24 +58,38 @@ class KeyMacro {
     void recordKey(const KeyEvent& event) { RecordStep(event); }
     // A command that is about to run. One that no macro can hold is announced and not recorded; those that record and
     // play macros are never recorded.
-    void recordCommand(CommandId id);
+    void recordCommand(CommandId id, CommandOrigin origin);
+    // Something else that no macro can hold, such as a click of the mouse: announced.
+    void refuseStep();
 
-    // True when the macro has been played to its end. Stops when the program is about to end.
+    // True when the macro has been played to its end. Ends before it at a step that finds no document to work on, when
+    // somebody stops it, and when the program is about to end.
     bool Play();
     // Plays that many times at most, up to the first that fails.
     void PlayRepeated(std::int32_t count);
+    // Ends a playback behind its present step.
+    void stop() { isStopped_ = true; }
+    // A search of the present step has found nothing: a repeated playback has done its work, and ends. Any playback
+    // ends when the user has stopped the search.
+    void searchFailed(bool isUserStop) { isStopped_ = isStopped_ || repeating_ || isUserStop; }
 
     const std::vector<KeyMacroStep>& steps() const { return steps_; }
 
   private:
-    bool playSteps();
-    void playStep(const KeyMacroStep& step);
+    enum class Ending : std::uint8_t { Complete, Stopped, NoDocument, ProgramEnds };
+
+    bool mayPlay();
+    Ending playSteps();
+    bool playStep(const KeyMacroStep& step);
+    void tell(Ending ending);
 
     MacroTarget& target_;
     Notices& notices_;
     std::vector<KeyMacroStep> steps_;
     std::uint32_t stepCount_ = 0;  // of the present recording
     bool playing_ = false;
+    bool repeating_ = false;
+    bool isStopped_ = false;  // the present playback
     bool recording_ = false;
     bool replacePending_ = false;
 };

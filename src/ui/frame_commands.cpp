@@ -166,7 +166,6 @@ void VexaFrame::closeAllDocuments() {
 template <class Operation>
 void VexaFrame::operate(Operation operation) {
     DocumentWindow& active = *activeDocument();
-    notices_.clearStatus();
     operation(active.view());
     active.refresh();
     SetFocus(active.window());
@@ -242,6 +241,7 @@ void VexaFrame::gotoBookmark() {
     const BookmarkModel model(application_.store);
     NumberDialog dialog(application_.store, IDD_JUMP_TO_BOOKMARK, model.number, [this](const std::string& number) {
         bool closes = false;
+        notices_.clearStatus();
         operate([&](EditView& view) {
             BookmarkModel answer(application_.store);
             answer.number = number;
@@ -254,6 +254,11 @@ void VexaFrame::gotoBookmark() {
 
 // ---- macro -------------------------------------------------------------------------------------------------------
 
+void VexaFrame::playMacro() {
+    macro_.Play();
+    heldKeys_.giveBack(loop_);
+}
+
 void VexaFrame::repeatMacro() {
     std::optional<std::int32_t> count;
     NumberDialog dialog(application_.store, IDD_MACRO_REPEAT, repeat_.count, [&](const std::string& number) {
@@ -261,20 +266,24 @@ void VexaFrame::repeatMacro() {
         count = repeat_.accept(notices_);
         return count.has_value();
     });
-    if (dialog.runModal(window()) && count) macro_.PlayRepeated(*count);
+    if (!dialog.runModal(window()) || !count) return;
+    macro_.PlayRepeated(*count);
+    heldKeys_.giveBack(loop_);
 }
 
-void VexaFrame::playKey(const KeyEvent& event) {
+bool VexaFrame::playKey(const KeyEvent& event) {
     DocumentWindow* active = activeDocument();
-    if (!useFrameKey(event, active != nullptr) && active) active->view().key(event);
+    if (useFrameKey(event, active != nullptr)) return true;
+    if (active) active->view().key(event);
+    return active != nullptr;
 }
 
 void VexaFrame::playMessage(const MacroMessage& message) {
     SendMessageA(reinterpret_cast<HWND>(message.window), message.message, message.first, message.second);
 }
 
-void VexaFrame::playCommand(CommandId id) {
-    dispatcher_.Dispatch(id);
+bool VexaFrame::playCommand(CommandId id) {
+    return dispatcher_.Dispatch(id, CommandOrigin::Step);
 }
 
 void VexaFrame::updateDisplay() {

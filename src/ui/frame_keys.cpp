@@ -31,6 +31,7 @@ struct FrameKeys {
 // The frame looks at these keys before the system does, which would go to the next window with Ctrl+F6.
 bool VexaFrame::translate(MSG& message) {
     if (!takesCommands()) return false;  // a dialog has the keys
+    if (macro_.isPlaying() && holdKey(message)) return true;
     const KeyEvent event = KeyEventOf(message);
     const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
     if (isKey && searchDialog_ && searchDialog_->useKey(message, event)) return true;
@@ -44,6 +45,14 @@ bool VexaFrame::translate(MSG& message) {
         }
     }
     return MDIframeCL::translate(message);
+}
+
+bool VexaFrame::holdKey(const MSG& message) {
+    const bool stops = message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
+    if (!stops) return heldKeys_.hold(message);
+    macro_.stop();
+    heldKeys_.drop();
+    return true;
 }
 
 bool VexaFrame::useFrameKey(const KeyEvent& event, bool inText) {
@@ -66,7 +75,7 @@ void VexaFrame::toggleRegularExpression() {
 }
 
 void VexaFrame::dispatchOpenInclude() {
-    dispatcher_.Dispatch(CommandId::OpenInclude);
+    dispatcher_.Dispatch(CommandId::OpenInclude, CommandOrigin::Step);
 }
 
 }  // namespace vexa

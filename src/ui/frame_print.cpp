@@ -26,7 +26,6 @@ void VexaFrame::setUpPrinting() {
 }
 
 void VexaFrame::printDocument() {
-    notices_.clearStatus();
     const TextDocument& document = activeDocument()->document();
     PrintOrder order;
     switch (printer_.ask(window(), document.marked().active, order)) {

@@ -48,6 +48,8 @@ VexaFrame::VexaFrame(Application& application)
       startupFiles_(application.store),
       fileOpenMessage_(platform::RegisterBroadcast(kFileOpenMessage)) {
     registerCommands();
+    search_.setFailureListener([this](bool isUserStop) { macro_.searchFailed(isUserStop); });
+    dispatcher_.setRecorder([this](CommandId id, CommandOrigin origin) { macro_.recordCommand(id, origin); });
 }
 
 bool VexaFrame::open(int showCommand) {
@@ -175,9 +177,10 @@ void VexaFrame::showItemHelp(std::optional<WORD> id) {
     }
 }
 
-void VexaFrame::runCommand(WORD id) {
-    macro_.recordCommand(CommandId{id});
-    dispatcher_.Dispatch(CommandId{id});
+// The notice of the command before goes first: what the dispatcher says of this one is to be read.
+void VexaFrame::runCommand(WORD id, bool fromKey) {
+    notices_.clearStatus();
+    dispatcher_.Dispatch(CommandId{id}, fromKey ? CommandOrigin::Key : CommandOrigin::Menu);
     refreshToolBar();
 }
 

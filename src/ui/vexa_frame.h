@@ -8,6 +8,7 @@
 
 #include "framework/dde_server.h"
 #include "framework/drawing_pause.h"
+#include "framework/held_keys.h"
 #include "framework/mdi_frame.h"
 #include "framework/message_loop.h"
 #include "framework/status_bar.h"
@@ -72,7 +73,7 @@ class VexaFrame : public MDIframeCL,
     bool onOther(Message& message) override;
     void onFree() override { openWaitingSoon(); }
 
-    void runCommand(WORD id) override;
+    void runCommand(WORD id, bool fromKey) override;
     std::optional<ItemState> itemState(WORD id) const override;
     void showItemHelp(std::optional<WORD> id) override;
     void layOut() override;
@@ -136,6 +137,8 @@ class VexaFrame : public MDIframeCL,
     void openSearchDialog();
     // Moves the Find or Replace dialog off the match that was found last.
     void showMatchBesideDialog(const DocumentWindow& active);
+    // While a macro plays, Esc stops it and other keys wait for its end; false for what is no key.
+    bool holdKey(const MSG& message);
     // Carries out a key that is the frame's own; false for any other.
     bool useFrameKey(const KeyEvent& event, bool inText);
     void toggleMatchCase();
@@ -155,7 +158,7 @@ class VexaFrame : public MDIframeCL,
     void toggleToolBar();
     void toggleStatusBar();
     void closeAllDocuments();
-    void playMacro() { macro_.Play(); }
+    void playMacro();
     void repeatMacro();
     void recordMacro() { macro_.toggleRecording(); }
     void helpOnHelp();
@@ -193,9 +196,9 @@ class VexaFrame : public MDIframeCL,
     void restoreIfMinimised() override;
     bool isFree() const override { return takesCommands() && !isClosing_; }
     void openWaitingSoon() override;
-    void playKey(const KeyEvent& event) override;
+    bool playKey(const KeyEvent& event) override;
     void playMessage(const MacroMessage& message) override;
-    void playCommand(CommandId id) override;
+    bool playCommand(CommandId id) override;
     void updateDisplay() override;
     bool isBusy() const override { return notices_.isBusy(); }
     std::vector<TextDocument*> openDocuments() const override;
@@ -213,6 +216,7 @@ class VexaFrame : public MDIframeCL,
     OutsideOpens outside_;
     CommandDispatcher dispatcher_;
     KeyMacro macro_;
+    HeldKeys heldKeys_;  // pressed while the macro plays
     MacroRepeatModel repeat_;
     KeyboardWatch watch_;
     FindCommands search_;

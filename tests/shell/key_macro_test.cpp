@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include "document/edit_view.h"
@@ -19,7 +20,7 @@ class KeyMacroTest : public testing::Test, private MacroTarget {
   protected:
     KeyMacroTest() {
         document_.newEmpty();
-        dispatcher_.setRecorder([this](CommandId id) { macro_.recordCommand(id); });
+        dispatcher_.setRecorder([this](CommandId id, CommandOrigin origin) { macro_.recordCommand(id, origin); });
         dispatcher_.RegisterCommand(CommandId::SelectAll, [this](CommandId) { view_.selectAll(); });
         dispatcher_.RegisterCommand(CommandId::Undo, [this](CommandId) { view_.undo(); });
         dispatcher_.RegisterCommand(CommandId::PlayMacro, [this](CommandId) { macro_.Play(); });
@@ -33,7 +34,9 @@ class KeyMacroTest : public testing::Test, private MacroTarget {
         for (const char c : text)
             press(KeyEvent{.character = static_cast<unsigned char>(c)});
     }
-    void run(std::uint16_t id) { dispatcher_.Dispatch(CommandId{id}); }
+    void run(std::uint16_t id, CommandOrigin origin = CommandOrigin::Menu) {
+        dispatcher_.Dispatch(CommandId{id}, origin);
+    }
     void record(std::string_view text) {
         macro_.StartRecording(false);
         type(text);
@@ -46,16 +49,20 @@ class KeyMacroTest : public testing::Test, private MacroTarget {
     EditorOptions options_;
     TextDocument document_{options_, notices_};
     EditView view_{document_, options_, notices_};
-    CommandDispatcher dispatcher_{notices_, [](CommandNeed) { return true; }};
+    bool hasDocument_ = true;
+    CommandDispatcher dispatcher_{notices_, [this](CommandNeed) { return hasDocument_; }};
     KeyMacro macro_{*this, notices_};
     std::function<void()> duringPlayback_;
     std::vector<MacroMessage> messages_;
     int updates_ = 0;
 
   private:
-    void playKey(const KeyEvent& event) override { press(event); }
+    bool playKey(const KeyEvent& event) override {
+        if (hasDocument_) press(event);
+        return hasDocument_;
+    }
     void playMessage(const MacroMessage& message) override { messages_.push_back(message); }
-    void playCommand(CommandId id) override { dispatcher_.Dispatch(id); }
+    bool playCommand(CommandId id) override { return dispatcher_.Dispatch(id, CommandOrigin::Step); }
     void updateDisplay() override {
         ++updates_;
         if (duringPlayback_) duringPlayback_();
@@ -120,6 +127,69 @@ TEST_F(KeyMacroTest, CommandsThatNoMacroCanHoldWarnAndRun) {
     EXPECT_EQ(last().text, "Macro recording was canceled");
     run(300);
     EXPECT_NE(last().text, "You can't record this action as a macro!") << "only while recording";
+    run(426);
+    macro_.refuseStep();
+    EXPECT_EQ(last().text, "You can't record this action as a macro!") << "a click of the mouse";
+    EXPECT_TRUE(macro_.steps().empty());
+}
+
+TEST_F(KeyMacroTest, KeysOfEditingCommandsAreRecorded) {
+    record("a");
+    run(426);
+    type("bc");
+    run(300, CommandOrigin::Key);
+    run(426);
+    EXPECT_EQ(last().text, "Macro recording complete");
+    run(425);
+    EXPECT_EQ(text(), "abb") << "each undoes the c";
+}
+
+TEST_F(KeyMacroTest, RefusedCommandIsNoStepAndKeepsTheOldMacro) {
+    record("ab");
+    run(426);
+    hasDocument_ = false;
+    run(312);
+    run(426);
+    EXPECT_EQ(last().text, "Macro recording was canceled");
+    EXPECT_EQ(macro_.steps().size(), 2u);
+}
+
+TEST_F(KeyMacroTest, PlaybackEndsWhereThereIsNoDocument) {
+    const StatusNotice missing{"Action can only be performed on an open file!", true, true};
+    record("ab");
+    hasDocument_ = false;
+    macro_.PlayRepeated(3);
+    EXPECT_EQ(last(), missing);
+    EXPECT_EQ(std::ranges::count(notices_.statuses, missing), 1);
+    hasDocument_ = true;
+    macro_.StartRecording(false);
+    run(312);
+    macro_.StopRecording();
+    hasDocument_ = false;
+    EXPECT_FALSE(macro_.Play());
+    EXPECT_EQ(last(), missing);
+}
+
+TEST_F(KeyMacroTest, PlaybackIsStoppedAndARepeatedOneAlsoByASearchThatFails) {
+    record("ab");
+    const auto after = [this](int steps, std::function<void()> stop) {
+        duringPlayback_ = [this, steps, stop, end = updates_ + steps] { updates_ == end ? stop() : void(); };
+    };
+    const StatusNotice stopped{"Macro playback stopped.", true, false};
+    after(3, [this] { macro_.stop(); });
+    macro_.PlayRepeated(9999);
+    EXPECT_EQ(text(), "ababa");
+    EXPECT_EQ(last(), stopped);
+    after(1, [this] { macro_.searchFailed(false); });
+    macro_.PlayRepeated(9999);
+    EXPECT_EQ(text(), "ababaa");
+    EXPECT_EQ(last(), stopped);
+    after(1, [this] { macro_.searchFailed(false); });
+    EXPECT_TRUE(macro_.Play()) << "what follows the search still has its use";
+    EXPECT_EQ(text(), "ababaaab");
+    after(1, [this] { macro_.searchFailed(true); });
+    EXPECT_FALSE(macro_.Play());
+    EXPECT_EQ(last(), stopped);
 }
 
 TEST_F(KeyMacroTest, ACanceledRecordingKeepsTheOldMacro) {
