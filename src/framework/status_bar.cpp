@@ -1,5 +1,7 @@
 #include "framework/status_bar.h"
 
+#include <utility>
+
 #include "framework/dpi.h"
 
 namespace vexa {
@@ -37,6 +39,11 @@ void StatusPaneCL::onTextChanged() {
 }
 
 bool StatusPaneCL::onEraseBackground(HDC /*dc*/) {
+    return true;
+}
+
+bool StatusPaneCL::onMousePress(const MouseButtonMessage& /*press*/) {
+    if (action_) action_();
     return true;
 }
 
@@ -88,6 +95,10 @@ void StatusBarCL::refreshFont() {
 
 void StatusBarCL::setPane(std::size_t pane, const std::string& text, bool highlighted) {
     panes_[pane]->show(text, highlighted);
+}
+
+void StatusBarCL::setPaneAction(std::size_t pane, std::function<void()> action) {
+    panes_[pane]->setAction(std::move(action));
 }
 
 bool StatusBarCL::onSize(UINT /*kind*/) {

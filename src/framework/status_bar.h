@@ -2,6 +2,7 @@
 // other programs can read it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,17 +18,21 @@ class StatusPaneCL : public WindowCL {
     // Highlighted texts stand out in the colours of an alarm.
     void show(const std::string& text, bool highlighted);
     void setFont(HFONT font);
+    // What a press of the mouse does; nothing for none.
+    void setAction(std::function<void()> action) { action_ = std::move(action); }
 
   protected:
     bool onPaint(HDC dc, const RECT& update) override;
     bool onEraseBackground(HDC dc) override;
     void onTextChanged() override;
+    bool onMousePress(const MouseButtonMessage& press) override;
 
   private:
     void draw(HDC dc, RECT area) const;
 
     HFONT font_ = nullptr;
     bool highlighted_ = false;
+    std::function<void()> action_;
     OffScreenBitmap picture_;
 };
 
@@ -39,6 +44,8 @@ class StatusBarCL : public WindowCL {
 
     bool open(HWND parent);
     void setPane(std::size_t pane, const std::string& text, bool highlighted = false);
+    // What a press of the mouse on the pane does, from the time on when the bar is open.
+    void setPaneAction(std::size_t pane, std::function<void()> action);
     std::string paneText(std::size_t pane) const { return panes_[pane]->text(); }
     // In pixels, at the resolution of the frame's monitor.
     int height() const { return height_; }

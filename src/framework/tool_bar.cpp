@@ -97,9 +97,12 @@ bool ToolBarCL::onNotify(NMHDR& notice) {
     return true;
 }
 
-void ToolBarCL::enableButton(WORD id, bool enabled) {
-    if ((SendMessageA(bar_, TB_ISBUTTONENABLED, id, 0) != 0) != enabled) {
-        SendMessageA(bar_, TB_ENABLEBUTTON, id, MAKELPARAM(enabled, 0));
+void ToolBarCL::showState(WORD id, const ItemState& state) {
+    if ((SendMessageA(bar_, TB_ISBUTTONENABLED, id, 0) != 0) != state.enabled) {
+        SendMessageA(bar_, TB_ENABLEBUTTON, id, MAKELPARAM(state.enabled, 0));
+    }
+    if ((SendMessageA(bar_, TB_ISBUTTONCHECKED, id, 0) != 0) != state.checked) {
+        SendMessageA(bar_, TB_CHECKBUTTON, id, MAKELPARAM(state.checked, 0));
     }
 }
 

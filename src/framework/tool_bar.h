@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "framework/handle.h"
+#include "framework/menu.h"
 #include "framework/window.h"
 
 namespace vexa {
@@ -44,11 +45,11 @@ class ToolBarCL : public WindowCL {
     bool open(HWND parent);
     // In pixels.
     int height() const;
-    // Greys the buttons whose command may not run now.
-    template <class CanRun>
-    void refreshButtons(CanRun canRun) {
+    // Greys the buttons whose command may not run now, and shows those pressed whose menu item has a check mark.
+    template <class StateOf>
+    void refreshButtons(StateOf stateOf) {
         for (const ToolButton& button : buttons_) {
-            if (button.id != 0) enableButton(button.id, canRun(button.id));
+            if (button.id != 0) showState(button.id, stateOf(button.id));
         }
     }
     // Takes over the resolution in force.
@@ -61,7 +62,7 @@ class ToolBarCL : public WindowCL {
     bool onNotify(NMHDR& notice) override;
 
   private:
-    void enableButton(WORD id, bool enabled);
+    void showState(WORD id, const ItemState& state);
     const ToolPictures& fittingPictures() const;
 
     std::vector<ToolButton> buttons_;

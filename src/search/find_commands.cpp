@@ -3,6 +3,8 @@
 #include <string>
 
 #include "base/strings.h"
+#include "document/marked_text.h"
+#include "search/caret_text.h"
 
 namespace vexa {
 
@@ -36,6 +38,23 @@ void FindCommands::findPrevious(EditView* view) {
     if (!attach(view)) return;
     if (!finder_.findNext()) tellNotFound();
     finder_.attach(nullptr);
+}
+
+// What the caret is at counts as found already, so that the search goes on behind it.
+void FindCommands::findAtCaret(EditView* view) {
+    if (!attach(view)) return;
+    const TextDocument& document = view->document();
+    const LineIndex line = document.currentLine();
+    const std::optional<CharSpan> span = SpanAtCaret(document);
+    if (!span) return tellError(LoadText(TextId::NoWordAtCursor));
+    options_.setFindText(FindTextFor(TextOf(document, line, *span), options_.regularExpression()), true);
+    options_.lastMatch.line = line;
+    options_.lastMatch.column = span->begin;
+    options_.lastMatch.length = span->end - span->begin;
+    options_.lastMatch.cursorColumn = document.column();
+    options_.setMatchPending(true);
+    options_.setPastLineEnd(false);
+    findNext(view);
 }
 
 bool FindCommands::find(EditView* view) {

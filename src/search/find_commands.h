@@ -23,6 +23,9 @@ class FindCommands {
     // Find Next (307) and Find Previous (308) also change the direction that is kept.
     void findNext(EditView* view);
     void findPrevious(EditView* view);
+    // Searches forward for what is marked in the caret's line, or for the word at the caret; tells the user when there
+    // is neither.
+    void findAtCaret(EditView* view);
 
     // What the dialogs do once the options are set. False when there was no document to work on.
     bool find(EditView* view);

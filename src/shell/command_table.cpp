@@ -10,11 +10,13 @@ namespace {
 constexpr CommandRow kCommands[] = {
 #define VEXA_MENU(kind, heading)
 #define VEXA_SEPARATOR()
+#define VEXA_AGAIN(name, text)
 #define VEXA_COMMAND(name, id, text, keys, status, macro, need) \
     {CommandId::name, text, keys, status, MacroUse::macro, CommandNeed::need},
 #include "shell/commands.def"
 #undef VEXA_MENU
 #undef VEXA_SEPARATOR
+#undef VEXA_AGAIN
 #undef VEXA_COMMAND
 };
 
@@ -22,9 +24,11 @@ constexpr MenuEntry kMenuEntries[] = {
 #define VEXA_MENU(kind, heading) {MenuEntryKind::kind, heading, CommandId{}},
 #define VEXA_SEPARATOR() {MenuEntryKind::Separator, {}, CommandId{}},
 #define VEXA_COMMAND(name, id, text, keys, status, macro, need) {MenuEntryKind::Command, text, CommandId::name},
+#define VEXA_AGAIN(name, text) {MenuEntryKind::Command, text, CommandId::name},
 #include "shell/commands.def"
 #undef VEXA_MENU
 #undef VEXA_SEPARATOR
+#undef VEXA_AGAIN
 #undef VEXA_COMMAND
 };
 // clang-format on

@@ -6,6 +6,7 @@ namespace vexa {
 
 namespace {
 
+constexpr std::uint16_t kKeyF3 = 0x72;
 constexpr std::uint16_t kKeyF5 = 0x74;
 constexpr std::uint16_t kKeyF6 = 0x75;
 
@@ -22,6 +23,8 @@ constexpr Row kRows[] = {
     {kKeyF6, FrameAction::ToggleRegularExpression, false, {"Ctrl+F6", "Switch regular expressions on or off"}},
     {'E', FrameAction::OpenInclude, true, {"Ctrl+E", "Open the include file or the file named at the caret"}},
     {'G', FrameAction::ListFunctions, true, {"Ctrl+G", "List the functions of the document"}},
+    {kKeyF3, FrameAction::FindAtCaret, true, {"Ctrl+F3", "Find the marked text or the word at the caret"}},
+    {'0', FrameAction::ResetZoom, true, {"Ctrl+0", "Show the text at its own size again"}},
 };
 
 }  // namespace

@@ -10,7 +10,14 @@
 
 namespace vexa {
 
-enum class FrameAction : std::uint8_t { ToggleMatchCase, ToggleRegularExpression, OpenInclude, ListFunctions };
+enum class FrameAction : std::uint8_t {
+    ToggleMatchCase,
+    ToggleRegularExpression,
+    OpenInclude,
+    ListFunctions,
+    FindAtCaret,
+    ResetZoom
+};
 
 // What a key does, in the text of a document or elsewhere (in a dialog that is open beside it); none for other keys.
 std::optional<FrameAction> FrameActionOf(const KeyEvent& event, bool inText);

@@ -1,5 +1,6 @@
 #include "ui/document_window.h"
 
+#include "base/platform.h"
 #include "framework/mdi_frame.h"
 #include "ui/resource.h"
 
@@ -67,8 +68,19 @@ bool DocumentWindow::onFocusGained() {
 }
 
 bool DocumentWindow::onMdiActivate(bool active) {
+    if (active) lookAtFile();
     if (active) host_.documentChanged(*this);
     return false;
+}
+
+void DocumentWindow::refreshName() {
+    lookAtFile();
+    refresh();
+}
+
+void DocumentWindow::lookAtFile() {
+    const auto facts = document_.isNamed() ? platform::FactsOf(document_.fullPath()) : std::nullopt;
+    isReadOnly_ = facts && facts->isReadOnly;
 }
 
 void DocumentWindow::userActs() {

@@ -19,6 +19,7 @@ class DocumentHost {
   public:
     virtual ~DocumentHost() = default;
     virtual void userActs() = 0;
+    virtual void mousePressed() = 0;
     // The window has become the active one, or what it shows of itself in the frame may have changed.
     virtual void documentChanged(const DocumentWindow& window) = 0;
     virtual void keyUsed(const KeyEvent& event) = 0;
@@ -45,10 +46,14 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     }
     // The document's path, marked while it has changes that are not saved.
     std::string caption() const;
+    // Whether the file could not be saved, as it was when the window last became the active one.
+    bool isReadOnly() const { return isReadOnly_; }
     // Shows what has been done to the view from outside.
     void refresh() { pane_.refresh(); }
     // A command has broken off: what it has done is a command of its own for undo, and is shown.
     void recover();
+    // Takes over another name.
+    void refreshName();
     // Takes over another font, or the resolution of the monitor that the frame is on.
     void refreshFont();
     // Takes over colours that have been changed.
@@ -67,7 +72,9 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
 
   private:
     void layOut();
+    void lookAtFile();
     void userActs() override;
+    void mousePressed() override { host_.mousePressed(); }
     void viewChanged() override;
     void commandFailed() override { recover(); }
     void keyUsed(const KeyEvent& event) override { host_.keyUsed(event); }
@@ -82,6 +89,7 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     EditView view_;
     PaneWindowCL pane_;
     MDImarginCL margin_;
+    bool isReadOnly_ = false;
     LONG marginWidth_ = 0;  // in pixels, as it was last laid out
 };
 

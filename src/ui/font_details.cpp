@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace vexa {
 namespace {
@@ -28,6 +29,10 @@ void FontDetails::Load(const ConfigStore& store) {
     if (!IsReadable(Height)) Height = defaults.Height;
     Width = number("Width", defaults.Width);
     if (Width < 0 || Width > kLargest) Width = defaults.Width;
+    HeightBeforeZoom = number("HeightBeforeZoom", 0);
+    if (!IsReadable(HeightBeforeZoom)) HeightBeforeZoom = 0;
+    WidthBeforeZoom = number("WidthBeforeZoom", 0);
+    if (WidthBeforeZoom < 0 || WidthBeforeZoom > kLargest) WidthBeforeZoom = 0;
     Weight = number("Weight", defaults.Weight);
     if (Weight < 0 || Weight > kHeaviest) Weight = defaults.Weight;
     Italic = number("Italic", defaults.Italic) != 0;
@@ -41,6 +46,8 @@ void FontDetails::Save(ConfigStore& store) const {
     const auto write = [&store](const char* key, std::int32_t value) { store.WriteInt(kSection, key, value); };
     write("Height", Height);
     write("Width", Width);
+    write("HeightBeforeZoom", HeightBeforeZoom);
+    write("WidthBeforeZoom", WidthBeforeZoom);
     write("Weight", Weight);
     write("Italic", Italic);
     write("Underline", Underline);
@@ -50,9 +57,19 @@ void FontDetails::Save(ConfigStore& store) const {
 }
 
 void FontDetails::zoom(std::int32_t steps) {
+    if (HeightBeforeZoom == 0) {
+        HeightBeforeZoom = Height;
+        WidthBeforeZoom = Width;
+    }
     const std::int32_t size = std::clamp(std::abs(Height) + steps, kSmallestZoom, kLargestZoom);
     Height = Height < 0 ? -size : size;
     Width = 0;  // as wide as the face wants to be at its new height
+}
+
+void FontDetails::resetZoom() {
+    if (HeightBeforeZoom == 0) return;
+    Height = std::exchange(HeightBeforeZoom, 0);
+    Width = std::exchange(WidthBeforeZoom, 0);
 }
 
 }  // namespace vexa

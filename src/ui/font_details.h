@@ -20,6 +20,9 @@ struct FontDetails {
     bool Underline = false;
     bool StrikeOut = false;
     std::int32_t Family = 0x30;  // the system's number for faces of constant stroke width
+    // Height and width as the user chose them, while a zoom has changed them; 0 for the height while none has.
+    std::int32_t HeightBeforeZoom = 0;
+    std::int32_t WidthBeforeZoom = 0;
     std::string Face = "Courier";
 
     // Takes the section "Font Details". Sizes beyond what can be read on any screen become the default ones.
@@ -27,6 +30,8 @@ struct FontDetails {
     void Save(ConfigStore& store) const;
     // Larger by a number of steps, or smaller below 0, within what can be read.
     void zoom(std::int32_t steps);
+    // Back to the size that was chosen.
+    void resetZoom();
 };
 
 }  // namespace vexa

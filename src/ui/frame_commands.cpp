@@ -56,7 +56,6 @@ struct FrameCommands {
         {CommandId::ChangeOptions, &VexaFrame::changeOptions},
         {CommandId::PlayMacro, &VexaFrame::playMacro},
         {CommandId::RepeatMacro, &VexaFrame::repeatMacro},
-        {CommandId::RecordMacro, &VexaFrame::recordMacro},
         {CommandId::HelpOnHelp, &VexaFrame::helpOnHelp},
         {CommandId::HelpIndex, &VexaFrame::helpIndex},
         {CommandId::HelpOnKeys, &VexaFrame::helpOnKeys},
@@ -95,6 +94,9 @@ void VexaFrame::registerCommands() {
     for (const CommandId id : {CommandId::FirstRecentFile, CommandId::SecondRecentFile}) {
         dispatcher_.RegisterCommand(id, [this](CommandId chosen) { openRecentFile(chosen); });
     }
+    dispatcher_.RegisterToggle(
+        CommandId::RecordMacro, [this](CommandId) { macro_.toggleRecording(); },
+        [this] { return macro_.isRecording(); });
     dispatcher_.RegisterToggle(
         CommandId::ToggleToolBar, [this](CommandId) { toggleToolBar(); },
         [this] { return application_.options.ToolBar; });
@@ -325,6 +327,11 @@ void VexaFrame::changeFont() {
 
 void VexaFrame::zoom(std::int32_t steps) {
     application_.font.zoom(steps);
+    refreshFonts();
+}
+
+void VexaFrame::resetZoom() {
+    application_.font.resetZoom();
     refreshFonts();
 }
 

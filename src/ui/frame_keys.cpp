@@ -25,6 +25,8 @@ struct FrameKeys {
         {FrameAction::ToggleRegularExpression, &VexaFrame::toggleRegularExpression},
         {FrameAction::OpenInclude, &VexaFrame::dispatchOpenInclude},
         {FrameAction::ListFunctions, &VexaFrame::listFunctions},
+        {FrameAction::FindAtCaret, &VexaFrame::findAtCaret},
+        {FrameAction::ResetZoom, &VexaFrame::resetZoom},
     };
 };
 

@@ -1,6 +1,7 @@
 #include "ui/frame_notices.h"
 
 #include "framework/message_box.h"
+#include "ui/status_panes.h"
 
 namespace vexa {
 namespace {

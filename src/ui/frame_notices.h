@@ -9,9 +9,6 @@
 
 namespace vexa {
 
-// The panes of the status bar.
-enum StatusPane : std::size_t { kMessagePane, kModePane, kPositionPane };
-
 class FrameNotices : public Notices {
   public:
     FrameNotices(const WindowCL& frame, StatusBarCL& statusBar, MessageLoop& loop)

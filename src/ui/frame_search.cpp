@@ -30,6 +30,10 @@ void VexaFrame::findPrevious() {
     search([this](EditView* active) { search_.findPrevious(active); });
 }
 
+void VexaFrame::findAtCaret() {
+    search([this](EditView* active) { search_.findAtCaret(active); });
+}
+
 // The keyboard stays where it is, so that a dialog that searches can search on.
 void VexaFrame::search(const Search& search) {
     DocumentWindow* active = activeDocument();

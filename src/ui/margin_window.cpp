@@ -14,19 +14,16 @@ bool MDImarginCL::open(HWND parent) {
     return create(kMarginClass, {.style = WS_CHILD | WS_VISIBLE, .place = {0, 0, 0, 0}, .parent = parent});
 }
 
-// From the left: a bookmark's digit, the number, the mark of a changed line.
+// From the left: a bookmark's digit, the number, the mark of a changed line, a gap.
 int MDImarginCL::width() const {
-    return (1 + MarginDigits(view_.document())) * pane_.cellWidth() + 2 * markWidth();
-}
-
-std::size_t MDImarginCL::rowCount() const {
-    return static_cast<std::size_t>((clientArea().bottom + pane_.cellHeight() - 1) / pane_.cellHeight());
+    return (1 + MarginDigits(view_.document())) * pane_.cellWidth() + 3 * markWidth();
 }
 
 void MDImarginCL::refresh() {
     if (!window()) return;
     const std::int32_t moved = view_.topLine() - std::exchange(shownTop_, view_.topLine());
-    rows_.show(window(), rowCount(), pane_.cellHeight(), moved,
+    // Only the rows that are whole: no number is cut off.
+    rows_.show(window(), static_cast<std::size_t>(view_.rows()), pane_.cellHeight(), moved,
                [this](std::int32_t row) { return RenderMarginRow(view_.document(), view_.topLine() + row); });
 }
 
@@ -48,9 +45,19 @@ bool MDImarginCL::onEraseBackground(HDC /*dc*/) {
 // ---- drawing -----------------------------------------------------------------------------------------------------
 
 bool MDImarginCL::onPaint(HDC dc, const RECT& update) {
-    const LONG right = clientArea().right;
-    rows_.paint(update, pane_.cellHeight(), [&](int top, const MarginRow& row) { drawRow(dc, top, right, row); });
+    const RECT client = clientArea();
+    rows_.paint(update, pane_.cellHeight(),
+                [&](int top, const MarginRow& row) { drawRow(dc, top, client.right, row); });
+    const RECT rest = {0, view_.rows() * pane_.cellHeight(), client.right, client.bottom};
+    if (rest.top < update.bottom) fillBackground(dc, rest);
     return true;
+}
+
+// The gap has the colour of the text's paper.
+void MDImarginCL::fillBackground(HDC dc, const RECT& area) const {
+    const LONG gap = area.right - markWidth();
+    FillColour(dc, {area.left, area.top, gap, area.bottom}, colours_.marginBackground());
+    FillColour(dc, {gap, area.top, area.right, area.bottom}, colours_.colourOf(ColourElement::Background));
 }
 
 void MDImarginCL::drawRow(HDC window, int top, int width, const MarginRow& row) {
@@ -58,14 +65,14 @@ void MDImarginCL::drawRow(HDC window, int top, int width, const MarginRow& row) 
     const HDC dc = picture_.prepare(window, width, height);
     if (!dc) return;
     const Selected selected(dc, pane_.font().font.get());
-    FillColour(dc, {0, 0, width, height}, colours_.marginBackground());
+    fillBackground(dc, {0, 0, width, height});
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, row.isCurrent ? colours_.colourOf(ColourElement::DefaultText) : colours_.marginText());
     const std::vector<INT> widths(row.number.size(), pane_.cellWidth());
     ExtTextOutA(dc, pane_.cellWidth(), 0, 0, nullptr, row.number.data(), static_cast<UINT>(row.number.size()),
                 widths.data());
     if (row.bookmark != ' ') drawBookmark(dc, row.bookmark);
-    const int mark = width - 2 * markWidth() + 1;
+    const int mark = width - 3 * markWidth() + 1;
     if (row.isChanged) FillColour(dc, {mark, 0, mark + markWidth(), height}, colours_.changedMark());
     picture_.show(window, 0, top, width, height);
 }

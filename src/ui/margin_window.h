@@ -41,8 +41,8 @@ class MDImarginCL : public WindowCL {
     bool onWheel(const WheelMessage& turn) override;
 
   private:
-    std::size_t rowCount() const;
     int markWidth() const { return pane_.cellWidth() / 3 + 1; }
+    void fillBackground(HDC dc, const RECT& area) const;
     void drawRow(HDC window, int top, int width, const MarginRow& row);
     void drawBookmark(HDC dc, char digit);
 

@@ -235,10 +235,19 @@ Cell PaneWindowCL::cellAt(POINT place) const {
 }
 
 bool PaneWindowCL::onMousePress(const MouseButtonMessage& press) {
-    const MousePress plain = press.isDouble ? MousePress::Word : MousePress::Stream;
     dropsAltRelease_ = press.alt;
-    startDrag(press.place, press.shift, press.alt ? MousePress::Column : plain);
+    startDrag(press.place, press.shift, kindOf(press));
     return true;
+}
+
+MousePress PaneWindowCL::kindOf(const MouseButtonMessage& press) {
+    const ClickLimits limits = {GetDoubleClickTime(), GetSystemMetrics(SM_CXDOUBLECLK),
+                                GetSystemMetrics(SM_CYDOUBLECLK)};
+    const auto now = static_cast<std::uint32_t>(GetMessageTime());
+    const bool isThird = tripleClick_.isThird({press.isDouble, press.place.x, press.place.y, now}, limits);
+    if (press.alt) return MousePress::Column;
+    if (isThird) return MousePress::Lines;
+    return press.isDouble ? MousePress::Word : MousePress::Stream;
 }
 
 void PaneWindowCL::startMarkingLines(POINT screenPlace, bool extend) {
@@ -250,6 +259,7 @@ void PaneWindowCL::startDrag(POINT place, bool extend, MousePress how) {
     constexpr UINT kScrollInterval = 50;  // milliseconds between two steps while the mouse is held outside
     SetFocus(window());
     host_.userActs();
+    host_.mousePressed();
     SetCapture(window());
     SetTimer(window(), 1, kScrollInterval, nullptr);
     isDragging_ = true;
@@ -309,6 +319,7 @@ bool PaneWindowCL::onContextMenu(std::optional<POINT> screenPlace) {
         POINT place = *screenPlace;
         ScreenToClient(window(), &place);
         if (!view_.isMarked(cellAt(place))) {
+            host_.mousePressed();
             view_.press(cellAt(place), false);
             view_.release();
             refresh();

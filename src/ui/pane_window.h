@@ -5,6 +5,7 @@
 
 #include "document/edit_view.h"
 #include "framework/window.h"
+#include "ui/click_rules.h"
 #include "ui/key_translation.h"
 #include "ui/row_painter.h"
 #include "ui/scroll_rules.h"
@@ -18,6 +19,8 @@ class PaneHost {
     virtual ~PaneHost() = default;
     // The user is about to do something in the pane.
     virtual void userActs() = 0;
+    // The user has pressed a mouse button in the text or beside it.
+    virtual void mousePressed() = 0;
     // The view has used a key.
     virtual void keyUsed(const KeyEvent& event) = 0;
     // The caret, the text or the mode may have changed.
@@ -76,6 +79,7 @@ class PaneWindowCL : public WindowCL {
     void refreshScrollBar(int bar);
     void startDrag(POINT place, bool extend, MousePress how);
     void endDrag();
+    MousePress kindOf(const MouseButtonMessage& press);
     void scrollByWheel(int bar, int delta);
     Cell cellAt(POINT place) const;
     POINT caretPlace() const;
@@ -88,6 +92,7 @@ class PaneWindowCL : public WindowCL {
     PaneHost& host_;
     RowPainter painter_;
     KeyTranslator keys_;
+    TripleClick tripleClick_;
     WheelSteps wheel_[2];  // by bar
     WheelSteps zoom_;
     ShownRows<ViewRow> rows_;

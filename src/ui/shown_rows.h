@@ -52,7 +52,10 @@ class ShownRows {
         const auto count = static_cast<std::int32_t>(rows_.size());
         if (std::abs(moved) >= count) return;
         UpdateWindow(window);  // what is still to be drawn belongs to the rows as they stood
-        ScrollWindowEx(window, 0, -moved * rowHeight, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
+        RECT area;
+        GetClientRect(window, &area);
+        area.bottom = count * rowHeight;
+        ScrollWindowEx(window, 0, -moved * rowHeight, nullptr, &area, nullptr, nullptr, SW_INVALIDATE);
         std::rotate(rows_.begin(), rows_.begin() + (moved > 0 ? moved : count + moved), rows_.end());
         const auto fresh = moved > 0 ? rows_.end() - moved : rows_.begin();
         std::fill(fresh, fresh + std::abs(moved), Row{});

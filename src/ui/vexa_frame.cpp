@@ -16,6 +16,7 @@
 #include "ui/for_each_document.h"
 #include "ui/menu_rows.h"
 #include "ui/resource.h"
+#include "ui/status_panes.h"
 #include "ui/tool_buttons.h"
 
 namespace vexa {
@@ -26,16 +27,13 @@ constexpr UINT_PTR kBackupTimer = 1;
 constexpr UINT_PTR kSettingsTimer = 2;
 constexpr UINT kBackupCheckInterval = 10'000;  // milliseconds
 
-// The panes after the message area at their widest.
-const std::vector<std::string> kWidestPanes = {"OVR", " L:00000 C:000"};
-
 }  // namespace
 
 VexaFrame::VexaFrame(Application& application)
     : application_(application),
       loop_(*this),
       toolBar_(ToolButtons(), ToolPictureStrips(), &ToolTipOf),
-      statusBar_(kWidestPanes),
+      statusBar_(WidestPaneTexts()),
       notices_(*this, statusBar_, loop_),
       files_(notices_, *this, application.profiles),
       opening_(*this, application.options, notices_),
@@ -86,6 +84,9 @@ bool VexaFrame::onCreate() {
     if (!toolBar_.open(window()) || !statusBar_.open(window()) || !openClient(windowMenu)) return false;
     toolBar_.show(application_.options.ToolBar);
     statusBar_.show(application_.options.StatusBar);
+    statusBar_.setPaneAction(kPositionPane, [this] { runCommand(static_cast<WORD>(CommandId::GotoLine), false); });
+    statusBar_.setPaneAction(kModePane, [this] { switchOption(&EditorOptions::InsertMode); });
+    statusBar_.setPaneAction(kLineEndsPane, [this] { switchOption(&EditorOptions::FileWrite); });
     return true;
 }
 
@@ -182,26 +183,31 @@ void VexaFrame::runCommand(WORD id, bool fromKey) {
     notices_.clearStatus();
     dispatcher_.Dispatch(CommandId{id}, fromKey ? CommandOrigin::Key : CommandOrigin::Menu);
     refreshToolBar();
+    ShowRecordingPane(statusBar_, macro_.isRecording());
 }
 
 void VexaFrame::refreshToolBar() {
-    toolBar_.refreshButtons([this](WORD id) { return dispatcher_.CanRun(CommandId{id}); });
+    toolBar_.refreshButtons([this](WORD id) { return *itemState(id); });
+}
+
+// What the mouse does here no macro holds.
+void VexaFrame::switchOption(bool EditorOptions::*option) {
+    DocumentWindow* active = activeDocument();
+    if (!active) return;
+    notices_.clearStatus();
+    macro_.refuseStep();
+    application_.options.*option = !(application_.options.*option);
+    active->refresh();
 }
 
 void VexaFrame::documentChanged(const DocumentWindow& window) {
-    statusBar_.setPane(kModePane, window.view().modeText());
-    statusBar_.setPane(kPositionPane, window.view().positionText());
+    ShowDocumentPanes(statusBar_, &window);
 }
 
 void VexaFrame::childrenChanged() {
     if (!statusBar_.window()) return;
     refreshToolBar();
-    if (const DocumentWindow* active = activeDocument()) {
-        documentChanged(*active);
-    } else {
-        statusBar_.setPane(kModePane, {});
-        statusBar_.setPane(kPositionPane, {});
-    }
+    ShowDocumentPanes(statusBar_, activeDocument());
 }
 
 void VexaFrame::showContextMenu(POINT screenPlace) {
@@ -283,7 +289,7 @@ std::optional<std::string> VexaFrame::askSaveName(const TextDocument& document) 
 
 void VexaFrame::nameChanged(const TextDocument& document) {
     forEachDocument([&document](DocumentWindow& window) {
-        if (&window.document() == &document) window.refresh();
+        if (&window.document() == &document) window.refreshName();
     });
 }
 

@@ -95,6 +95,7 @@ class VexaFrame : public MDIframeCL,
     void takeSystemSettings();
     // For opening that many files in a row.
     DrawingPause pauseFor(std::size_t files) const { return DrawingPause(files > 1 ? mdiClient() : nullptr); }
+    void switchOption(bool EditorOptions::*option);
     void refreshFonts();
     // Shows the colours in force in all windows.
     void refreshColours();
@@ -133,6 +134,8 @@ class VexaFrame : public MDIframeCL,
     void replace();
     void findNext();
     void findPrevious();
+    void findAtCaret();
+    void resetZoom();
     template <class Dialog>
     void openSearchDialog();
     // Moves the Find or Replace dialog off the match that was found last.
@@ -160,7 +163,6 @@ class VexaFrame : public MDIframeCL,
     void closeAllDocuments();
     void playMacro();
     void repeatMacro();
-    void recordMacro() { macro_.toggleRecording(); }
     void helpOnHelp();
     void helpIndex();
     void helpOnKeys();
@@ -182,6 +184,7 @@ class VexaFrame : public MDIframeCL,
     // ---- what windows and rules ask ----
 
     void userActs() override { notices_.clearStatus(); }
+    void mousePressed() override { macro_.refuseStep(); }
     void keyUsed(const KeyEvent& event) override { macro_.recordKey(event); }
     void zoom(std::int32_t steps) override;
     void documentChanged(const DocumentWindow& window) override;

@@ -65,6 +65,7 @@ const std::map<std::string, Word>& Words() {
         {"overwrite", [](FindSession& s) { s.editorOptions.InsertMode = false; }},
         {"Next", [](FindSession& s) { s.commands.findNext(&s.view); }},
         {"Previous", [](FindSession& s) { s.commands.findPrevious(&s.view); }},
+        {"AtCaret", [](FindSession& s) { s.commands.findAtCaret(&s.view); }},
         {"Find", [](FindSession& s) { s.commands.find(&s.view); }},
         {"Replace", [](FindSession& s) { s.commands.replace(&s.view); }},
         {"ToggleCase", [](FindSession& s) { s.commands.toggleMatchCase(); }},

@@ -47,7 +47,7 @@ TEST(CommandTable, MenusStandInTheirOrderWithTheirSeparators) {
         "&Compiler 500 501",
         "&Window 601 602 603 604 600 605 - 606 607",
         "&Help 700 702 701 - 705 706 704 - 707",
-        " 802 801 800 803",
+        " 802 801 800 803 - 302 303 304 312",
         "",
     };
     EXPECT_EQ(MenusAsText(), expected);
@@ -105,6 +105,10 @@ TEST(CommandTable, KeysReachTheirCommands) {
         {0x22, "C", 902},
         {0x24, "C", 903},
         {0x23, "C", 904},
+        {'S', "C", 203},
+        {'Y', "C", 301},
+        {'H', "C", 310},
+        {0x72, "", 307},
         // Keys that menu texts name but that only the edit view answers to.
         {'U', "A", 0},
         {'U', "C", 0},

@@ -62,8 +62,11 @@ class Editor {
     // ---- status bar ----
 
     std::string message() const { return pane(0); }
-    std::string mode() const { return pane(1); }
-    std::string position() const { return pane(2); }
+    std::string recording() const { return pane(1); }
+    std::string readOnly() const { return pane(2); }
+    std::string lineEnds() const { return pane(3); }
+    std::string mode() const { return pane(4); }
+    std::string position() const { return pane(5); }
     // Each waits until the text is there.
     bool showsMessage(const std::string& text) const;
     bool showsMode(const std::string& text) const;

@@ -76,10 +76,40 @@ TEST_F(MacroTest, WhatCannotBeDoneIsRefusedInTheStatusBar) {
     editor.keys("{F7}{F8}");
     EXPECT_TRUE(editor.showsMessage("Can't playback macro while recording!"));
     editor.takePicture("macro-refused");
-    editor.command(CommandId::ToggleToolBar);
-    EXPECT_TRUE(editor.showsMessage("You can't record this action as a macro!"));
+    EXPECT_EQ(editor.recording(), "REC");
+    const char* const kUnrecorded = "You can't record this action as a macro!";
+    for (const CommandId id : {CommandId::ToggleToolBar, CommandId::Copy}) {
+        editor.command(id);
+        EXPECT_TRUE(editor.showsMessage(kUnrecorded)) << static_cast<int>(id);
+        editor.keys("{Esc}");  // a key of the text
+        EXPECT_TRUE(editor.showsMessage(""));
+    }
+    editor.click({5, 5});
+    EXPECT_TRUE(editor.showsMessage(kUnrecorded));
+    editor.takePicture("macro-recording");
     editor.keys("{F7}");
-    EXPECT_TRUE(editor.showsMessage("Macro recording was canceled"));
+    EXPECT_TRUE(editor.showsMessage("Macro recording complete"));
+    EXPECT_EQ(editor.recording(), "");
+}
+
+TEST_F(MacroTest, KeysWaitForTheEndOfAPlaybackAndEscStopsIt) {
+    const Editor editor(folder, {"a.txt"});
+    editor.keys("{F7}ab{Backspace}{F7}");
+    ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
+    editor.keys("{Ctrl+R}");
+    ASSERT_TRUE(editor.dialog("Macro Repeat"));
+    editor.keys("50{Enter}zZ{Ctrl+Home}q");
+    const std::string expected = "q" + std::string(51, 'a') + "zZone 1\r\ntwo 2\r\nthree 3\r\nfour 4\r\nfive 5\r\n";
+    EXPECT_TRUE(editor.showsPosition(1, 2));
+    EXPECT_EQ(saved(editor, expected), expected);
+    editor.keys("{Home}{F7}{Left}{F7}");  // at the start of the line, where it stays
+    ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
+    editor.keys("{Ctrl+R}");
+    ASSERT_TRUE(editor.dialog("Macro Repeat"));
+    editor.keys("9999{Enter}x{Esc}");
+    EXPECT_TRUE(editor.showsMessage("Macro playback stopped."));
+    editor.keys("y");
+    EXPECT_TRUE(editor.showsPosition(1, 2)) << "what was typed before Esc is dropped with the rest";
 }
 
 TEST_F(MacroTest, CanceledRecordingKeepsTheOldMacroAndAnotherOneTakesItsPlace) {

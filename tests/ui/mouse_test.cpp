@@ -56,6 +56,36 @@ TEST_F(MouseTest, DoubleClickMarksTheWord) {
     EXPECT_EQ(withoutMarked(editor, expected), expected);
 }
 
+TEST_F(MouseTest, TripleClickMarksTheLine) {
+    const Editor editor(folder, {"a.cpp"});
+    const POINT place = placeOf(editor, 6, 20);
+    editor.doubleClick(place);
+    editor.drag({place});
+    EXPECT_TRUE(editor.answers());
+    editor.takePicture("line-marked");
+    const std::string expected = without("    const char* text = \"string\"; // rest\r\n");
+    EXPECT_EQ(withoutMarked(editor, expected), expected);
+}
+
+TEST_F(MouseTest, PanesOfTheStatusBarDoWhatTheyShow) {
+    folder.put("b.txt", "b\r\n");
+    SetFileAttributesA((folder.path() + "\\b.txt").c_str(), FILE_ATTRIBUTE_READONLY);
+    const Editor editor(folder, {"b.txt", "a.cpp"});
+    const std::vector<HWND> panes = ChildrenOf(ChildrenOf(editor.frame(), "StatusBarCL").at(0), "CtrlWindowCL");
+    const auto press = [&](std::size_t pane) { PostMessageA(panes.at(pane), WM_LBUTTONDOWN, 0, 0); };
+    EXPECT_EQ(editor.readOnly(), "");
+    EXPECT_EQ(editor.lineEnds(), "CRLF");
+    press(3);
+    EXPECT_TRUE(WaitUntil([&] { return editor.lineEnds() == "LF"; }));
+    press(4);
+    EXPECT_TRUE(editor.showsMode("OVR"));
+    editor.command(CommandId::NextWindow);
+    EXPECT_TRUE(WaitUntil([&] { return editor.readOnly() == "Read only"; }));
+    editor.takePicture("status-panes");
+    press(5);
+    EXPECT_TRUE(editor.dialog("Goto Line"));
+}
+
 TEST_F(MouseTest, AltDragMarksAColumnAndOpensNoMenu) {
     const Editor editor(folder, {"a.cpp"});
     const POINT from = placeOf(editor, 6, 1);

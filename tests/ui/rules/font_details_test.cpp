@@ -38,5 +38,26 @@ TEST(FontDetails, SettingsAreTakenAndAbsurdSizesAreNot) {
     EXPECT_EQ(Loaded(disk, "Face=" + std::string(300, 'x')).Face, std::string(31, 'x'));
 }
 
+TEST(FontDetails, ZoomIsTakenBackAlsoInALaterSession) {
+    const test::TestDisk disk;
+    FontDetails details = Loaded(disk, "Height=-20\r\nWidth=9\r\n");
+    details.resetZoom();
+    EXPECT_EQ(details.Height, -20);
+    details.zoom(2);
+    details.zoom(3);
+    ConfigStore store(disk.path("VEXA.INI"));
+    details.Save(store);
+    details.Load(store);
+    EXPECT_EQ(details.Height, -25);
+    details.resetZoom();
+    EXPECT_EQ(details.Height, -20);
+    EXPECT_EQ(details.Width, 9);
+    details.Save(store);
+    details.Load(store);
+    details.resetZoom();
+    EXPECT_EQ(details.Height, -20);
+    EXPECT_EQ(Loaded(disk, "Height=-20\r\nHeightBeforeZoom=1\r\n").HeightBeforeZoom, 0);
+}
+
 }  // namespace
 }  // namespace vexa
