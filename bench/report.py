@@ -50,6 +50,9 @@ BARS = [
     ("classify/vexa", "classify/engine", 1.5),
     ("next_error/vexa", 100e6, 1),
     ("bytes_line/load_output/vexa", 16, 1),
+    ("help_index/4400_keywords/vexa", 10e6, 1),
+    ("help_index/6000_keywords_3_levels/vexa", 10e6, 1),
+    ("help_lookup/100_indexes/vexa", 30e6, 1),
 ]
 
 # The same for all the work whose names begin alike: the start of the names, what is measured, the peers of which the best
