@@ -1,0 +1,52 @@
+// Every topic of every help file in the folder that VEXA_HELP_FILES names. The files belong to their makers, so that
+// they are not part of the project; without the folder the test is skipped.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "quickhelp/topics/help_file.h"
+
+namespace vexa::topics {
+namespace {
+
+std::string BytesOf(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void WalkTopics(const HelpFile& file) {
+    ASSERT_GT(file.topicCount(), 0U);
+    EXPECT_TRUE(file.contentsTopic());
+    for (std::size_t i = 0; i < file.topicCount(); ++i) {
+        const Topic topic = file.topic(i);
+        EXPECT_FALSE(topic.isDamaged) << i;
+        EXPECT_EQ(file.topicAt(topic.offset), i);
+        for (const Link& link : topic.links)
+            EXPECT_TRUE(link.action == LinkAction::Macro || !link.file.empty() || file.offsetOf(link)) << i;
+        for (const auto& neighbour : {topic.previous, topic.next})
+            EXPECT_TRUE(!neighbour || file.topicOffset(*file.topicAt(*neighbour)) == *neighbour) << i;
+    }
+    for (const Keyword& keyword : file.index().keywords())
+        EXPECT_EQ(file.index().offsetsOf(keyword).size(), keyword.count) << keyword.text;
+}
+
+TEST(RealHelpFiles, EveryTopicIsRead) {
+    const char* folder = std::getenv("VEXA_HELP_FILES");
+    if (!folder) GTEST_SKIP() << "VEXA_HELP_FILES names no folder with help files";
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (entry.path().extension() != ".HLP") continue;
+        SCOPED_TRACE(entry.path().string());
+        const auto file = HelpFile::open(BytesOf(entry.path()));
+        ASSERT_TRUE(file);
+        WalkTopics(*file);
+        ++count;
+    }
+    EXPECT_GT(count, 0);
+}
+
+}  // namespace
+}  // namespace vexa::topics
