@@ -39,7 +39,7 @@ TEST_F(InstanceTest, SecondStartHandsItsFileAndLineOver) {
     const Editor first(folder);
     ASSERT_TRUE(first.hasCaption("[untitled.txt]"));
     ASSERT_TRUE(startAgain("a.c -L20"));
-    EXPECT_TRUE(first.hasCaption("A.C]"));
+    EXPECT_TRUE(first.hasCaption("a.c]"));
     EXPECT_TRUE(first.showsPosition(20, 1));
     EXPECT_TRUE(WaitUntil([&] { return !folder.has("VEXACMD.DAT"); }));
     ASSERT_TRUE(startAgain("a.c -L7"));  // moves the caret of the window that has the file
@@ -124,9 +124,9 @@ TEST_F(InstanceTest, HandOffBehindADialogWaitsForItsEnd) {
     EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == dialog; }));
     EXPECT_EQ(first.documents().size(), 1u);
     first.keys("7{Enter}");
-    EXPECT_TRUE(first.hasCaption("A.C]"));
+    EXPECT_TRUE(first.hasCaption("a.c]"));
     first.keys("typed ");
-    EXPECT_TRUE(first.hasCaption("A.C *]"));
+    EXPECT_TRUE(first.hasCaption("a.c *]"));
     EXPECT_TRUE(first.showsPosition(1, 7));
 }
 
