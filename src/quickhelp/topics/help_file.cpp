@@ -5,6 +5,7 @@
 #include "base/file.h"
 #include "quickhelp/topics/byte_reader.h"
 #include "quickhelp/topics/paragraph_reader.h"
+#include "quickhelp/topics/picture.h"
 
 namespace vexa::topics {
 namespace {
@@ -97,6 +98,22 @@ std::string_view HelpFile::pictureBytes(int number) const {
     return container_->file((system_.isFirstVersion() ? "bm" : "|bm") + std::to_string(number));
 }
 
+std::string_view HelpFile::pictureBytes(const PictureUse& picture) const {
+    return picture.number < 0 ? std::string_view(picture.embedded) : pictureBytes(picture.number);
+}
+
+void HelpFile::addPictureLinks(Topic& topic) const {
+    for (PictureUse& picture : topic.pictures) {
+        const std::string_view bytes = pictureBytes(picture);
+        for (PictureHotspot& spot : PictureHotspots(bytes)) {
+            if (topic.links.size() >= kMostRuns) return;
+            picture.pixels = PixelExtent(bytes);
+            picture.parts.push_back({spot.box, static_cast<int>(topic.links.size())});
+            topic.links.push_back(std::move(spot.link));
+        }
+    }
+}
+
 std::optional<std::size_t> HelpFile::topicAt(std::uint32_t offset) const {
     if (topics_.empty()) return std::nullopt;
     const auto behind = std::ranges::upper_bound(topics_, offset, {}, &TopicStart::offset);
@@ -167,6 +184,7 @@ Topic HelpFile::topic(std::size_t number) const {
         textSize += text.size();
     }
     if (scrollPlace == kNone) topic.fixedParts = topic.parts.size();
+    addPictureLinks(topic);
     return topic;
 }
 

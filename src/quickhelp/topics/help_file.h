@@ -34,6 +34,8 @@ class HelpFile {
     std::size_t fontCount() const { return fonts_.size(); }
     // The bytes of a picture, none for a number without one.
     std::string_view pictureBytes(int number) const;
+    // The same for one in a text, which must live as long as they are used.
+    std::string_view pictureBytes(const PictureUse& picture) const;
 
     std::size_t topicCount() const { return topics_.size(); }
     std::uint32_t topicOffset(std::size_t number) const { return topics_[number].offset; }
@@ -53,6 +55,7 @@ class HelpFile {
     void findTopics();
     std::uint32_t offsetAt(const TopicLink& link, std::uint32_t characters) const;
     std::string textOf(const TopicLink& link, std::string_view content) const;
+    void addPictureLinks(Topic& topic) const;
     void readHeader(const TopicLink& link, Topic& topic, std::uint32_t& scrollPlace) const;
 
     std::unique_ptr<HelpContainer> container_;

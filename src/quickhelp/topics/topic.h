@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "quickhelp/topics/help_types.h"
+
 namespace vexa::topics {
 
 // In a paragraph's text a tab and a line break stand for themselves, and this character for a picture.
@@ -28,12 +30,20 @@ struct Link {
 
 enum class PicturePlacement : std::uint8_t { InText, Left, Right };
 
+// A part of a picture that is a link.
+struct PictureLink {
+    Box box;        // in pixels of the picture
+    int link = -1;  // index in Topic::links
+};
+
 struct PictureUse {
     PicturePlacement placement = PicturePlacement::InText;
     int number = -1;        // of the help file's pictures
     std::string embedded;   // or the bytes of the picture itself
     bool isButton = false;  // or a button, with this label; its run has a link
     std::string label;
+    std::vector<PictureLink> parts;
+    Extent pixels;  // of the picture that has such parts
 };
 
 enum class TabKind : std::uint8_t { Left, Right, Centre };

@@ -2,11 +2,13 @@
 // they are not part of the project; without the folder the test is skipped.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "quickhelp/topics/grid_measure.h"
 #include "quickhelp/topics/help_file.h"
 
 namespace vexa::topics {
@@ -17,6 +19,26 @@ std::string BytesOf(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
+// Every character of a topic, tabs and line breaks apart, is laid out.
+void LayOut(const HelpFile& file, const Topic& topic) {
+    test::GridMeasure measure(file);
+    const TopicLayout layout = LayOutTopic({file, topic, measure}, 600);
+    std::size_t shown = 0;
+    for (const LaidRegion* region : {&layout.fixed, &layout.scrolling}) {
+        for (const LaidRun& run : region->runs)
+            shown += run.length;
+    }
+    std::size_t characters = 0;
+    for (const Paragraph& paragraph : topic.paragraphs)
+        characters += static_cast<std::size_t>(
+            std::ranges::count_if(paragraph.text, [](char c) { return c != '\t' && c != '\n'; }));
+    EXPECT_EQ(shown, characters);
+    for (const PictureUse& picture : topic.pictures) {
+        const Picture decoded = DecodePicture(file.pictureBytes(picture), measure.dpi());
+        EXPECT_TRUE(picture.isButton || !decoded.pixels.empty() || !decoded.metafile.empty());
+    }
+}
+
 void WalkTopics(const HelpFile& file) {
     ASSERT_GT(file.topicCount(), 0U);
     EXPECT_TRUE(file.contentsTopic());
@@ -24,6 +46,7 @@ void WalkTopics(const HelpFile& file) {
         const Topic topic = file.topic(i);
         EXPECT_FALSE(topic.isDamaged) << i;
         EXPECT_EQ(file.topicAt(topic.offset), i);
+        LayOut(file, topic);
         for (const Link& link : topic.links)
             EXPECT_TRUE(link.action == LinkAction::Macro || !link.file.empty() || file.offsetOf(link)) << i;
         for (const auto& neighbour : {topic.previous, topic.next})
@@ -33,7 +56,7 @@ void WalkTopics(const HelpFile& file) {
         EXPECT_EQ(file.index().offsetsOf(keyword).size(), keyword.count) << keyword.text;
 }
 
-TEST(RealHelpFiles, EveryTopicIsRead) {
+TEST(RealHelpFiles, EveryTopicIsReadAndLaidOut) {
     const char* folder = std::getenv("VEXA_HELP_FILES");
     if (!folder) GTEST_SKIP() << "VEXA_HELP_FILES names no folder with help files";
     int count = 0;
