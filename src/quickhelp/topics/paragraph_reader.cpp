@@ -97,8 +97,12 @@ void ParagraphReader::readGroup(ByteReader& in, int column) {
     if (!paragraph_.text.empty()) end();
 }
 
+// Control characters have no meaning in a text, but three of them stand for tabs, breaks and pictures here.
 void ParagraphReader::takeText() {
-    append(text_.text());
+    std::string text(text_.text());
+    std::ranges::replace_if(
+        text, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    append(text);
 }
 
 void ParagraphReader::append(std::string_view text, int picture) {

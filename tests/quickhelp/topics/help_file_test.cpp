@@ -63,9 +63,9 @@ TEST(HelpFile, ReadsTablesAndTheFixedRegion) {
     EXPECT_EQ(topic.parts[1].row->columns[1].width, 150);
 }
 
-TEST(HelpFile, ShowsTheTextBehindAnUnknownCommand) {
+TEST(HelpFile, ShowsTheTextBehindAnUnknownCommandAndBlanksForControlCharacters) {
     const Topic topic = Made()->topic(2);
-    EXPECT_EQ(TextsOf(topic), "0:knownunknown|");
+    EXPECT_EQ(TextsOf(topic), "0:known  unknown|");
     EXPECT_TRUE(topic.isDamaged);
 }
 

@@ -164,7 +164,7 @@ inline std::string MakeHelpFile() {
                  Format(0, "", "\x80\x01\x00\x82"s) + Number(-1, 2),
              {"", "left", "", "", "right", ""});
     made.topic("Third");
-    made.text(Format(0, "", "\x80\x00\x00\x99"s), {"", "known", "unknown"});
+    made.text(Format(0, "", "\x80\x00\x00\x99"s), {"", "known\x01\t", "unknown"});
     made.file("|CONTEXT", Tree({hash + Number(second, 4)}));
     made.file("|TTLBTREE", Tree({Number(0, 4) + Text("First"), Number(second, 4) + Text("Second")}));
     made.file("|CTXOMAP", Number(1, 2) + Number(7, 4) + Number(second, 4));
