@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "document/clipboard_store.h"
+#include "document/view/clipboard_store.h"
 #include "language/block_comment.h"
 #include "language/line_tokenizer.h"
 #include "support/fail.h"

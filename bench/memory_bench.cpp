@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-#include "document/text_line.h"
+#include "document/text/text_line.h"
 #include "support/peers.h"
 #include "support/session.h"
 

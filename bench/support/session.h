@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "base/editor_options.h"
-#include "document/edit_view.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
+#include "document/view/edit_view.h"
 #include "support/silent.h"
 
 namespace vexa::bench {

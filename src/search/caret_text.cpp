@@ -1,6 +1,6 @@
 #include "search/caret_text.h"
 
-#include "document/marked_text.h"
+#include "document/view/marked_text.h"
 #include "search/search_options.h"
 
 namespace vexa {

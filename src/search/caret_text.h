@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "document/text_document.h"
-#include "document/word_motion.h"
+#include "document/text/text_document.h"
+#include "document/view/word_motion.h"
 
 namespace vexa {
 

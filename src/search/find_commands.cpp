@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/strings.h"
-#include "document/marked_text.h"
+#include "document/view/marked_text.h"
 #include "search/caret_text.h"
 
 namespace vexa {

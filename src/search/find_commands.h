@@ -4,7 +4,7 @@
 #include <functional>
 #include <utility>
 
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "search/finder.h"
 #include "search/search_options.h"
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "document/cursor_actions.h"
-#include "document/run_actions.h"
+#include "document/text/cursor_actions.h"
+#include "document/text/run_actions.h"
 
 namespace vexa {
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "base/notices.h"
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "search/line_search.h"
 #include "search/search_options.h"
 #include "search/search_progress.h"

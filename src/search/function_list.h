@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/units.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 
 namespace vexa {
 

@@ -8,7 +8,7 @@
 #include "base/file_name.h"
 #include "base/scoped_flag.h"
 #include "base/strings.h"
-#include "document/text_writer.h"
+#include "document/text/text_writer.h"
 
 namespace vexa {
 

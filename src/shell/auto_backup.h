@@ -10,7 +10,7 @@
 
 #include "base/editor_options.h"
 #include "base/notices.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 
 namespace vexa {
 

@@ -2,7 +2,7 @@
 
 #include "base/platform.h"
 #include "base/strings.h"
-#include "document/file_identity.h"
+#include "document/text/file_identity.h"
 #include "shell/file_name_check.h"
 #include "shell/opened_notice.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/notices.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 #include "language/profile_list.h"
 #include "shell/file_saving.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/notices.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 
 namespace vexa {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "document/key_event.h"
+#include "document/view/key_event.h"
 
 namespace vexa {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/notices.h"
-#include "document/key_event.h"
+#include "document/view/key_event.h"
 #include "shell/command_table.h"
 
 namespace vexa {

@@ -6,7 +6,7 @@
 #include "base/directories.h"
 #include "base/file.h"
 #include "base/strings.h"
-#include "document/safety_copy.h"
+#include "document/text/safety_copy.h"
 
 namespace vexa {
 

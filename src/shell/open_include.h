@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/notices.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 #include "shell/file_opening.h"
 
 namespace vexa {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 
 namespace vexa {
 

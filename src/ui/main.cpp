@@ -12,7 +12,7 @@
 #include "shell/command_line.h"
 #include "shell/hand_off.h"
 #include "shell/out_of_memory.h"
-#include "ui/vexa_frame.h"
+#include "ui/frame/vexa_frame.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "document/edit_view.h"
 #include "document/memory_clipboard.h"
+#include "document/view/edit_view.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

@@ -1,4 +1,4 @@
-#include "document/dyn_array.h"
+#include "document/text/dyn_array.h"
 
 #include <gtest/gtest.h>
 

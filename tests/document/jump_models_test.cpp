@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "base/strings.h"
-#include "document/bookmark_model.h"
-#include "document/goto_line_model.h"
+#include "document/view/bookmark_model.h"
+#include "document/view/goto_line_model.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 

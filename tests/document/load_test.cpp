@@ -6,8 +6,8 @@
 
 #include "base/file.h"
 #include "base/strings.h"
-#include "document/file_identity.h"
-#include "document/text_document.h"
+#include "document/text/file_identity.h"
+#include "document/text/text_document.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 

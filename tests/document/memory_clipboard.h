@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "document/clipboard_store.h"
+#include "document/view/clipboard_store.h"
 
 namespace vexa::test {
 

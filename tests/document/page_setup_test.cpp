@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "document/page_setup_model.h"
+#include "document/print/page_setup_model.h"
 #include "support/test_disk.h"
 
 namespace vexa {

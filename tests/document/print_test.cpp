@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "document/print_run.h"
-#include "document/print_style.h"
+#include "document/print/print_run.h"
+#include "document/print/print_style.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

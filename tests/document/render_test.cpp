@@ -3,7 +3,7 @@
 #include <ostream>
 #include <string>
 
-#include "document/row_renderer.h"
+#include "document/view/row_renderer.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

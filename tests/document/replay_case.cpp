@@ -5,9 +5,9 @@
 #include <map>
 #include <sstream>
 
-#include "document/edit_view.h"
 #include "document/memory_clipboard.h"
 #include "document/shown_document.h"
+#include "document/view/edit_view.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 

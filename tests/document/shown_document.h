@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 
 namespace vexa::test {
 

@@ -5,7 +5,7 @@
 #include <new>
 #include <string>
 
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "regexp/failing_allocation.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"

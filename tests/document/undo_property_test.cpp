@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

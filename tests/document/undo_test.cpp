@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "document/cursor_actions.h"
-#include "document/line_actions.h"
-#include "document/line_editor.h"
-#include "document/text_document.h"
+#include "document/text/cursor_actions.h"
+#include "document/text/line_actions.h"
+#include "document/text/text_document.h"
+#include "document/view/line_editor.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "document/edit_view.h"
-#include "document/margin_row.h"
+#include "document/view/edit_view.h"
+#include "document/view/margin_row.h"
 #include "support/recording_notices.h"
 
 namespace vexa {

@@ -4,9 +4,9 @@
 #include <tuple>
 
 #include "base/file.h"
-#include "document/edit_view.h"
-#include "document/text_document.h"
-#include "document/text_writer.h"
+#include "document/text/text_document.h"
+#include "document/text/text_writer.h"
+#include "document/view/edit_view.h"
 #ifndef _WIN32
 #include <sys/wait.h>
 #include <unistd.h>

@@ -2,8 +2,8 @@
 #include <cstdint>
 #include <string>
 
-#include "document/clipboard_store.h"
-#include "document/edit_view.h"
+#include "document/view/clipboard_store.h"
+#include "document/view/edit_view.h"
 #include "fuzz/fuzzing.h"
 
 namespace vexa::fuzz {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "document/electric_expansion.h"
+#include "document/view/electric_expansion.h"
 #include "fuzz/fuzzing.h"
 
 namespace vexa::fuzz {

@@ -11,7 +11,7 @@
 
 #include "base/notices.h"
 #include "base/platform/host/sandbox.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 
 namespace vexa::fuzz {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/file.h"
-#include "document/text_document.h"
+#include "document/text/text_document.h"
 #include "fuzz/fuzzing.h"
 
 namespace vexa::fuzz {

@@ -22,8 +22,8 @@ class SourceGateTest(unittest.TestCase):
 
     def test_right_sources(self):
         for name, text in [
-            ("src/document/a.cpp", '#include "document/face.h"\n#include "language/face.h"\n#include <vector>\n'),
-            ("src/ui/a.cpp", '#include "quickhelp/topics/face.h"\n'),
+            ("src/document/text/a.cpp", '#include "document/text/face.h"\n#include "language/face.h"\n#include <vector>\n'),
+            ("src/ui/help/a.cpp", '#include "quickhelp/topics/face.h"\n'),
             ("src/ui/a.cpp", '#include <windows.h>\n#include "framework/face.h"\n#include "base/face.h"\n'),
             ("src/base/platform/win32/a.cpp", '#include <windows.h>\n#include "base/face.h"\n'),
             ("src/base/platform/host/a.cpp", "#include <sys/stat.h>\n#include <filesystem>\n"),
@@ -33,14 +33,16 @@ class SourceGateTest(unittest.TestCase):
 
     def test_each_fault_is_found(self):
         for name, text in [
-            ("src/base/a.h", '#include "document/face.h"\n'),  # upward
+            ("src/base/a.h", '#include "document/text/face.h"\n'),  # upward
+            ("src/document/text/a.h", '#include "document/view/face.h"\n'),
             ("src/search/a.h", '#include "quickhelp/face.h"\n'),  # sideways
             ("src/quickhelp/topics/a.h", '#include "quickhelp/face.h"\n'),  # out of a room of its own
             ("src/framework/a.h", '#include "base/face.h"\n'),
             ("src/shell/a.h", '#include "ui/face.h"\n'),
-            ("src/document/a.h", '#include "face.h"\n'),  # not written from src/
-            ("src/document/a.h", '#  include  "../ui/face.h"\n'),
-            ("src/document/a.cpp", "#include <windows.h>\n"),
+            ("src/language/a.h", '#include "face.h"\n'),  # not written from src/
+            ("src/language/a.h", '#  include  "../ui/face.h"\n'),
+            ("src/document/a.cpp", ""),
+            ("src/language/a.cpp", "#include <windows.h>\n"),
             ("src/shell/a.cpp", "#include <CommCtrl.h>\n"),
             ("src/base/platform/host/a.cpp", "#include <windows.h>\n"),
             ("src/base/a.cpp", "#include <unistd.h>\n"),

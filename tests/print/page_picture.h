@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "framework/handle.h"
-#include "ui/print_paper.h"
+#include "ui/print/print_paper.h"
 
 namespace vexa::test {
 

@@ -1,5 +1,5 @@
 // What a printer would put on paper, measured dot by dot.
-#include "ui/print_job.h"
+#include "ui/print/print_job.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // A document in a view with everything that searches in it.
 #pragma once
 
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "search/find_commands.h"
 #include "support/recording_notices.h"
 

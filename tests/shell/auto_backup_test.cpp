@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "base/file.h"
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/strings.h"
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "document/view_keys.h"
+#include "document/view/view_keys.h"
 #include "shell/command_table.h"
 
 namespace vexa {

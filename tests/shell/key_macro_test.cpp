@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "document/edit_view.h"
+#include "document/view/edit_view.h"
 #include "shell/command_dispatcher.h"
 #include "shell/macro_repeat_model.h"
 #include "support/recording_notices.h"

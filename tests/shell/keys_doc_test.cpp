@@ -9,7 +9,7 @@
 #include <set>
 #include <string>
 
-#include "document/view_keys.h"
+#include "document/view/view_keys.h"
 #include "shell/command_table.h"
 #include "shell/frame_keys.h"
 

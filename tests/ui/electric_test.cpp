@@ -1,9 +1,9 @@
 // Electric words: what typing makes of them, and the dialog that keeps their list.
 #include <gtest/gtest.h>
 
-#include "ui/dialog_controls.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/resources/dialog_controls.h"
 
 namespace vexa::test {
 namespace {

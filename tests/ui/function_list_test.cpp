@@ -1,9 +1,9 @@
 // The dialog that lists the functions of a document.
 #include <gtest/gtest.h>
 
-#include "ui/dialog_controls.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/resources/dialog_controls.h"
 
 namespace vexa::test {
 namespace {

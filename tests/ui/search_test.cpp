@@ -5,10 +5,10 @@
 #include <memory>
 #include <stdexcept>
 
-#include "ui/dialog_controls.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
 #include "ui/pixels.h"
+#include "ui/resources/dialog_controls.h"
 
 namespace vexa::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/click_rules.h"
+#include "ui/document/click_rules.h"
 
 #include <gtest/gtest.h>
 

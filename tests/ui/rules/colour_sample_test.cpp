@@ -1,4 +1,4 @@
-#include "ui/colour_sample.h"
+#include "ui/dialogs/colour_sample.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/dialog_keys.h"
+#include "ui/dialogs/dialog_keys.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/dialog_place.h"
+#include "ui/dialogs/dialog_place.h"
 
 #include <gtest/gtest.h>
 

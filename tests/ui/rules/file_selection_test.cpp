@@ -1,4 +1,4 @@
-#include "ui/file_selection.h"
+#include "ui/dialogs/file_selection.h"
 
 #include <gtest/gtest.h>
 

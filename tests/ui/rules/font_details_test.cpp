@@ -1,4 +1,4 @@
-#include "ui/font_details.h"
+#include "ui/document/font_details.h"
 
 #include <gtest/gtest.h>
 

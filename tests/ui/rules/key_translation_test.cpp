@@ -1,4 +1,4 @@
-#include "ui/key_translation.h"
+#include "ui/document/key_translation.h"
 
 #include <gtest/gtest.h>
 

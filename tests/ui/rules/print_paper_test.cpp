@@ -1,4 +1,4 @@
-#include "ui/print_paper.h"
+#include "ui/print/print_paper.h"
 
 #include <gtest/gtest.h>
 

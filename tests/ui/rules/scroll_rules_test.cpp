@@ -1,4 +1,4 @@
-#include "ui/scroll_rules.h"
+#include "ui/document/scroll_rules.h"
 
 #include <gtest/gtest.h>
 

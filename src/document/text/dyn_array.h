@@ -1,0 +1,109 @@
+// The growable array of lines.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include "document/text/text_line.h"
+
+namespace vexa {
+
+// What counts as a line in use.
+enum class LastUsed {
+    Plain,  // any line that was stored
+    Text    // any line that was stored and is not empty
+};
+
+// A sequence of pointers with a gap where the last change was, so that lines come and go at one place without moving
+// all that follow. Knows nothing of lines.
+class GapVector {
+  public:
+    std::int32_t size() const { return static_cast<std::int32_t>(items_.size()) - gapLength_; }
+    TextLine*& operator[](std::int32_t i) { return items_[place(i)]; }
+    TextLine* operator[](std::int32_t i) const { return items_[place(i)]; }
+    void insert(std::int32_t i, TextLine* item);
+    TextLine* remove(std::int32_t i);
+    // Makes room for that many more. Throws std::bad_alloc and is then unchanged, as append is.
+    void reserve(std::int32_t count);
+    void append(std::int32_t count, TextLine* item);
+
+  private:
+    std::size_t place(std::int32_t i) const { return static_cast<std::size_t>(i < gapStart_ ? i : i + gapLength_); }
+    void moveGap(std::int32_t to);
+    void widenGap(std::int32_t least);
+
+    std::vector<TextLine*> items_;
+    std::int32_t gapStart_ = 0;
+    std::int32_t gapLength_ = 0;
+};
+
+// Slots of lines. A vacant slot reads as the array's own empty line, so reading any slot yields a line. The array owns
+// the lines in its slots. A negative index does nothing and gives 0, none or false. Slots behind the last stored line
+// are all vacant and are only counted, not kept. Faults of the caller are told to the debugger.
+class DynArray {
+  public:
+    static constexpr std::int32_t kDefaultGrowth = 10;
+
+    explicit DynArray(std::int32_t growBy = kDefaultGrowth);
+    ~DynArray();
+    DynArray(const DynArray&) = delete;
+    DynArray& operator=(const DynArray&) = delete;
+
+    std::int32_t capacity() const { return capacity_; }
+    std::int32_t growBy() const { return growBy_; }
+    void setGrowBy(std::int32_t slots) { growBy_ = slots; }
+
+    // The line in a slot, or none beyond the capacity.
+    const TextLine* at(std::int32_t i) const {
+        if (i < 0 || i >= capacity_) return nullptr;
+        return i < slots_.size() ? slots_[i] : &vacant_;
+    }
+    // The line of a slot that is not vacant; none for a vacant slot or beyond the capacity.
+    TextLine* occupied(std::int32_t i) const {
+        if (i < 0 || i >= slots_.size() || slots_[i] == &vacant_) return nullptr;
+        return slots_[i];
+    }
+    bool isVacant(std::int32_t i) const;
+    std::int32_t lastUsed(LastUsed mode) const;
+
+    // Each grows the array where it must and says whether the line was stored; one that was not is destroyed.
+    bool put(LinePtr line, std::int32_t i);          // whatever the slot held, which is destroyed
+    bool putIfVacant(LinePtr line, std::int32_t i);  // no line leaves the slot vacant
+    bool append(LinePtr line);
+    bool insertAt(LinePtr line, std::int32_t i);  // moves the lines from i on up by one
+
+    // Makes sure that a line can then be put into slot i, or inserted there, whatever memory is left by then: a line
+    // on its way back into the text must not be lost. std::bad_alloc, and nothing is changed.
+    void reserve(std::int32_t i);
+
+    // Moves the lines behind i down by one and hands the line over; none for a vacant slot.
+    LinePtr detach(std::int32_t i);
+    // The same, for a caller that already holds a pointer to the line and now owns it.
+    bool removeAt(std::int32_t i);
+
+    // Whether the array has grown since this was last asked.
+    bool takeGrown();
+    // The first slot of those whose lines have changed places since this was last asked; INT32_MAX when none have.
+    std::int32_t takeMovedFrom();
+    // Destroys every line and makes the array as new.
+    void clear();
+
+  private:
+    bool makeRoom(std::int32_t i);
+    bool grow(std::int32_t capacity);
+    bool reach(std::int32_t count);
+    LinePtr take(std::int32_t i);
+    TextLine* keep(LinePtr line);
+    void trim();
+    void noteMovedFrom(std::int32_t i) { movedFrom_ = std::min(movedFrom_, i); }
+
+    TextLine vacant_;
+    GapVector slots_;
+    std::int32_t capacity_ = 0;
+    std::int32_t growBy_;
+    bool grown_ = false;
+    std::int32_t movedFrom_ = INT32_MAX;
+};
+
+}  // namespace vexa

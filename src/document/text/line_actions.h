@@ -1,0 +1,64 @@
+// The steps that insert, delete, split and join lines. A line that is out of the document belongs to the step that
+// holds it.
+#pragma once
+
+#include "document/text/text_actions.h"
+#include "document/text/text_line.h"
+
+namespace vexa {
+
+// Inserts a line at the current one's place.
+class InsertLine : public TextAction {
+  public:
+    InsertLine(TextDocument& document, LinePtr line) : TextAction(document), line_(std::move(line)) {}
+
+  protected:
+    bool change() override;
+    void takeBack() override;
+
+  private:
+    LinePtr line_;
+};
+
+class InsertEmptyLine : public InsertLine {
+  public:
+    explicit InsertEmptyLine(TextDocument& document) : InsertLine(document, nullptr) {}
+};
+
+// Takes a line out. Taking back puts it at the current line's place.
+class DeleteLine : public TextAction {
+  public:
+    static constexpr LineIndex kCurrent{-1};
+
+    explicit DeleteLine(TextDocument& document, LineIndex index = kCurrent) : TextAction(document), index_(index) {}
+
+  private:
+    bool change() override;
+    void takeBack() override;
+    LineIndex index_;
+    LinePtr line_;
+};
+
+// Moves the text from the cursor on to a new line below.
+class SplitLine : public TextAction {
+  public:
+    using TextAction::TextAction;
+
+  private:
+    bool change() override;
+    void takeBack() override;
+};
+
+// Appends the next line to the current one. On the last line nothing is joined, yet it counts as a change.
+class JoinLines : public TextAction {
+  public:
+    using TextAction::TextAction;
+
+  private:
+    bool change() override;
+    void takeBack() override;
+    CharColumn joint_;
+    LinePtr next_;
+};
+
+}  // namespace vexa

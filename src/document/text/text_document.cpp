@@ -1,0 +1,163 @@
+#include "document/text/text_document.h"
+
+#include "base/checksum.h"
+#include "base/file.h"
+#include "document/text/columns.h"
+#include "document/text/text_loader.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr const char* kNoName = "name.bad";
+
+}  // namespace
+
+TextDocument::TextDocument(const EditorOptions& options, Notices& notices)
+    : options_(options), notices_(notices), path_(kNoName), baseName_(kNoName), undo_(notices) {}
+
+// The history and the lines go before the arena that holds their text.
+TextDocument::~TextDocument() {
+    discardText();
+}
+
+void TextDocument::discardText() {
+    undo_.clear();
+    lines_.clear();
+    arena_.clear();
+    comments_.reset();
+    marked_ = {};
+    bookmarks_ = {};
+    currentLine_ = LineIndex(0);
+    modifiedCount_ = 0;
+    linesWrapped_ = false;
+    truncated_ = false;
+}
+
+void TextDocument::setName(const std::optional<std::string>& path) {
+    named_ = path.has_value();
+    disk_ = {};
+    path_ = path.value_or(kNoName);
+    const std::size_t slash = path_.rfind('\\');
+    baseName_ = slash == std::string::npos ? path_ : path_.substr(slash + 1);
+}
+
+void TextDocument::setProfile(const ExtensionProfile& profile) {
+    profile_ = &profile;
+    // The old rules are in use until the new ones are.
+    auto rules = std::make_unique<const TokenRules>(profile);
+    comments_.setRules(rules.get());
+    tokenRules_ = std::move(rules);
+}
+
+bool TextDocument::newEmpty() {
+    loaded_ = true;
+    named_ = false;
+    lines_.putIfVacant(makeLine({}), kNewDocumentLine);
+    return true;
+}
+
+bool TextDocument::load() {
+    discardText();
+    disk_ = {};
+    File file;
+    if (!path_.empty()) file = File(path_, platform::OpenMode::Read);
+    if (!file.isOpen() || !TextLoader(*this, arena_, options_.FileWrite).read(file)) {
+        discardText();
+        disk_ = {};
+        newEmpty();
+        return false;
+    }
+    lines_.takeGrown();
+    loaded_ = true;
+    disk_.facts = platform::FactsOf(path_);
+    disk_.changesUnedited = disk_.kind != ContentsKind::Text && changesWhenWritten();
+    return true;
+}
+
+bool TextDocument::changesWhenWritten() const {
+    Checksum written;
+    const auto sink = [&written](std::string_view part) {
+        written.add(part);
+        return true;
+    };
+    return !WriteLines(*this, sink, options_.FileWrite) || written.value() != disk_.checksum;
+}
+
+WriteOutcome TextDocument::tryWrite(bool withoutCopy) {
+    if (!named_) return {};
+    const WriteOutcome outcome = WriteText(*this, path_, {options_.FileWrite, disk_.checksum, withoutCopy});
+    if (outcome.result == WriteResult::Torn) disk_.checksum.reset();
+    if (outcome.result != WriteResult::Written) return outcome;
+    disk_ = {};
+    disk_.checksum = outcome.checksum;
+    disk_.facts = platform::FactsOf(path_);
+    undo_.clear();
+    modifiedCount_ = 0;
+    clearChangedLines();
+    linesWrapped_ = false;
+    truncated_ = false;
+    return outcome;
+}
+
+void TextDocument::countChange(std::int32_t step) {
+    modifiedCount_ += step;
+    if (!isModified()) clearChangedLines();
+}
+
+void TextDocument::clearChangedLines() {
+    const std::int32_t last = lines_.lastUsed(LastUsed::Plain);
+    for (std::int32_t i = 0; i <= last; ++i) {
+        TextLine* line = lines_.occupied(i);
+        if (line && line->isChanged()) line->clearChanged();
+    }
+}
+
+bool TextDocument::isLineChanged(LineIndex index) const {
+    const TextLine* found = isModified() ? lines_.occupied(index.value) : nullptr;
+    return found && found->isChanged();
+}
+
+// ---- lines -------------------------------------------------------------------------------------------------------
+
+std::int32_t TextDocument::lineCount(LastUsed mode) const {
+    return loaded_ ? lines_.lastUsed(mode) : kNewDocumentLine;
+}
+
+TextLine& TextDocument::editableLine(LineIndex index) {
+    comments_.touch(index);
+    if (TextLine* line = lines_.occupied(index.value)) return *line;
+    lines_.reserve(index.value);
+    lines_.put(makeLine({}), index.value);
+    lines_.occupied(index.value)->clearChanged();  // the cursor has only come to a line that nobody has used yet
+    return *lines_.occupied(index.value);
+}
+
+LinePtr TextDocument::makeLine(std::string_view text) const {
+    return LinePtr(new TextLine(this, text));
+}
+
+// ---- cursor ------------------------------------------------------------------------------------------------------
+
+CharColumn TextDocument::column() const {
+    const TextLine* here = line(currentLine_);
+    return here ? here->column() : CharColumn(0);
+}
+
+std::int32_t TextDocument::tabSize() const {
+    return UsableTabSize(options_.TabSize);
+}
+
+DisplayColumn TextDocument::displayColumn() const {
+    return toDisplay(currentLine_, column());
+}
+
+DisplayColumn TextDocument::toDisplay(LineIndex index, CharColumn column) const {
+    return ToDisplay(text(index), column, tabSize());
+}
+
+CharColumn TextDocument::toCharacter(LineIndex index, DisplayColumn column) const {
+    return ToCharacter(text(index), column, tabSize());
+}
+
+}  // namespace vexa

@@ -1,0 +1,169 @@
+// The text of one open file in memory, with its name, its history and its marked area.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/editor_options.h"
+#include "base/notices.h"
+#include "base/units.h"
+#include "document/text/bookmarks.h"
+#include "document/text/comment_state.h"
+#include "document/text/disk_state.h"
+#include "document/text/dyn_array.h"
+#include "document/text/line_arena.h"
+#include "document/text/marked_area.h"
+#include "document/text/text_writer.h"
+#include "document/text/undo_history.h"
+#include "language/extension_profile.h"
+#include "language/token_rules.h"
+
+namespace vexa {
+
+// Limits of a load, all deliberate.
+inline constexpr std::int32_t kLineReadLimit = 299;     // characters read for one line, its line end counted
+inline constexpr std::int32_t kLastLoadedLine = 90000;  // index of the last line that one load keeps
+inline constexpr std::int32_t kLoadGrowth = 500;        // slots by which the lines grow during a load
+inline constexpr std::int32_t kNewDocumentLine = 200;   // where a new document's only line stands
+inline constexpr std::int32_t kLastColumn = 300;        // the cursor goes no further right
+
+// What the automatic backup remembers of a document.
+struct BackupState {
+    std::int64_t time = 0;   // seconds since 1970 from which the interval is counted; 0 until first asked
+    bool isWriting = false;  // a backup of the document is being written
+};
+
+class TextDocument {
+  public:
+    TextDocument(const EditorOptions& options, Notices& notices);
+    ~TextDocument();
+    TextDocument(const TextDocument&) = delete;
+    TextDocument& operator=(const TextDocument&) = delete;
+
+    // ---- name and file ----
+
+    // Reads the file at the path in the place of the present text and history. False when it cannot be opened or read
+    // to its end, or the path is empty; the document is then empty and not named, so that it cannot be saved over the
+    // file.
+    bool load();
+    // Writes the text to the path and forgets the history. False when the document is not named or the file could not
+    // be written whole; the file's old contents are then as they were, and the document stays modified with its
+    // history.
+    bool write() { return tryWrite(false).result == WriteResult::Written; }
+    // The same, with what stands against it; the user may then allow a write without a safety copy. A file that no
+    // longer holds what was loaded from it or written there is not written over.
+    WriteOutcome tryWrite(bool withoutCopy);
+    bool newEmpty();
+    void setName(const std::optional<std::string>& path);
+    // There is no file of the document's name that is its own, so that the first save asks for one.
+    void forgetFile() { named_ = false; }
+    // Takes a profile, which must stay where it is, and its rules of colouring as they now are.
+    void setProfile(const ExtensionProfile& profile);
+    const ExtensionProfile* profile() const { return profile_; }
+
+    // What is known of the file of this name.
+    DiskState& disk() { return disk_; }
+    const DiskState& disk() const { return disk_; }
+    const std::string& fullPath() const { return path_; }
+    const std::string& baseName() const { return baseName_; }
+    bool isNamed() const { return named_; }
+    bool isLoaded() const { return loaded_; }
+    bool isTruncated() const { return truncated_; }
+    bool areLinesWrapped() const { return linesWrapped_; }
+    bool isModified() const { return modifiedCount_ != 0; }
+    void clearModified() { modifiedCount_ = 0; }
+    // Whether a line of a modified document is not as it was loaded or last saved; with every change undone, none is.
+    bool isLineChanged(LineIndex index) const;
+    std::int32_t modifiedCount() const { return modifiedCount_; }
+    void countChange(std::int32_t step);
+
+    // ---- lines ----
+
+    // The index of the last line in use; that of a new document's line before the first load.
+    std::int32_t lineCount(LastUsed mode) const;
+    // The line at an index; none beyond the capacity of the line store. Vacant slots read as an empty line.
+    const TextLine* line(LineIndex index) const { return lines_.at(index.value); }
+    std::string_view text(LineIndex index) const {
+        const TextLine* found = line(index);
+        return found ? found->text() : std::string_view();
+    }
+    // The line at an index, to be changed (before another one is asked for) or to keep a cursor column; a vacant slot
+    // gets a line of its own first.
+    TextLine& editableLine(LineIndex index);
+    LinePtr makeLine(std::string_view text) const;
+    DynArray& lines() { return lines_; }
+    const DynArray& lines() const { return lines_; }
+
+    // ---- colouring ----
+
+    // None without a profile.
+    const TokenRules* tokenRules() const { return tokenRules_.get(); }
+    bool startsInComment(LineIndex line) const { return comments_.startsInside(line); }
+    // Finds out about the comments of lines that are not shown yet, at most that many; false when all are known. To be
+    // called while the user does nothing.
+    bool lookAheadForComments(std::int32_t lines) { return comments_.advance(lines); }
+
+    // ---- cursor ----
+
+    LineIndex currentLine() const { return currentLine_; }
+    void setCurrentLine(LineIndex line) { currentLine_ = line; }
+    TextLine& current() { return editableLine(currentLine_); }
+    CharColumn column() const;
+    DisplayColumn displayColumn() const;
+    std::int32_t tabSize() const;
+    DisplayColumn toDisplay(LineIndex line, CharColumn column) const;
+    CharColumn toCharacter(LineIndex line, DisplayColumn column) const;
+
+    // ---- marking and history ----
+
+    MarkedArea& marked() { return marked_; }
+    const MarkedArea& marked() const { return marked_; }
+    UndoHistory& undo() { return undo_; }
+    const UndoHistory& undo() const { return undo_; }
+    bool inUndo() const { return inUndo_; }
+    void setInUndo(bool inUndo) { inUndo_ = inUndo; }
+
+    // ---- bookmarks and backup ----
+
+    // Sets a bookmark to the current line.
+    BookmarkResult dropBookmark(std::int32_t n) { return bookmarks_.drop(n, currentLine_); }
+    const Bookmarks& bookmarks() const { return bookmarks_; }
+    BackupState& backup() { return backup_; }
+
+    const EditorOptions& options() const { return options_; }
+    Notices& notices() const { return notices_; }
+
+  private:
+    friend class TextLoader;
+    void discardText();
+    // Whether the document as it is would be written with other bytes than its file was loaded from.
+    bool changesWhenWritten() const;
+    void clearChangedLines();
+
+    const EditorOptions& options_;
+    Notices& notices_;
+    const ExtensionProfile* profile_ = nullptr;
+    std::string path_;
+    std::string baseName_;
+    DiskState disk_;
+    LineArena arena_;
+    DynArray lines_;
+    std::unique_ptr<const TokenRules> tokenRules_;
+    mutable CommentState comments_{lines_};  // fills itself in when it is asked
+    UndoHistory undo_;
+    MarkedArea marked_;
+    Bookmarks bookmarks_;
+    BackupState backup_;
+    LineIndex currentLine_;
+    std::int32_t modifiedCount_ = 0;
+    bool loaded_ = false;
+    bool named_ = false;
+    bool inUndo_ = false;
+    bool linesWrapped_ = false;
+    bool truncated_ = false;
+};
+
+}  // namespace vexa

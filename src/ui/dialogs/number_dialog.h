@@ -1,0 +1,28 @@
+// The dialogs that ask for one number: "Goto Line", "Jump to Bookmark", "Macro Repeat".
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ui/dialogs/editor_dialog.h"
+
+namespace vexa {
+
+class NumberDialog : public EditorDialog {
+  public:
+    // What the dialog does with the number as it was typed; false keeps it open.
+    using Use = std::function<bool(const std::string& number)>;
+
+    NumberDialog(ConfigStore& store, int dialog, std::string number, Use use)
+        : EditorDialog(store, dialog), number_(std::move(number)), use_(std::move(use)) {}
+
+  protected:
+    void onOpen() override;
+    void onAccept() override;
+
+  private:
+    const std::string number_;
+    const Use use_;
+};
+
+}  // namespace vexa

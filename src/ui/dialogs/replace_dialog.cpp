@@ -1,0 +1,42 @@
+#include "ui/dialogs/replace_dialog.h"
+
+#include "ui/resources/dialog_controls.h"
+
+namespace vexa {
+
+ReplaceDialog::ReplaceDialog(Application& application, FindCommands& commands, SearchHost& host)
+    : SearchDialog(IDD_REPLACE, application, host),
+      replaceHistory_(application.directories.GetDirectory(kConfigDirectory), FindDialogModel::kReplaceHistoryFile),
+      model_(commands, findHistory(), replaceHistory_) {}
+
+void ReplaceDialog::showFields() {
+    SearchDialog::showFields();
+    showCombo(IDC_REPLACE_TEXT, replaceHistory_, model_.replaceText);
+    setChecked(IDC_REPLACE_ALL, model_.replaceAll);
+}
+
+void ReplaceDialog::readFields() {
+    SearchDialog::readFields();
+    model_.replaceText = textOf(IDC_REPLACE_TEXT);
+    model_.replaceAll = isChecked(IDC_REPLACE_ALL);
+}
+
+void ReplaceDialog::enableButtons() {
+    SearchDialog::enableButtons();
+    enable(IDC_REPLACE, model_.canSearch());
+}
+
+void ReplaceDialog::saveHistories() {
+    SearchDialog::saveHistories();
+    replaceHistory_.Save();
+}
+
+void ReplaceDialog::onControl(int control, UINT notification) {
+    if (control == IDC_REPLACE && notification == BN_CLICKED) {
+        run([this](EditView* active) { model_.replace(active); });
+    } else {
+        SearchDialog::onControl(control, notification);
+    }
+}
+
+}  // namespace vexa

@@ -1,0 +1,145 @@
+#include "ui/dialogs/search_dialog.h"
+
+#include "ui/dialogs/dialog_keys.h"
+#include "ui/dialogs/dialog_place.h"
+#include "ui/resources/dialog_controls.h"
+
+namespace vexa {
+namespace {
+
+struct CheckBox {
+    int control;
+    bool FindDialogModel::*value;
+};
+constexpr CheckBox kCheckBoxes[] = {
+    {IDC_WHOLE_WORD, &FindDialogModel::wholeWord},
+    {IDC_MATCH_CASE, &FindDialogModel::matchCase},
+    {IDC_REGULAR_EXPRESSION, &FindDialogModel::regularExpression},
+};
+
+bool IsTextField(HWND control) {
+    return SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
+}
+
+// What the user has typed into a field shows no mnemonics.
+bool ShowsMnemonic(HWND control) {
+    const LRESULT kind = SendMessageA(control, WM_GETDLGCODE, 0, 0);
+    return IsWindowVisible(control) && (kind & (DLGC_STATIC | DLGC_BUTTON)) != 0;
+}
+
+std::vector<std::string> ControlTexts(HWND dialog) {
+    std::vector<std::string> texts;
+    for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+        char text[100] = "";
+        if (ShowsMnemonic(control) && GetWindowTextA(control, text, sizeof(text)) > 0) texts.emplace_back(text);
+    }
+    return texts;
+}
+
+}  // namespace
+
+SearchDialog::SearchDialog(int dialog, Application& application, SearchHost& host)
+    : EditorDialog(application.store, dialog),
+      host_(host),
+      findHistory_(application.directories.GetDirectory(kConfigDirectory), FindDialogModel::kFindHistoryFile) {}
+
+// ---- fields ------------------------------------------------------------------------------------------------------
+
+void SearchDialog::onOpen() {
+    showFields();
+    enableButtons();
+}
+
+void SearchDialog::showCombo(int control, const HistoryList& history, const std::string& text) {
+    limitComboText(control, SearchOptions::kTextLimit);
+    fillList(control, history.entries());
+    setTextOf(control, text);
+    markComboText(control);
+}
+
+void SearchDialog::showFields() {
+    showCombo(IDC_FIND_TEXT, findHistory_, model().findText);
+    for (const CheckBox& box : kCheckBoxes)
+        setChecked(box.control, model().*box.value);
+    checkRadio(IDC_SEARCH_UP, IDC_SEARCH_DOWN, model().forward ? IDC_SEARCH_DOWN : IDC_SEARCH_UP);
+}
+
+void SearchDialog::readFields() {
+    model().findText = textOf(IDC_FIND_TEXT);
+    for (const CheckBox& box : kCheckBoxes)
+        model().*box.value = isChecked(box.control);
+    model().forward = isChecked(IDC_SEARCH_DOWN);
+}
+
+void SearchDialog::enableButtons() {
+    enable(IDOK, model().canSearch());
+}
+
+void SearchDialog::refreshOptions(const SearchOptions& options) {
+    setChecked(IDC_MATCH_CASE, options.matchCase());
+    setChecked(IDC_REGULAR_EXPRESSION, options.regularExpression());
+}
+
+bool SearchDialog::useKey(MSG& message, const KeyEvent& event) {
+    const HWND focus = GetFocus();
+    if (!window() || !IsChild(window(), focus)) return false;
+    const bool inField = IsTextField(focus);
+    const DialogKeyUse use = DialogKeyUseOf(event, ControlTexts(window()), inField);
+    if (use == DialogKeyUse::MarkField) SendMessageA(focus, EM_SETSEL, 0, -1);
+    return use == DialogKeyUse::MarkField || (use == DialogKeyUse::Own && IsDialogMessageA(window(), &message));
+}
+
+bool SearchDialog::leave() {
+    if (!window()) return false;
+    onCancel();
+    return true;
+}
+
+void SearchDialog::keepClearOf(const RECT& match) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    RECT dialog{};
+    if (!window() || !GetWindowRect(window(), &dialog)) return;
+    if (!GetMonitorInfoA(MonitorFromRect(&match, MONITOR_DEFAULTTONEAREST), &monitor)) return;
+    const auto area = [](const RECT& r) {
+        return ScreenArea{static_cast<std::int32_t>(r.left), static_cast<std::int32_t>(r.top),
+                          static_cast<std::int32_t>(r.right), static_cast<std::int32_t>(r.bottom)};
+    };
+    const auto corner = CornerClearOf(area(match), area(dialog), area(monitor.rcWork));
+    if (!corner) return;
+    SetWindowPos(window(), nullptr, corner->left, corner->top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// ---- what the user does ------------------------------------------------------------------------------------------
+
+// A text chosen from the list is told of before it stands in the field.
+void SearchDialog::onControl(int control, UINT notification) {
+    const bool isChosen = notification == CBN_SELCHANGE;
+    if (control != IDC_FIND_TEXT || (!isChosen && notification != CBN_EDITCHANGE)) return;
+    model().findText = isChosen ? chosenTextOf(control) : textOf(control);
+    enableButtons();
+}
+
+// The lists have grown by the texts that were used.
+void SearchDialog::run(const SearchHost::Search& search) {
+    readFields();
+    if (!model().canSearch()) return;
+    host_.search(search);
+    showFields();
+}
+
+void SearchDialog::onAccept() {
+    run([this](EditView* active) { model().findNext(active); });
+}
+
+void SearchDialog::onCancel() {
+    model().cancel();
+    close(false);
+}
+
+void SearchDialog::onGone() {
+    if (!host_.isShuttingDown()) saveHistories();
+    host_.searchDialogGone();
+}
+
+}  // namespace vexa

@@ -1,0 +1,336 @@
+#include "ui/document/pane_window.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "framework/dpi.h"
+
+namespace vexa {
+namespace {
+
+const WindowClass kPaneClass{.name = "PaneWindowCL", .cursor = IDC_IBEAM};
+constexpr POINT kOutOfSight = {-1000, -1000};
+
+std::int32_t CellsIn(LONG pixels, int cell) {
+    return std::max<std::int32_t>(pixels / cell, 1);
+}
+
+}  // namespace
+
+bool PaneWindowCL::open(HWND parent) {
+    return create(kPaneClass,
+                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {0, 0, 0, 0}, .parent = parent});
+}
+
+bool PaneWindowCL::onCreate() {
+    painter_.setFont(MakePaneFont(fontDetails_, window()));
+    return true;
+}
+
+void PaneWindowCL::refreshFont() {
+    painter_.setFont(MakePaneFont(fontDetails_, window()));
+    rows_.clear();
+    fitView();
+}
+
+void PaneWindowCL::refreshColours() {
+    view_.setHighlighting(colours_.isHighlightingOn());
+    refresh();
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+bool PaneWindowCL::onSize(UINT /*kind*/) {
+    fitView();
+    // What the system has moved along with the window need not be what belongs there now.
+    InvalidateRect(window(), nullptr, FALSE);
+    return true;
+}
+
+void PaneWindowCL::fitView() {
+    const RECT client = clientArea();
+    view_.resize(CellsIn(client.bottom, painter_.cellHeight()), CellsIn(client.right, painter_.cellWidth()));
+    refresh();
+}
+
+// ---- showing -----------------------------------------------------------------------------------------------------
+
+void PaneWindowCL::refresh() {
+    if (!window()) return;
+    refreshRows();
+    refreshCaret();
+    refreshScrollBar(SB_VERT);
+    refreshScrollBar(SB_HORZ);
+    host_.viewChanged();
+}
+
+void PaneWindowCL::refreshRows() {
+    const std::int32_t moved = view_.topLine() - std::exchange(shownTop_, view_.topLine());
+    const bool isSideways = view_.leftColumn() != std::exchange(shownLeft_, view_.leftColumn());
+    const int height = painter_.cellHeight();
+    const auto count = static_cast<std::size_t>((clientArea().bottom + height - 1) / height);
+    rows_.show(window(), count, height, isSideways ? 0 : moved, [this](std::int32_t row) { return view_.render(row); });
+}
+
+bool PaneWindowCL::onEraseBackground(HDC /*dc*/) {
+    return true;
+}
+
+bool PaneWindowCL::onPaint(HDC dc, const RECT& update) {
+    const LONG right = clientArea().right;
+    rows_.paint(update, painter_.cellHeight(),
+                [&](int top, const ViewRow& row) { painter_.paint(dc, top, right, row); });
+    return true;
+}
+
+POINT PaneWindowCL::caretPlace() const {
+    const std::optional<Cell> cell = view_.caret();
+    return cell ? POINT{cell->column * painter_.cellWidth(), cell->row * painter_.cellHeight()} : kOutOfSight;
+}
+
+RECT PaneWindowCL::screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
+    const LONG top = (line - view_.topLine()) * painter_.cellHeight();
+    const RECT cells = {(from - view_.leftColumn()) * painter_.cellWidth(), top,
+                        (to - view_.leftColumn()) * painter_.cellWidth(), top + painter_.cellHeight()};
+    const RECT client = clientArea();
+    RECT place{};
+    IntersectRect(&place, &cells, &client);
+    MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+// A bar between two characters where typing inserts, a block over the character that typing replaces.
+void PaneWindowCL::refreshCaret() {
+    if (GetFocus() != window()) return;
+    const int bar = std::max(Scaled(2, DpiOf(window())), 1);
+    const SIZE size = {view_.overwrites() ? painter_.cellWidth() : bar, painter_.cellHeight()};
+    if (size.cx != caretSize_.cx || size.cy != caretSize_.cy) {
+        CreateCaret(window(), nullptr, size.cx, size.cy);
+        ShowCaret(window());
+        caretSize_ = size;
+    }
+    const POINT place = caretPlace();
+    SetCaretPos(place.x, place.y);
+}
+
+bool PaneWindowCL::onFocusGained() {
+    refreshCaret();
+    return true;
+}
+
+bool PaneWindowCL::onFocusLost() {
+    endDrag();
+    DestroyCaret();
+    caretSize_ = {};
+    return true;
+}
+
+// ---- scrolling ---------------------------------------------------------------------------------------------------
+
+ScrollState PaneWindowCL::scrollState(int bar) const {
+    if (bar == SB_VERT) return {view_.lastLine().value, view_.rows(), view_.topLine().value};
+    return {view_.widestColumn().value, view_.columns(), view_.leftColumn().value};
+}
+
+void PaneWindowCL::refreshScrollBar(int bar) {
+    const ScrollState state = Shown(scrollState(bar));
+    if (state == shownScroll_[bar]) return;
+    shownScroll_[bar] = state;
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+    info.nMax = state.last;
+    info.nPage = static_cast<UINT>(state.page);
+    info.nPos = state.position;
+    const RECT client = clientArea();
+    std::optional<ScrollState>& drawn = drawnScroll_[bar];
+    const bool draws = !drawn || ThumbMoves(*drawn, state, bar == SB_VERT ? client.bottom : client.right);
+    if (draws) drawn = state;
+    SetScrollInfo(window(), bar, &info, draws);
+}
+
+void PaneWindowCL::scrollTo(int bar, std::int32_t position) {
+    if (bar == SB_VERT) {
+        view_.scrollToLine(LineIndex(position));
+    } else {
+        view_.scrollToColumn(DisplayColumn(position));
+    }
+    refresh();
+    UpdateWindow(window());
+}
+
+bool PaneWindowCL::onScroll(int bar, UINT request) {
+    host_.userActs();
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_TRACKPOS;  // the message itself has room for 16 bits of it only
+    GetScrollInfo(window(), bar, &info);
+    scrollTo(bar, ScrollTarget(request, scrollState(bar), info.nTrackPos));
+    return true;
+}
+
+bool PaneWindowCL::onWheel(const WheelMessage& turn) {
+    if (turn.control) {
+        const std::int32_t steps = zoom_.add(-turn.delta, 1);
+        if (steps != 0) host_.zoom(steps);
+    } else if (turn.axis == WheelAxis::Horizontal) {
+        scrollByWheel(SB_HORZ, turn.delta);
+    } else {
+        scrollByWheel(turn.shift ? SB_HORZ : SB_VERT, -turn.delta);
+    }
+    return true;
+}
+
+// A delta above 0 goes towards the end of the lines or of the document.
+void PaneWindowCL::scrollByWheel(int bar, int delta) {
+    UINT linesPerNotch = 3;
+    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &linesPerNotch, 0);
+    const ScrollState state = scrollState(bar);
+    const auto most = static_cast<UINT>(state.page);  // also for the setting "one page a notch"
+    const auto lines = wheel_[bar].add(-delta, static_cast<std::int32_t>(std::min(linesPerNotch, most)));
+    const std::int32_t end = std::max({state.last - state.page + 1, state.position, 0});
+    if (lines != 0) scrollTo(bar, std::clamp(state.position + lines, 0, end));
+}
+
+// ---- keys --------------------------------------------------------------------------------------------------------
+
+bool PaneWindowCL::onKey(const KeyMessage& key) {
+    endDrag();
+    const auto event = keys_.keyDown({static_cast<std::uint16_t>(key.key), static_cast<std::uint16_t>(key.repeat),
+                                      key.extended, key.shift, key.control, key.alt});
+    if (!event) return false;
+    host_.userActs();
+    if (!view_.key(*event)) return false;
+    keys_.used();
+    host_.keyUsed(*event);
+    refresh();
+    // The system must see a key pressed with Alt, or it takes the release of Alt for a wish to use the menu.
+    return !key.alt;
+}
+
+bool PaneWindowCL::onCharacter(unsigned char character, UINT repeat) {
+    const bool control = GetKeyState(VK_CONTROL) < 0;
+    const auto event = keys_.character(character, static_cast<std::uint16_t>(repeat), control);
+    if (!event || !view_.key(*event)) return true;
+    host_.keyUsed(*event);
+    refresh();
+    return true;
+}
+
+bool PaneWindowCL::onSystemCharacter(unsigned char /*character*/) {
+    return keys_.dropsCharacter();
+}
+
+// ---- mouse -------------------------------------------------------------------------------------------------------
+
+// The boundary between two characters that is nearest, or the character itself where the caret covers one.
+Cell PaneWindowCL::cellAt(POINT place) const {
+    const int width = painter_.cellWidth();
+    const int height = painter_.cellHeight();
+    const LONG x = place.x + (view_.overwrites() ? 0 : width / 2);
+    const auto cells = [](LONG pixels, int cell) {
+        return static_cast<std::int32_t>(pixels >= 0 ? pixels / cell : (pixels + 1) / cell - 1);
+    };
+    return {cells(place.y, height), cells(x, width)};
+}
+
+bool PaneWindowCL::onMousePress(const MouseButtonMessage& press) {
+    dropsAltRelease_ = press.alt;
+    startDrag(press.place, press.shift, kindOf(press));
+    return true;
+}
+
+MousePress PaneWindowCL::kindOf(const MouseButtonMessage& press) {
+    const ClickLimits limits = {GetDoubleClickTime(), GetSystemMetrics(SM_CXDOUBLECLK),
+                                GetSystemMetrics(SM_CYDOUBLECLK)};
+    const auto now = static_cast<std::uint32_t>(GetMessageTime());
+    const bool isThird = tripleClick_.isThird({press.isDouble, press.place.x, press.place.y, now}, limits);
+    if (press.alt) return MousePress::Column;
+    if (isThird) return MousePress::Lines;
+    return press.isDouble ? MousePress::Word : MousePress::Stream;
+}
+
+void PaneWindowCL::startMarkingLines(POINT screenPlace, bool extend) {
+    ScreenToClient(window(), &screenPlace);
+    startDrag(screenPlace, extend, MousePress::Lines);
+}
+
+void PaneWindowCL::startDrag(POINT place, bool extend, MousePress how) {
+    constexpr UINT kScrollInterval = 50;  // milliseconds between two steps while the mouse is held outside
+    SetFocus(window());
+    host_.userActs();
+    host_.mousePressed();
+    SetCapture(window());
+    SetTimer(window(), 1, kScrollInterval, nullptr);
+    isDragging_ = true;
+    dragPlace_ = place;
+    view_.press(cellAt(place), extend, how);
+    refresh();
+}
+
+// Alt was held to mark a column; on its own it would now open the menu.
+bool PaneWindowCL::onSystemKeyUp(UINT key) {
+    return key == VK_MENU && std::exchange(dropsAltRelease_, false);
+}
+
+bool PaneWindowCL::onMouseMove(POINT place) {
+    // The system also reports mice that have not moved.
+    const bool hasMoved = place.x != dragPlace_.x || place.y != dragPlace_.y;
+    if (!isDragging_ || !hasMoved) return false;
+    dragPlace_ = place;
+    view_.drag(cellAt(place));
+    refresh();
+    return true;
+}
+
+// Lines that are marked beside the pane scroll only when the mouse is above or below it.
+bool PaneWindowCL::onTimer(UINT_PTR /*timer*/) {
+    RECT client = clientArea();
+    const POINT place = {std::max<LONG>(dragPlace_.x, 0), dragPlace_.y};
+    const bool isInside = PtInRect(&client, view_.isMarkingLines() ? place : dragPlace_);
+    if (!isDragging_ || isInside) return true;
+    view_.drag(cellAt(dragPlace_));
+    refresh();
+    return true;
+}
+
+bool PaneWindowCL::onMouseRelease() {
+    endDrag();
+    return true;
+}
+
+bool PaneWindowCL::onCaptureLost() {
+    endDrag();
+    return true;
+}
+
+void PaneWindowCL::endDrag() {
+    if (!std::exchange(isDragging_, false)) return;
+    KillTimer(window(), 1);
+    if (GetCapture() == window()) ReleaseCapture();
+    view_.release();
+    refresh();
+}
+
+// The commands of the menu work where it was asked for: at the mouse, unless that is over what is marked.
+bool PaneWindowCL::onContextMenu(std::optional<POINT> screenPlace) {
+    host_.userActs();
+    if (screenPlace) {
+        POINT place = *screenPlace;
+        ScreenToClient(window(), &place);
+        if (!view_.isMarked(cellAt(place))) {
+            host_.mousePressed();
+            view_.press(cellAt(place), false);
+            view_.release();
+            refresh();
+        }
+        host_.showContextMenu(*screenPlace);
+    } else {
+        POINT place = view_.caret() ? caretPlace() : POINT{};
+        ClientToScreen(window(), &place);
+        host_.showContextMenu(place);
+    }
+    return true;
+}
+
+}  // namespace vexa

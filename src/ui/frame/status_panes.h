@@ -1,0 +1,27 @@
+// The panes of the status bar and what they say of the program and of the active document.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/status_bar.h"
+#include "ui/document/document_window.h"
+
+namespace vexa {
+
+enum StatusPane : std::size_t {
+    kMessagePane,
+    kRecordingPane,
+    kReadOnlyPane,
+    kLineEndsPane,
+    kModePane,
+    kPositionPane,
+};
+
+// What the bar needs room for, behind the message.
+std::vector<std::string> WidestPaneTexts();
+// With no document the panes are empty.
+void ShowDocumentPanes(StatusBarCL& bar, const DocumentWindow* window);
+void ShowRecordingPane(StatusBarCL& bar, bool isRecording);
+
+}  // namespace vexa
