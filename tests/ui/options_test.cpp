@@ -18,9 +18,12 @@ void Fill(HWND dialog, Field field, const char* text) {
     SendMessageA(FieldOf(dialog, field), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
 }
 
+// By the text that the user sees.
 HWND ButtonOf(HWND dialog, const std::string& label) {
     for (const HWND button : ChildrenOf(dialog, "Button")) {
-        if (TextOf(button) == label) return button;
+        std::string text = TextOf(button);
+        std::erase(text, '&');
+        if (text == label) return button;
     }
     return nullptr;
 }
