@@ -96,7 +96,7 @@ TEST(Edit, MouseSetsTheCaretAndDraggingMarks) {
     ASSERT_TRUE(WaitUntil([&] { return editor.position() != " L:00001 C:001"; }));
     editor.keys("{Ctrl+Home}");
     ASSERT_TRUE(editor.showsPosition(1, 1));
-    editor.drag({{0, 2}, {1, 3}, {1000, 2}});
+    editor.drag({{0, 2}, {1, 3}, {1000, 2}}, [&editor] { return editor.showsPosition(1, 9); });
     editor.keys("{Del}");
     ASSERT_TRUE(editor.hasCaption("*"));
     editor.keys("{Alt+W}");

@@ -106,7 +106,9 @@ TEST_F(MacroTest, KeysWaitForTheEndOfAPlaybackAndEscStopsIt) {
     ASSERT_TRUE(editor.showsMessage("Macro recording complete"));
     editor.keys("{Ctrl+R}");
     ASSERT_TRUE(editor.dialog("Macro Repeat"));
-    editor.keys("9999{Enter}x{Esc}");
+    editor.keys("9999{Enter}x");
+    editor.command(CommandId::PlayMacro);  // while it plays, with a key waiting
+    editor.keys("{Esc}");
     EXPECT_TRUE(editor.showsMessage("Macro playback stopped."));
     editor.keys("y");
     EXPECT_TRUE(editor.showsPosition(1, 2)) << "what was typed before Esc is dropped with the rest";

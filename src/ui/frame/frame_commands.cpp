@@ -256,7 +256,9 @@ void VexaFrame::gotoBookmark() {
 
 // ---- macro -------------------------------------------------------------------------------------------------------
 
+// A play that is asked for while another goes on does nothing, and the keys go on waiting for the end of that one.
 void VexaFrame::playMacro() {
+    if (macro_.isPlaying()) return;
     macro_.Play();
     heldKeys_.giveBack(loop_);
 }
@@ -268,7 +270,7 @@ void VexaFrame::repeatMacro() {
         count = repeat_.accept(notices_);
         return count.has_value();
     });
-    if (!dialog.runModal(window()) || !count) return;
+    if (!dialog.runModal(window()) || !count || macro_.isPlaying()) return;
     macro_.PlayRepeated(*count);
     heldKeys_.giveBack(loop_);
 }
