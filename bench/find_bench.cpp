@@ -55,9 +55,8 @@ ReplaceTimes ReplaceInVexa() {
     session.searchOptions.setReplaceAll(true);
     session.searchOptions.setFindText("int", false);
     session.searchOptions.setReplaceText("INTEGER");
-    session.finder.attach(&session.view);
     ReplaceTimes times;
-    times.replace = Seconds([&] { times.hits = session.finder.replace(); });
+    times.replace = Seconds([&] { times.hits = session.finder.replace(session.view); });
     times.undo = Seconds([&] { session.view.undo(); });
     return times;
 }
@@ -130,9 +129,8 @@ void FindInDocument(benchmark::State& state, const char* file, const Absent& abs
     session.searchOptions.setMatchCase(absent.matchCase);
     session.searchOptions.setRegularExpression(absent.regularExpression);
     session.searchOptions.setFindText(absent.text, false);
-    session.finder.attach(&session.view);
     for (auto _ : state) {
-        if (session.finder.findNext()) return state.SkipWithError("it is there");
+        if (session.finder.findNext(session.view)) return state.SkipWithError("it is there");
     }
     Report(state, "ns_line", session.document.lineCount(LastUsed::Text) + 1);
 }

@@ -38,7 +38,6 @@ struct Session {
         searchOptions.setMatchCase(true);
         searchOptions.setRegularExpression(isRegularExpression);
         searchOptions.setFindText(text, false);
-        finder.attach(&view);
     }
     void prepareReplaceAll() {
         lookFor("int", false);
@@ -77,15 +76,15 @@ const Work kWorks[] = {
     {"load", [](Session&) {}, [](Session& s) { s.load(); }},
     {"tokens", [](Session& s) { s.load(); }, [](Session& s) { Require(CutTokens(s.document) > 0, "cutting"); }},
     {"find_plain", [](Session& s) { s.lookFor("no such text", false); },
-     [](Session& s) { Require(!s.finder.findNext(), "looking for what is not there"); }},
+     [](Session& s) { Require(!s.finder.findNext(s.view), "looking for what is not there"); }},
     {"find_regexp", [](Session& s) { s.lookFor("[A-Z_]+_HXQ", true); },
-     [](Session& s) { Require(!s.finder.findNext(), "looking for what is not there"); }},
+     [](Session& s) { Require(!s.finder.findNext(s.view), "looking for what is not there"); }},
     {"replace_all", [](Session& s) { s.prepareReplaceAll(); },
-     [](Session& s) { Require(s.finder.replace() > 0, "replacing"); }},
+     [](Session& s) { Require(s.finder.replace(s.view) > 0, "replacing"); }},
     {"undo_replace_all",
      [](Session& s) {
          s.prepareReplaceAll();
-         s.finder.replace();
+         s.finder.replace(s.view);
      },
      [](Session& s) { Require(s.view.undo(), "undoing"); }},
 };

@@ -16,10 +16,9 @@ std::string_view OnOff(bool on) {
 
 }  // namespace
 
-bool FindCommands::attach(EditView* view) {
-    if (finder_.attach(view)) return true;
-    tellError(LoadText(TextId::NeedsOpenFile));
-    return false;
+bool FindCommands::has(const EditView* view) {
+    if (view == nullptr) tellError(LoadText(TextId::NeedsOpenFile));
+    return view != nullptr;
 }
 
 void FindCommands::tellNotFound() {
@@ -35,14 +34,13 @@ void FindCommands::findNext(EditView* view) {
 
 void FindCommands::findPrevious(EditView* view) {
     options_.setForward(false);
-    if (!attach(view)) return;
-    if (!finder_.findNext()) tellNotFound();
-    finder_.attach(nullptr);
+    if (!has(view)) return;
+    if (!finder_.findNext(*view)) tellNotFound();
 }
 
-// What the caret is at counts as found already, so that the search goes on behind it.
+// What the caret is at counts as found already, so that the search goes on after it.
 void FindCommands::findAtCaret(EditView* view) {
-    if (!attach(view)) return;
+    if (!has(view)) return;
     const TextDocument& document = view->document();
     const LineIndex line = document.currentLine();
     const std::optional<CharSpan> span = SpanAtCaret(document);
@@ -58,20 +56,18 @@ void FindCommands::findAtCaret(EditView* view) {
 }
 
 bool FindCommands::find(EditView* view) {
-    if (!attach(view)) return false;
-    if (finder_.findNext()) {
+    if (!has(view)) return false;
+    if (finder_.findNext(*view)) {
         tell(LoadText(TextId::SearchCompleted));
     } else {
         tellNotFound();
     }
-    finder_.attach(nullptr);
     return true;
 }
 
 bool FindCommands::replace(EditView* view) {
-    if (!attach(view)) return false;
-    const std::int32_t count = finder_.replace();
-    finder_.attach(nullptr);
+    if (!has(view)) return false;
+    const std::int32_t count = finder_.replace(*view);
     if (count == 0) {
         tellNotFound();
     } else {

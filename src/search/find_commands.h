@@ -35,7 +35,8 @@ class FindCommands {
     void toggleMatchCase();
 
   private:
-    bool attach(EditView* view);
+    // Tells the user when there is none.
+    bool has(const EditView* view);
     void tell(std::string_view text) { notices_.status(text, false, false); }
     void tellError(std::string_view text) { notices_.status(text, true, true); }
     void tellNotFound();

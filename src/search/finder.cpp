@@ -1,9 +1,11 @@
 #include "search/finder.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "document/text/cursor_actions.h"
 #include "document/text/run_actions.h"
+#include "search/line_search.h"
 
 namespace vexa {
 
@@ -18,37 +20,64 @@ void FinishWithMatchInSight(EditView& view, const LastMatch& match) {
         view.scrollToColumn(std::min(match.displayStart, match.displayEnd - view.columns()));
 }
 
-}  // namespace
-
-bool Finder::attach(EditView* view) {
-    view_ = view;
-    return view != nullptr;
+std::string_view DelimitersOf(const TextDocument& document) {
+    const ExtensionProfile* profile = document.profile();
+    return profile ? std::string_view(profile->delimiters()) : std::string_view();
 }
 
-LineSearch Finder::makeSearch() {
-    const ExtensionProfile* profile = document().profile();
-    return LineSearch(options_, profile ? std::string_view(profile->delimiters()) : std::string_view());
-}
+struct TextPosition {
+    LineIndex line;
+    CharColumn column;
+};
+
+struct DocumentMatch {
+    LineIndex line;
+    LineMatch inLine;
+};
+
+// One operation on the document of a view.
+class SearchRun {
+  public:
+    SearchRun(EditView& view, SearchOptions& options, SearchProgress& progress)
+        : view_(view),
+          document_(view.document()),
+          options_(options),
+          progress_(progress),
+          search_(options, DelimitersOf(document_)) {}
+
+    bool findNext();
+    void replace();
+
+  private:
+    TextPosition start() const;
+    std::optional<DocumentMatch> findFrom(TextPosition start);
+    std::optional<DocumentMatch> findAfter(const DocumentMatch& match, CharColumn end);
+    std::optional<DocumentMatch> pendingMatch();
+    void show(const DocumentMatch& match);
+    void replaceOne(const DocumentMatch& match);
+    void replaceAll(const DocumentMatch& first);
+
+    EditView& view_;
+    TextDocument& document_;
+    SearchOptions& options_;
+    SearchProgress& progress_;
+    LineSearch search_;
+};
 
 // ---- finding -----------------------------------------------------------------------------------------------------
 
-bool Finder::findNext() {
-    stopped_ = false;
-    if (view_ == nullptr) return false;
-    LineSearch search = makeSearch();
-    SearchProgress progress(notices_, watch_);
-    const std::optional<Match> match = findFrom(searchStart(), search, progress);
-    stopped_ = progress.stopped();
+bool SearchRun::findNext() {
+    const std::optional<DocumentMatch> match = findFrom(start());
     if (!match) return false;
     show(*match);
     options_.setMatchPending(true);
-    FinishWithMatchInSight(*view_, options_.lastMatch);
+    FinishWithMatchInSight(view_, options_.lastMatch);
     return true;
 }
 
-// Behind a pending match, so that overlapping ones are found too, unless the cursor has gone elsewhere.
-Finder::Place Finder::searchStart() {
-    Place start{document().currentLine(), document().column()};
+// After a pending match, so that overlapping ones are found too, unless the cursor has gone elsewhere.
+TextPosition SearchRun::start() const {
+    TextPosition start{document_.currentLine(), document_.column()};
     if (!options_.matchPending()) return start;
     const LastMatch& last = options_.lastMatch;
     if (start.line == last.line && start.column == last.cursorColumn) start.column = last.column + 1;
@@ -56,103 +85,111 @@ Finder::Place Finder::searchStart() {
     return start;
 }
 
-std::optional<Finder::Match> Finder::findFrom(Place start, LineSearch& search, SearchProgress& progress) {
+std::optional<DocumentMatch> SearchRun::findFrom(TextPosition start) {
     const std::int32_t step = options_.forward() ? 1 : -1;
-    const LineIndex last = options_.forward() ? LineIndex(document().lineCount(LastUsed::Text)) : start.line;
-    const DynArray& lines = document().lines();
+    const LineIndex last = options_.forward() ? LineIndex(document_.lineCount(LastUsed::Text)) : start.line;
+    const DynArray& lines = document_.lines();
     CharColumn from = start.column;
     for (LineIndex line = start.line; line.value >= 0 && line <= last; line += step) {
         const TextLine* here = lines.at(line.value);
         if (here == nullptr) continue;
-        if (const auto found = search.find(here->text(), from)) return Match{line, *found};
-        if (progress.mustStop()) return std::nullopt;
+        if (const auto found = search_.find(here->text(), from)) return DocumentMatch{line, *found};
+        if (progress_.mustStop()) return std::nullopt;
         from = CharColumn(0);
     }
     return std::nullopt;
 }
 
-void Finder::show(const Match& match) {
+void SearchRun::show(const DocumentMatch& match) {
     LastMatch& last = options_.lastMatch;
     last.line = match.line;
     last.column = match.inLine.column;
     last.length = match.inLine.length;
-    last.displayStart = document().toDisplay(match.line, last.column);
+    last.displayStart = document_.toDisplay(match.line, last.column);
     last.displayEnd = last.displayStart + std::max(last.length, 1);
-    LineEditor& editor = view_->editor();
-    view_->marker().clear();
+    LineEditor& editor = view_.editor();
+    view_.marker().clear();
     editor.moveToLine(match.line);
     editor.moveToColumn(last.column);
     editor.run<SetMarkMode>(MarkMode::Stream);
     editor.run<SetMark>(MarkPoint{match.line, last.displayStart}, MarkPoint{match.line, last.displayEnd});
-    last.cursorColumn = document().column();
+    last.cursorColumn = document_.column();
     options_.setPastLineEnd(last.cursorColumn >= editor.textEnd());
 }
 
 // ---- replacing ---------------------------------------------------------------------------------------------------
 
-std::int32_t Finder::replace() {
-    stopped_ = false;
-    if (view_ == nullptr) return 0;
-    LineSearch search = makeSearch();
-    SearchProgress progress(notices_, watch_);
-    std::optional<Match> match = pendingMatch(search);
+void SearchRun::replace() {
+    std::optional<DocumentMatch> match = pendingMatch();
     options_.setMatchPending(false);
-    if (!match) match = findFrom(searchStart(), search, progress);
-    if (match && options_.replaceAll()) {
-        replaceAll(*match, search, progress);
-    } else if (match) {
+    if (!match) match = findFrom(start());
+    if (!match) return;
+    if (options_.replaceAll()) {
+        replaceAll(*match);
+    } else {
         replaceOne(*match);
-        progress.countReplacement();
     }
-    if (match) {
-        options_.forgetMatch();
-        view_->finish();
-    }
-    stopped_ = progress.stopped();
-    return progress.replacements();
+    options_.forgetMatch();
+    view_.finish();
 }
 
 // A match that was found earlier may be replaced without a further search as long as the user sees it marked with the
 // cursor on it, and it is what the present text and options would find there.
-std::optional<Finder::Match> Finder::pendingMatch(LineSearch& search) {
+std::optional<DocumentMatch> SearchRun::pendingMatch() {
     const LastMatch& last = options_.lastMatch;
     const MarkedArea marked{MarkMode::Stream, true, {last.line, last.displayStart}, {last.line, last.displayEnd}};
     const LineMatch inLine{last.column, last.length};
-    const bool marksMatch = options_.matchPending() && document().marked() == marked;
-    if (!marksMatch || document().currentLine() != last.line || document().column() != last.cursorColumn) return {};
-    if (search.find(document().text(last.line), last.column) != inLine) return {};
-    return Match{last.line, inLine};
+    const bool marksMatch = options_.matchPending() && document_.marked() == marked;
+    if (!marksMatch || document_.currentLine() != last.line || document_.column() != last.cursorColumn) return {};
+    if (search_.find(document_.text(last.line), last.column) != inLine) return {};
+    return DocumentMatch{last.line, inLine};
 }
 
-void Finder::replaceOne(const Match& match) {
+void SearchRun::replaceOne(const DocumentMatch& match) {
     const std::string text = options_.insertedText();
-    LineEditor& editor = view_->editor();
-    view_->marker().clear();
+    LineEditor& editor = view_.editor();
+    view_.marker().clear();
     editor.moveToLine(match.line);
     editor.run<ReplaceRun>(match.line, match.inLine.column, match.inLine.length, text);
     editor.moveToColumn(match.inLine.column + static_cast<std::int32_t>(text.size()));
+    progress_.countReplacement();
 }
 
-void Finder::replaceAll(Match match, LineSearch& search, SearchProgress& progress) {
+void SearchRun::replaceAll(const DocumentMatch& first) {
     const std::string text = options_.insertedText();
-    view_->marker().clear();
-    for (std::optional<Match> next = match; next;) {
+    view_.marker().clear();
+    for (std::optional<DocumentMatch> next = first; next;) {
         const CharColumn column = next->inLine.column;
-        view_->editor().run<ReplaceRun>(next->line, column, next->inLine.length, text);
-        progress.countReplacement();
-        if (progress.mustStop()) return;
-        next = findBehind(*next, column + static_cast<std::int32_t>(text.size()), search, progress);
+        view_.editor().run<ReplaceRun>(next->line, column, next->inLine.length, text);
+        progress_.countReplacement();
+        if (progress_.mustStop()) return;
+        next = findAfter(*next, column + static_cast<std::int32_t>(text.size()));
     }
 }
 
-// The next match behind a replacement that ends at a column.
-std::optional<Finder::Match> Finder::findBehind(const Match& match, CharColumn end, LineSearch& search,
-                                                SearchProgress& progress) {
-    const std::string_view text = document().text(match.line);
-    std::optional<LineMatch> next = search.find(text, end);
-    if (next == LineMatch{end, 0}) next = search.findAfter(text, end);
-    if (next) return Match{match.line, *next};
-    return findFrom({match.line + (options_.forward() ? 1 : -1), CharColumn(0)}, search, progress);
+// The next match after a replacement that ends at a column.
+std::optional<DocumentMatch> SearchRun::findAfter(const DocumentMatch& match, CharColumn end) {
+    const std::string_view text = document_.text(match.line);
+    std::optional<LineMatch> next = search_.find(text, end);
+    if (next == LineMatch{end, 0}) next = search_.findAfter(text, end);
+    if (next) return DocumentMatch{match.line, *next};
+    return findFrom({match.line + (options_.forward() ? 1 : -1), CharColumn(0)});
+}
+
+}  // namespace
+
+bool Finder::findNext(EditView& view) {
+    SearchProgress progress(notices_, watch_);
+    const bool found = SearchRun(view, options_, progress).findNext();
+    stopped_ = progress.stopped();
+    return found;
+}
+
+std::int32_t Finder::replace(EditView& view) {
+    SearchProgress progress(notices_, watch_);
+    SearchRun(view, options_, progress).replace();
+    stopped_ = progress.stopped();
+    return progress.replacements();
 }
 
 }  // namespace vexa

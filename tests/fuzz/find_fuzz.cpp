@@ -43,8 +43,8 @@ void SetOptions(SearchOptions& options, Input& input) {
 }
 
 // Each search must find a later place, or nothing.
-void FindAll(Finder& finder, std::size_t places) {
-    while (finder.findNext())
+void FindAll(Finder& finder, EditView& view, std::size_t places) {
+    while (finder.findNext(view))
         Require(places-- > 0);
 }
 
@@ -77,9 +77,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     view.goTo(line, column);
 
     Finder finder(options, notices, clock);
-    finder.attach(&view);
-    if (findsFirst) finder.findNext();
-    Require(static_cast<std::size_t>(finder.replace()) <= places);
+    if (findsFirst) finder.findNext(view);
+    Require(static_cast<std::size_t>(finder.replace(view)) <= places);
     const std::vector<std::string> after = LinesOf(document);
     while (!document.undo().isEmpty())
         view.undo();
@@ -89,7 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(LinesOf(document) == after);
     while (view.undo() && !document.undo().isEmpty()) {
     }
-    FindAll(finder, places);
+    FindAll(finder, view, places);
     return 0;
 }
 
