@@ -41,7 +41,7 @@ class JumpModels : public testing::Test {
 TEST_F(JumpModels, AJumpIsCentredToldAndRemembered) {
     EXPECT_EQ(BookmarkModel(store_).number, "");
     view_.goTo(LineIndex(100), CharColumn(7));
-    view_.dropBookmark(3);
+    document_.dropBookmark(3);
     view_.goTo(LineIndex(0), CharColumn(0));
     EXPECT_TRUE(jump(" 3x"));
     EXPECT_EQ(document_.currentLine(), LineIndex(100));
@@ -63,15 +63,16 @@ TEST_F(JumpModels, ARefusedJumpTellsWhyAndChangesNothing) {
 }
 
 TEST_F(JumpModels, DroppingTellsTheNumber) {
-    view_.dropBookmark(9);
+    Editing editing(document_, options_, notices_);
+    DropBookmark(editing, 9);
     EXPECT_EQ(notices_.statuses.back(), (StatusNotice{"Bookmark '9' dropped", true, false}));
-    view_.dropBookmark(10);
+    DropBookmark(editing, 10);
     EXPECT_EQ(notices_.lastStatus(), std::string(LoadText(TextId::BadBookmark)));
 }
 
 TEST_F(JumpModels, BookmarksAreGoneWithTheTextTheyWereIn) {
     disk_.put("A.TXT", "abc");
-    view_.dropBookmark(1);
+    document_.dropBookmark(1);
     document_.setName(disk_.path("A.TXT"));
     ASSERT_TRUE(document_.load());
     EXPECT_FALSE(jump("1"));

@@ -145,8 +145,8 @@ TEST_F(View, MarginShowsNumbersBookmarksAndChangedLines) {
     press(kKeyDelete);
     view_.undo();  // from here on the text counts as loaded
     view_.goTo(LineIndex(99), CharColumn(0));
-    view_.dropBookmark(7);
-    view_.dropBookmark(3);
+    document_.dropBookmark(7);
+    document_.dropBookmark(3);
     press(kKeyEnter);
     EXPECT_EQ(margin(99), (MarginRow{" 100", '3', true, false}));
     EXPECT_EQ(margin(100), (MarginRow{" 101", ' ', false, true})) << "it has only moved";

@@ -1,88 +1,63 @@
-// Which key does what in the edit view.
 #include "document/view/view_keys.h"
 
 #include <algorithm>
-#include <string_view>
 
-#include "document/view/edit_view.h"
+#include "document/view/edits.h"
+#include "document/view/movements.h"
 
 namespace vexa {
 
-// A movement is free to come with Shift, which marks; every other row wants Shift as it stands.
-struct ViewKeys {
-    enum Kind { kMove, kEdit };
-    enum Modifier : unsigned { kPlain = 0, kShift = 1, kControl = 2, kAlt = 4 };
-    struct Row {
-        std::uint16_t key;
-        unsigned modifiers;
-        Kind kind;
-        EditView::Movement action;
-        std::string_view description;
-    };
-
-    static const Row* find(const KeyEvent& event);
-    static const Row kRows[];
-};
-
-const ViewKeys::Row ViewKeys::kRows[] = {
-    {kKeyLeft, kPlain, kMove, &EditView::charLeft, "Move one character to the left"},
-    {kKeyRight, kPlain, kMove, &EditView::charRight, "Move one character to the right"},
-    {kKeyUp, kPlain, kMove, &EditView::lineUp, "Move one line up"},
-    {kKeyDown, kPlain, kMove, &EditView::lineDown, "Move one line down"},
-    {kKeyLeft, kControl, kMove, &EditView::wordLeft, "Move to the word before"},
-    {kKeyRight, kControl, kMove, &EditView::wordRight, "Move to the next word"},
-    {kKeyPageUp, kPlain, kMove, &EditView::pageUp, "Turn one page up"},
-    {kKeyPageDown, kPlain, kMove, &EditView::pageDown, "Turn one page down"},
-    {kKeyPageUp, kControl, kMove, &EditView::windowStart, "Move to the first line of the window"},
-    {kKeyPageDown, kControl, kMove, &EditView::windowEnd, "Move to the last line of the window"},
-    {kKeyHome, kPlain, kMove, &EditView::home,
-     "Move to the start of the line; again, of the window; again, of the document"},
-    {kKeyEnd, kPlain, kMove, &EditView::end,
-     "Move to the end of the line; again, of the window; again, of the document"},
-    {kKeyHome, kControl, kMove, &EditView::documentStart, "Move to the start of the document"},
-    {kKeyEnd, kControl, kMove, &EditView::documentEnd, "Move to the end of the document"},
-
-    {kKeyEnter, kPlain, kEdit, &EditView::enter, "Begin a new line"},
-    {kKeyEnter, kShift, kEdit, &EditView::enter, "Begin a new line"},
-    {kKeyTab, kPlain, kEdit, &EditView::tab, "Insert a tab or blanks; with marked lines, indent them"},
-    {kKeyTab, kShift, kEdit, &EditView::backTab, "Move back one tab stop; with marked lines, outdent them"},
-    {kKeyBackspace, kPlain, kEdit, &EditView::backspace, "Delete the character before the caret or the marked area"},
-    {kKeyBackspace, kShift, kEdit, &EditView::backspace, "Delete the character before the caret or the marked area"},
-    {kKeyBackspace, kControl, kEdit, &EditView::deleteWord, "Delete the word before the caret"},
-    {kKeyDelete, kPlain, kEdit, &EditView::deleteKey, "Delete the character at the caret or the marked area"},
-    {'D', kAlt, kEdit, &EditView::deleteLine, "Delete the line"},
-    {'K', kAlt, kEdit, &EditView::deleteToEnd, "Delete to the end of the line"},
-    {'K', kControl, kEdit, &EditView::deleteToStart, "Delete to the start of the line"},
-    {'A', kAlt, kEdit, &EditView::markStream, "Start or stop marking characters"},
-    {'L', kAlt, kEdit, &EditView::markLines, "Start or stop marking lines"},
-    {'C', kAlt, kEdit, &EditView::markColumn, "Start or stop marking a column"},
-    {kKeyAdd, kPlain, kEdit, &EditView::copyBlock, "Copy the line or the marked area to the clipboard"},
-    {kKeySubtract, kPlain, kEdit, &EditView::cutBlock, "Cut the line or the marked area to the clipboard"},
-    {kKeyInsert, kPlain, kEdit, &EditView::pasteBlock, "Paste what is on the clipboard"},
-    {kKeyEscape, kPlain, kEdit, &EditView::clearMark, "Take the marking away"},
-    {'I', kAlt, kEdit, &EditView::toggleInsert, "Switch between inserting and overwriting"},
-    {'0', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 0"},
-    {'1', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 1"},
-    {'2', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 2"},
-    {'3', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 3"},
-    {'4', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 4"},
-    {'5', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 5"},
-    {'6', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 6"},
-    {'7', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 7"},
-    {'8', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 8"},
-    {'9', kAlt, kEdit, &EditView::dropBookmarkOfKey, "Drop bookmark 9"},
-};
-
-const ViewKeys::Row* ViewKeys::find(const KeyEvent& event) {
-    const unsigned chord = (event.control ? kControl : 0u) | (event.alt ? kAlt : 0u);
-    for (const Row& row : kRows) {
-        const unsigned shift = event.shift && row.kind != kMove ? kShift : 0u;
-        if (row.key == event.key && row.modifiers == (chord | shift)) return &row;
-    }
-    return nullptr;
-}
-
 namespace {
+
+using enum ViewKey::Kind;
+using enum ViewKey::Modifier;
+
+constexpr ViewKey kKeys[] = {
+    {kKeyLeft, kPlain, kMove, CharLeft, "Move one character to the left"},
+    {kKeyRight, kPlain, kMove, CharRight, "Move one character to the right"},
+    {kKeyUp, kPlain, kMove, LineUp, "Move one line up"},
+    {kKeyDown, kPlain, kMove, LineDown, "Move one line down"},
+    {kKeyLeft, kControl, kMove, WordLeft, "Move to the word before"},
+    {kKeyRight, kControl, kMove, WordRight, "Move to the next word"},
+    {kKeyPageUp, kPlain, kMove, PageUp, "Turn one page up"},
+    {kKeyPageDown, kPlain, kMove, PageDown, "Turn one page down"},
+    {kKeyPageUp, kControl, kMove, WindowStart, "Move to the first line of the window"},
+    {kKeyPageDown, kControl, kMove, WindowEnd, "Move to the last line of the window"},
+    {kKeyHome, kPlain, kMove, HomeKey, "Move to the start of the line; again, of the window; again, of the document"},
+    {kKeyEnd, kPlain, kMove, EndKey, "Move to the end of the line; again, of the window; again, of the document"},
+    {kKeyHome, kControl, kMove, DocumentStart, "Move to the start of the document"},
+    {kKeyEnd, kControl, kMove, DocumentEnd, "Move to the end of the document"},
+
+    {kKeyEnter, kPlain, kEdit, Enter, "Begin a new line"},
+    {kKeyEnter, kShift, kEdit, Enter, "Begin a new line"},
+    {kKeyTab, kPlain, kEdit, Tab, "Insert a tab or blanks; with marked lines, indent them"},
+    {kKeyTab, kShift, kEdit, BackTab, "Move back one tab stop; with marked lines, outdent them"},
+    {kKeyBackspace, kPlain, kEdit, Backspace, "Delete the character before the caret or the marked area"},
+    {kKeyBackspace, kShift, kEdit, Backspace, "Delete the character before the caret or the marked area"},
+    {kKeyBackspace, kControl, kEdit, DeleteWord, "Delete the word before the caret"},
+    {kKeyDelete, kPlain, kEdit, DeleteKey, "Delete the character at the caret or the marked area"},
+    {'D', kAlt, kEdit, DeleteLine, "Delete the line"},
+    {'K', kAlt, kEdit, DeleteToEnd, "Delete to the end of the line"},
+    {'K', kControl, kEdit, DeleteToStart, "Delete to the start of the line"},
+    {'A', kAlt, kEdit, MarkStream, "Start or stop marking characters"},
+    {'L', kAlt, kEdit, MarkLines, "Start or stop marking lines"},
+    {'C', kAlt, kEdit, MarkColumn, "Start or stop marking a column"},
+    {kKeyAdd, kPlain, kEdit, Copy, "Copy the line or the marked area to the clipboard"},
+    {kKeySubtract, kPlain, kEdit, Cut, "Cut the line or the marked area to the clipboard"},
+    {kKeyInsert, kPlain, kEdit, Paste, "Paste what is on the clipboard"},
+    {kKeyEscape, kPlain, kEdit, Unmark, "Take the marking away"},
+    {'I', kAlt, kEdit, ToggleInsert, "Switch between inserting and overwriting"},
+    {'0', kAlt, kEdit, DropBookmark<0>, "Drop bookmark 0"},
+    {'1', kAlt, kEdit, DropBookmark<1>, "Drop bookmark 1"},
+    {'2', kAlt, kEdit, DropBookmark<2>, "Drop bookmark 2"},
+    {'3', kAlt, kEdit, DropBookmark<3>, "Drop bookmark 3"},
+    {'4', kAlt, kEdit, DropBookmark<4>, "Drop bookmark 4"},
+    {'5', kAlt, kEdit, DropBookmark<5>, "Drop bookmark 5"},
+    {'6', kAlt, kEdit, DropBookmark<6>, "Drop bookmark 6"},
+    {'7', kAlt, kEdit, DropBookmark<7>, "Drop bookmark 7"},
+    {'8', kAlt, kEdit, DropBookmark<8>, "Drop bookmark 8"},
+    {'9', kAlt, kEdit, DropBookmark<9>, "Drop bookmark 9"},
+};
 
 struct KeyName {
     std::uint16_t key;
@@ -96,11 +71,11 @@ constexpr KeyName kKeyNames[] = {
     {kKeyInsert, "Ins"},          {kKeyDelete, "Del"},    {kKeyAdd, "Plus (keypad)"}, {kKeySubtract, "Minus (keypad)"},
 };
 
-std::string NameOf(const ViewKeys::Row& row) {
+std::string NameOf(const ViewKey& row) {
     std::string text;
-    if (row.modifiers & ViewKeys::kShift) text += "Shift+";
-    if (row.modifiers & ViewKeys::kControl) text += "Ctrl+";
-    if (row.modifiers & ViewKeys::kAlt) text += "Alt+";
+    if (row.modifiers & kShift) text += "Shift+";
+    if (row.modifiers & kControl) text += "Ctrl+";
+    if (row.modifiers & kAlt) text += "Alt+";
     const auto* named = std::ranges::find(kKeyNames, row.key, &KeyName::key);
     if (named == std::end(kKeyNames)) return text + static_cast<char>(row.key);
     return text.append(named->name);
@@ -108,36 +83,20 @@ std::string NameOf(const ViewKeys::Row& row) {
 
 }  // namespace
 
+const ViewKey* FindViewKey(const KeyEvent& event) {
+    const unsigned chord = (event.control ? kControl : 0u) | (event.alt ? kAlt : 0u);
+    for (const ViewKey& row : kKeys) {
+        const unsigned shift = event.shift && row.kind != kMove ? kShift : 0u;
+        if (row.key == event.key && row.modifiers == (chord | shift)) return &row;
+    }
+    return nullptr;
+}
+
 std::vector<ViewKeyHelp> ViewKeyList() {
     std::vector<ViewKeyHelp> list;
-    for (const ViewKeys::Row& row : ViewKeys::kRows)
-        list.push_back({NameOf(row), row.description, row.kind == ViewKeys::kMove});
+    for (const ViewKey& row : kKeys)
+        list.push_back({NameOf(row), row.description, row.kind == kMove});
     return list;
-}
-
-bool EditView::typedCharacter(const KeyEvent& event) {
-    for (std::uint16_t n = 0; n < event.repeat; ++n)
-        typeCharacter(static_cast<char>(event.character));
-    lastKey_ = event;
-    finish();
-    return true;
-}
-
-bool EditView::key(const KeyEvent& event) {
-    if (event.key == kKeyNone) return typedCharacter(event);
-    const ViewKeys::Row* row = ViewKeys::find(event);
-    if (row == nullptr) return false;
-    for (std::uint16_t n = 0; n < event.repeat; ++n) {
-        pressesInARow_ = event == lastKey_ ? pressesInARow_ + 1 : 1;
-        lastKey_ = event;
-        if (row->kind == ViewKeys::kMove) {
-            move(row->action, event.shift);
-        } else {
-            (this->*row->action)();
-        }
-    }
-    finish();
-    return true;
 }
 
 }  // namespace vexa
