@@ -1,7 +1,6 @@
 #include "document/view/edit_view.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "document/view/matching_bracket.h"
 #include "document/view/view_keys.h"
@@ -14,6 +13,12 @@ namespace {
 MarkMode ModeOf(MousePress press) {
     if (press == MousePress::Column) return MarkMode::Column;
     return press == MousePress::Lines ? MarkMode::Lines : MarkMode::Stream;
+}
+
+// The run-time library's formatting would bring its floating point along.
+std::string ZeroPadded(std::int32_t number, std::size_t digits) {
+    const std::string text = std::to_string(number);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
 }
 
 }  // namespace
@@ -197,10 +202,8 @@ ViewRow EditView::render(std::int32_t row) const {
 }
 
 std::string EditView::positionText() const {
-    char text[64];
-    std::snprintf(text, sizeof text, " L:%5.5d C:%3.3d", static_cast<int>(document().currentLine().value + 1),
-                  static_cast<int>(document().displayColumn().value + 1));
-    return text;
+    return " L:" + ZeroPadded(document().currentLine().value + 1, 5) +
+           " C:" + ZeroPadded(document().displayColumn().value + 1, 3);
 }
 
 }  // namespace vexa
