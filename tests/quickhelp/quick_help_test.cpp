@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "quickhelp/help_lookup_fixture.h"
+#include "quickhelp/linked_help_file.h"
 #include "quickhelp/quick_help_commands.h"
 #include "quickhelp/quick_help_model.h"
 
@@ -116,6 +117,28 @@ TEST_F(QuickHelpCommandsTest, QuickSearchShowsWhatIsChosen) {
     userChooses = false;
     commands.quickSearch();
     EXPECT_EQ(events, "search ");
+}
+
+TEST(LinkedHelpFile, LiesBesideTheLinkOrIsInstalled) {
+    const InstalledHelp help;
+    help.install("FAR", "Far", {});
+    help.disk.makeDirectory("OTHER");
+    help.disk.put("OTHER\\NEAR.HLP", "");
+    const struct {
+        std::string name;
+        std::optional<std::string> expected;
+    } cases[] = {
+        {"near.hlp", help.disk.path("OTHER\\near.hlp")},
+        {"NEAR", help.disk.path("OTHER\\NEAR.hlp")},
+        {"..\\OTHER\\NEAR.HLP", help.disk.path("OTHER\\NEAR.HLP")},
+        {"far.hlp", help.disk.path("FAR.HLP")},
+        {"GONE.HLP", std::nullopt},
+        {"NUL", std::nullopt},
+        {"", std::nullopt},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FindLinkedHelpFile(c.name, help.disk.path("OTHER\\FROM.HLP"), help.disk.path("vHelp")), c.expected)
+            << c.name;
 }
 
 }  // namespace
