@@ -76,6 +76,7 @@ bool MDIframeCL::adopt(std::unique_ptr<MDIchildCL> child, const WindowClass& win
     }
     if (show == ChildShow::Minimised) ShowWindow(opened.window(), SW_MINIMIZE);
     if (show == ChildShow::Tiled) arrange(Arrangement::Tile);
+    childrenChanged();
     return true;
 }
 

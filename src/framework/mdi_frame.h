@@ -51,7 +51,7 @@ class MDIframeCL : public AppFrameCL {
 
     // Lets what is queued run in the middle of long work; true when the program is about to end.
     virtual bool pumpMessages() { return false; }
-    // A child window has gone, or another one is the active one.
+    // A child window has come or gone.
     virtual void childrenChanged() {}
 
     LRESULT defaultProcedure(const Message& message) override;

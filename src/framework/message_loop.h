@@ -20,6 +20,7 @@ class MessageLoop {
     void processKey(MSG& message);
     // A dialog that is open beside the frame and gets its keys first; null when it closes.
     void setModelessDialog(HWND dialog) { modelessDialog_ = dialog; }
+    HWND modelessDialog() const { return modelessDialog_; }
 
   private:
     // Lets the frame work until a message comes or nothing is left to do.

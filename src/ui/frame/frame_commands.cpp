@@ -1,5 +1,6 @@
-// The keys that the frame carries out itself.
-#include "ui/frame/vexa_frame.h"
+#include "ui/frame/frame_commands.h"
+
+#include "ui/frame/window_commands.h"
 
 namespace vexa {
 namespace {
@@ -13,71 +14,58 @@ KeyEvent KeyEventOf(const MSG& message) {
     return event;
 }
 
+// Has each topic register what it carries out.
+template <class... Topics>
+void RegisterCommandsOf(CommandDispatcher& dispatcher, Topics&... topics) {
+    (topics.registerCommands(dispatcher), ...);
+}
+
+template <class... Topics>
+void RegisterKeysOf(KeyActions& keys, Topics&... topics) {
+    (topics.registerKeys(keys), ...);
+}
+
 }  // namespace
 
-struct FrameKeys {
-    struct Row {
-        FrameAction action;
-        void (VexaFrame::*run)();
-    };
-    static constexpr Row kRows[] = {
-        {FrameAction::ToggleMatchCase, &VexaFrame::toggleMatchCase},
-        {FrameAction::ToggleRegularExpression, &VexaFrame::toggleRegularExpression},
-        {FrameAction::OpenInclude, &VexaFrame::dispatchOpenInclude},
-        {FrameAction::ListFunctions, &VexaFrame::listFunctions},
-        {FrameAction::FindAtCaret, &VexaFrame::findAtCaret},
-        {FrameAction::ResetZoom, &VexaFrame::resetZoom},
-    };
-};
+FrameCommands::FrameCommands(OpenDocuments& documents, Application& application, FrameNotices& notices,
+                             MessageLoop& loop)
+    : documents_(documents),
+      dispatcher_(notices, [this](CommandNeed need) { return isMet(need); }),
+      player_(documents, dispatcher_, keys_),
+      macro_(player_, documents.frame(), notices, loop, application.store),
+      search_(documents, application, notices, loop),
+      files_(documents, application.options),
+      editing_(documents, application.store, notices),
+      textTools_(documents, application, notices),
+      printing_(documents, application, notices, loop),
+      options_(documents, application, notices),
+      help_(documents.frame()) {
+    RegisterCommandsOf(dispatcher_, macro_, search_, files_, editing_, textTools_, printing_, options_, help_);
+    RegisterWindowCommands(dispatcher_, documents.frame());
+    RegisterKeysOf(keys_, search_, textTools_, options_);
+    search_.setFailureListener([this](bool isUserStop) { macro().searchFailed(isUserStop); });
+    dispatcher_.setRecorder([this](CommandId id, CommandOrigin origin) { macro().recordCommand(id, origin); });
+}
 
-// The frame looks at these keys before the system does, which would go to the next window with Ctrl+F6.
-bool VexaFrame::translate(MSG& message) {
-    if (!takesCommands()) return false;  // a dialog has the keys
-    if (macro_.isPlaying() && holdKey(message)) return true;
+bool FrameCommands::isMet(CommandNeed need) const {
+    return need == CommandNeed::Window ? !documents_.frame().children().empty() : documents_.active() != nullptr;
+}
+
+bool FrameCommands::useKey(MSG& message) {
+    if (macro_.holdKey(message)) return true;
     const KeyEvent event = KeyEventOf(message);
     const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
-    if (isKey && searchDialog_ && searchDialog_->useKey(message, event)) return true;
-    if (message.message == WM_KEYDOWN) {
-        const DocumentWindow* active = activeDocument();
-        const bool inText = active && IsChild(active->window(), message.hwnd);
-        if (inText && event.key == kKeyEscape && searchDialog_ && searchDialog_->leave()) return true;
-        if (useFrameKey(event, inText)) {
-            macro_.recordKey(event);
-            return true;
-        }
-    }
-    return MDIframeCL::translate(message);
+    if (isKey && search_.useKey(message, event)) return true;
+    return message.message == WM_KEYDOWN && useFrameKey(message, event);
 }
 
-bool VexaFrame::holdKey(const MSG& message) {
-    const bool stops = message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
-    if (!stops) return heldKeys_.hold(message);
-    macro_.stop();
-    heldKeys_.drop();
+bool FrameCommands::useFrameKey(const MSG& message, const KeyEvent& event) {
+    const DocumentWindow* active = documents_.active();
+    const bool inText = active && IsChild(active->window(), message.hwnd);
+    if (inText && event.key == kKeyEscape && search_.leaveDialog()) return true;
+    if (!keys_.use(event, inText)) return false;
+    macro().recordKey(event);
     return true;
-}
-
-bool VexaFrame::useFrameKey(const KeyEvent& event, bool inText) {
-    const auto action = FrameActionOf(event, inText);
-    if (!action) return false;
-    for (const FrameKeys::Row& row : FrameKeys::kRows) {
-        if (row.action == *action) (this->*row.run)();
-    }
-    return true;
-}
-
-void VexaFrame::toggleMatchCase() {
-    search_.toggleMatchCase();
-    if (searchDialog_) searchDialog_->refreshOptions(application_.searchOptions);
-}
-
-void VexaFrame::toggleRegularExpression() {
-    search_.toggleRegularExpression();
-    if (searchDialog_) searchDialog_->refreshOptions(application_.searchOptions);
-}
-
-void VexaFrame::dispatchOpenInclude() {
-    dispatcher_.Dispatch(CommandId::OpenInclude, CommandOrigin::Step);
 }
 
 }  // namespace vexa

@@ -1,8 +1,9 @@
-// How the frame lets the user print.
+#include "ui/frame/print_commands.h"
+
 #include <windows.h>
 
 #include "base/strings.h"
-#include "ui/frame/vexa_frame.h"
+#include "ui/frame/command_rows.h"
 #include "ui/print/page_setup_dialog.h"
 #include "ui/print/print_job.h"
 
@@ -20,57 +21,66 @@ std::string Now() {
 
 }  // namespace
 
-void VexaFrame::setUpPrinting() {
-    PageSetupDialog dialog(application_.store, application_.printOptions, printer_);
-    dialog.runModal(window());
+void PrintCommands::registerCommands(CommandDispatcher& dispatcher) {
+    static constexpr MethodRow<PrintCommands> kRows[] = {
+        {CommandId::PrintSetup, &PrintCommands::setUp},
+        {CommandId::Print, &PrintCommands::printActive},
+    };
+    RegisterRows(dispatcher, *this, kRows);
 }
 
-void VexaFrame::printDocument() {
-    const TextDocument& document = activeDocument()->document();
+void PrintCommands::setUp() {
+    PageSetupDialog dialog(application_.store, application_.printOptions, printer_);
+    dialog.runModal(documents_.frame().window());
+}
+
+void PrintCommands::printActive() {
+    const TextDocument& document = documents_.active()->document();
     PrintOrder order;
-    switch (printer_.ask(window(), document.marked().active, order)) {
+    switch (printer_.ask(documents_.frame().window(), document.marked().active, order)) {
         case PrinterAnswer::Chosen:
             return print(document, order);
         case PrinterAnswer::Cancelled:
             return;
         case PrinterAnswer::NoPrinter:
-            return tellPrintError(std::string(LoadText(TextId::NoPrinter)));
+            return tellError(std::string(LoadText(TextId::NoPrinter)));
         case PrinterAnswer::Failed:
-            return tellPrintError(std::string(LoadText(TextId::PrinterDoesNotAnswer)));
+            return tellError(std::string(LoadText(TextId::PrinterDoesNotAnswer)));
     }
 }
 
-void VexaFrame::tellPrintError(const std::string& text) {
+void PrintCommands::tellError(const std::string& text) {
     notices_.box(text, kErrorCaption, BoxButtons::Ok);
 }
 
-void VexaFrame::print(const TextDocument& document, const PrintOrder& order) {
+void PrintCommands::print(const TextDocument& document, const PrintOrder& order) {
     const HDC printer = order.printer.get();
     const PrintLook look{application_.font, application_.colours, application_.printOptions};
     const PagePainter painter(printer, PaperOf(printer), look);
-    if (!HasRoomToPrint(painter.grid())) return tellPrintError(std::string(LoadText(TextId::NoRoomToPrint)));
+    if (!HasRoomToPrint(painter.grid())) return tellError(std::string(LoadText(TextId::NoRoomToPrint)));
     const PrintLayout layout(document, {.area = order.area,
                                         .page = painter.grid(),
                                         .options = look.options,
                                         .heading = {document.fullPath(), Now()},
                                         .highlighting = look.colours.isHighlightingOn()});
     PrinterTarget target(printer, document.baseName(), painter, layout);
-    tellPrintResult(runPrintJob(document, layout, PrintSequence(order.pages, layout.pageCount()), target), document);
+    tellResult(runJob(document, layout, PrintSequence(order.pages, layout.pageCount()), target), document);
 }
 
-PrintResult VexaFrame::runPrintJob(const TextDocument& document, const PrintLayout& layout,
-                                   const PrintSequence& sequence, PrintTarget& target) {
+PrintResult PrintCommands::runJob(const TextDocument& document, const PrintLayout& layout,
+                                  const PrintSequence& sequence, PrintTarget& target) {
     if (sequence.count() == 0) return PrintResult::NothingToPrint;
     PrintProgressDialog progress(application_.store, notices_, document.baseName());
     const BusyCursor busy(notices_);
-    if (!progress.open(window())) return PrintResult::Failed;
+    if (!progress.open(documents_.frame().window())) return PrintResult::Failed;
+    const HWND openBefore = loop_.modelessDialog();
     loop_.setModelessDialog(progress.window());
     const PrintResult result = RunPrint(layout, sequence, target, progress);
-    loop_.setModelessDialog(searchDialog_ ? searchDialog_->window() : nullptr);
+    loop_.setModelessDialog(IsWindow(openBefore) ? openBefore : nullptr);
     return result;
 }
 
-void VexaFrame::tellPrintResult(PrintResult result, const TextDocument& document) {
+void PrintCommands::tellResult(PrintResult result, const TextDocument& document) {
     switch (result) {
         case PrintResult::Done:
             return notices_.status(LoadText(TextId::PrintingCompleted), false, false);
@@ -79,7 +89,7 @@ void VexaFrame::tellPrintResult(PrintResult result, const TextDocument& document
         case PrintResult::Cancelled:
             return notices_.status(LoadText(TextId::PrintingCanceled), true, true);
         case PrintResult::Failed:
-            return tellPrintError(FillText(TextId::PrintingFailed, {document.baseName()}));
+            return tellError(FillText(TextId::PrintingFailed, {document.baseName()}));
     }
 }
 

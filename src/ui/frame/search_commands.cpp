@@ -1,42 +1,76 @@
-// How the frame lets the user find and replace.
+#include "ui/frame/search_commands.h"
+
 #include "ui/dialogs/find_dialog.h"
 #include "ui/dialogs/replace_dialog.h"
-#include "ui/frame/vexa_frame.h"
+#include "ui/frame/command_rows.h"
 
 namespace vexa {
 
+void SearchCommands::registerCommands(CommandDispatcher& dispatcher) {
+    static constexpr MethodRow<SearchCommands> kRows[] = {
+        {CommandId::Find, &SearchCommands::openFind},
+        {CommandId::Replace, &SearchCommands::openReplace},
+        {CommandId::FindNext, &SearchCommands::findNext},
+        {CommandId::FindPrevious, &SearchCommands::findPrevious},
+    };
+    RegisterRows(dispatcher, *this, kRows);
+}
+
+void SearchCommands::registerKeys(KeyActions& keys) {
+    static constexpr KeyRow<SearchCommands> kRows[] = {
+        {FrameAction::ToggleMatchCase, &SearchCommands::toggleMatchCase},
+        {FrameAction::ToggleRegularExpression, &SearchCommands::toggleRegularExpression},
+        {FrameAction::FindAtCaret, &SearchCommands::findAtCaret},
+    };
+    RegisterRows(keys, *this, kRows);
+}
+
+bool SearchCommands::useKey(MSG& message, const KeyEvent& event) {
+    return dialog_ && dialog_->useKey(message, event);
+}
+
 template <class Dialog>
-void VexaFrame::openSearchDialog() {
-    if (searchDialog_) searchDialog_->close(false);
-    searchDialog_ = std::make_unique<Dialog>(application_, search_, static_cast<SearchHost&>(*this));
-    if (!searchDialog_->openModeless(window())) return;
-    loop_.setModelessDialog(searchDialog_->window());
-    if (const DocumentWindow* active = activeDocument()) showMatchBesideDialog(*active);
+void SearchCommands::openDialog() {
+    if (dialog_) dialog_->close(false);
+    dialog_ = std::make_unique<Dialog>(application_, commands_, static_cast<SearchHost&>(*this));
+    if (!dialog_->openModeless(documents_.frame().window())) return;
+    loop_.setModelessDialog(dialog_->window());
+    if (const DocumentWindow* active = documents_.active()) showMatchBesideDialog(*active);
 }
 
-void VexaFrame::find() {
-    openSearchDialog<FindDialog>();
+void SearchCommands::openFind() {
+    openDialog<FindDialog>();
 }
 
-void VexaFrame::replace() {
-    openSearchDialog<ReplaceDialog>();
+void SearchCommands::openReplace() {
+    openDialog<ReplaceDialog>();
 }
 
-void VexaFrame::findNext() {
-    search([this](EditView* active) { search_.findNext(active); });
+void SearchCommands::findNext() {
+    search([this](EditView* active) { commands_.findNext(active); });
 }
 
-void VexaFrame::findPrevious() {
-    search([this](EditView* active) { search_.findPrevious(active); });
+void SearchCommands::findPrevious() {
+    search([this](EditView* active) { commands_.findPrevious(active); });
 }
 
-void VexaFrame::findAtCaret() {
-    search([this](EditView* active) { search_.findAtCaret(active); });
+void SearchCommands::findAtCaret() {
+    search([this](EditView* active) { commands_.findAtCaret(active); });
+}
+
+void SearchCommands::toggleMatchCase() {
+    commands_.toggleMatchCase();
+    if (dialog_) dialog_->refreshOptions(application_.searchOptions);
+}
+
+void SearchCommands::toggleRegularExpression() {
+    commands_.toggleRegularExpression();
+    if (dialog_) dialog_->refreshOptions(application_.searchOptions);
 }
 
 // The keyboard stays where it is, so that a dialog that searches can search on.
-void VexaFrame::search(const Search& search) {
-    DocumentWindow* active = activeDocument();
+void SearchCommands::search(const Search& search) {
+    DocumentWindow* active = documents_.active();
     notices_.clearStatus();
     search(active ? &active->view() : nullptr);
     if (!active) return;
@@ -44,11 +78,11 @@ void VexaFrame::search(const Search& search) {
     showMatchBesideDialog(*active);
 }
 
-void VexaFrame::showMatchBesideDialog(const DocumentWindow& active) {
+void SearchCommands::showMatchBesideDialog(const DocumentWindow& active) {
     const SearchOptions& options = application_.searchOptions;
-    if (!searchDialog_ || !options.matchPending() || options.lastMatch.isNone()) return;
+    if (!dialog_ || !options.matchPending() || options.lastMatch.isNone()) return;
     const LastMatch& match = options.lastMatch;
-    searchDialog_->keepClearOf(active.screenPlaceOf(match.line, match.displayStart, match.displayEnd));
+    dialog_->keepClearOf(active.screenPlaceOf(match.line, match.displayStart, match.displayEnd));
 }
 
 }  // namespace vexa

@@ -1,0 +1,75 @@
+#include "ui/frame/frame_bars.h"
+
+#include <algorithm>
+
+#include "ui/frame/status_panes.h"
+#include "ui/frame/tool_buttons.h"
+
+namespace vexa {
+
+FrameBars::FrameBars(EditorOptions& options, std::function<void()> layOut)
+    : options_(options),
+      layOut_(std::move(layOut)),
+      toolBar_(ToolButtons(), ToolPictureStrips(), &ToolTipOf),
+      statusBar_(WidestPaneTexts()) {}
+
+void FrameBars::registerCommands(CommandDispatcher& dispatcher) {
+    dispatcher.RegisterToggle(
+        CommandId::ToggleToolBar, [this](CommandId) { toggleToolBar(); }, [this] { return options_.ToolBar; });
+    dispatcher.RegisterToggle(
+        CommandId::ToggleStatusBar, [this](CommandId) { toggleStatusBar(); }, [this] { return options_.StatusBar; });
+}
+
+bool FrameBars::open(HWND frame) {
+    if (!toolBar_.open(frame) || !statusBar_.open(frame)) return false;
+    toolBar_.show(options_.ToolBar);
+    statusBar_.show(options_.StatusBar);
+    return true;
+}
+
+void FrameBars::toggleToolBar() {
+    options_.ToolBar = !options_.ToolBar;
+    toolBar_.show(options_.ToolBar);
+    layOut_();
+}
+
+void FrameBars::toggleStatusBar() {
+    options_.StatusBar = !options_.StatusBar;
+    statusBar_.show(options_.StatusBar);
+    layOut_();
+}
+
+RECT FrameBars::place(RECT room) {
+    if (options_.ToolBar) {
+        const LONG bottom = std::min<LONG>(toolBar_.height(), room.bottom);
+        toolBar_.place({0, 0, room.right, bottom});
+        room.top = bottom;
+    }
+    if (options_.StatusBar) {
+        const LONG top = std::max<LONG>(room.bottom - statusBar_.height(), room.top);
+        statusBar_.place({0, top, room.right, room.bottom});
+        room.bottom = top;
+    }
+    return room;
+}
+
+void FrameBars::takeSystemSettings() {
+    statusBar_.refreshFont();
+    toolBar_.refreshPictures();
+}
+
+void FrameBars::refreshButtons(const CommandDispatcher& dispatcher) {
+    toolBar_.refreshButtons([&dispatcher](WORD id) {
+        return ItemState{dispatcher.CanRun(CommandId{id}), dispatcher.IsChecked(CommandId{id})};
+    });
+}
+
+void FrameBars::showDocument(const DocumentWindow* window) {
+    ShowDocumentPanes(statusBar_, window);
+}
+
+void FrameBars::showRecording(bool isRecording) {
+    ShowRecordingPane(statusBar_, isRecording);
+}
+
+}  // namespace vexa

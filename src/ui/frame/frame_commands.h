@@ -1,0 +1,47 @@
+// All that the frame's commands and keys end in: the dispatcher, and a class for each topic that registers with it.
+#pragma once
+
+#include "framework/message_loop.h"
+#include "ui/frame/document_commands.h"
+#include "ui/frame/edit_commands.h"
+#include "ui/frame/help_commands.h"
+#include "ui/frame/key_actions.h"
+#include "ui/frame/macro_commands.h"
+#include "ui/frame/macro_player.h"
+#include "ui/frame/option_commands.h"
+#include "ui/frame/print_commands.h"
+#include "ui/frame/search_commands.h"
+#include "ui/frame/text_tools.h"
+
+namespace vexa {
+
+class FrameCommands {
+  public:
+    FrameCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, MessageLoop& loop);
+
+    CommandDispatcher& dispatcher() { return dispatcher_; }
+    const CommandDispatcher& dispatcher() const { return dispatcher_; }
+    KeyMacro& macro() { return macro_.macro(); }
+    void zoom(std::int32_t steps) { options_.zoom(steps); }
+    // Takes a message from the queue if it is a key that the frame carries out itself, or that must wait.
+    bool useKey(MSG& message);
+
+  private:
+    bool isMet(CommandNeed need) const;
+    bool useFrameKey(const MSG& message, const KeyEvent& event);
+
+    OpenDocuments& documents_;
+    CommandDispatcher dispatcher_;
+    KeyActions keys_;
+    MacroPlayer player_;
+    MacroCommands macro_;
+    SearchCommands search_;
+    DocumentCommands files_;
+    EditCommands editing_;
+    TextTools textTools_;
+    PrintCommands printing_;
+    OptionCommands options_;
+    HelpCommands help_;
+};
+
+}  // namespace vexa

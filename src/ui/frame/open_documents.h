@@ -1,0 +1,100 @@
+// The windows inside the frame as documents: which of them is the active one, doing something with each, making and
+// closing them. Other windows inside the frame are passed over.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "framework/drawing_pause.h"
+#include "framework/mdi_frame.h"
+#include "shell/auto_backup.h"
+#include "shell/file_commands.h"
+#include "shell/file_opening.h"
+#include "shell/outside_opens.h"
+#include "ui/document/document_window.h"
+#include "ui/frame/frame_notices.h"
+
+namespace vexa {
+
+// Posted to the frame: files that other programs handed over may now be opened.
+inline constexpr UINT kOpenWaitingMessage = WM_APP + 1;
+
+class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuestions {
+  public:
+    // The host hears from every window that is made here.
+    OpenDocuments(MDIframeCL& frame, DocumentHost& host, Application& application, FrameNotices& notices)
+        : frame_(frame),
+          host_(host),
+          application_(application),
+          notices_(notices),
+          files_(notices, *this, application.profiles),
+          opening_(*this, application.options, notices) {}
+
+    MDIframeCL& frame() const { return frame_; }
+    FileCommands& files() { return files_; }
+    FileOpening& opening() { return opening_; }
+
+    // None when no window is open, or the active one shows no document.
+    DocumentWindow* active() const { return dynamic_cast<DocumentWindow*>(frame_.activeChild()); }
+    template <class Use>
+    void each(Use use) const {
+        for (const auto& child : frame_.children()) {
+            if (auto* window = dynamic_cast<DocumentWindow*>(child.get())) use(*window);
+        }
+    }
+    // Lets an operation work on the edit view of the active document, which must be there, shows what it has done, and
+    // gives the document the keyboard.
+    template <class Operation>
+    void operate(Operation operation) const {
+        DocumentWindow& window = *active();
+        operation(window.view());
+        window.refresh();
+        SetFocus(window.window());
+    }
+    // For opening that many files in a row.
+    DrawingPause pauseFor(std::size_t files) const { return DrawingPause(files > 1 ? frame_.mdiClient() : nullptr); }
+
+    // Take over what has been changed in the application's font, colours, options, or profiles.
+    void refreshFonts();
+    void refreshColours();
+    void refreshOptions();
+    void takeProfilesAnew();
+
+    // Asks about changes that are not saved; false when the window must stay open.
+    bool mayClose(DocumentWindow& window);
+    // Closes all windows, unless the user keeps one of them open.
+    void closeAll();
+    // The same at the end of the program, in the order in which the session remembers them best. True when none is
+    // left.
+    bool closeForExit();
+    // Whether the program is about to end, and its windows are closed for that.
+    bool isClosing() const { return isClosing_; }
+    std::vector<MDIchildCL*> inSessionOrder() const;
+
+    bool activateShowing(const std::string& path, LineIndex line) override;
+    bool openWindow(const std::optional<std::string>& path, LineIndex line) override;
+    void bringToFront() override;
+    void restoreIfMinimised() override;
+    bool isFree() const override { return frame_.takesCommands() && !isClosing_; }
+    void openWaitingSoon() override { PostMessageA(frame_.window(), kOpenWaitingMessage, 0, 0); }
+    bool isBusy() const override { return notices_.isBusy(); }
+    std::vector<TextDocument*> openDocuments() const override;
+
+  private:
+    ChildShow showOfNewWindow() const;
+    std::optional<std::string> askSaveName(const TextDocument& document) override;
+    void nameChanged(const TextDocument& document) override;
+
+    MDIframeCL& frame_;
+    DocumentHost& host_;
+    Application& application_;
+    FrameNotices& notices_;
+    FileCommands files_;
+    FileOpening opening_;
+    bool isClosing_ = false;
+};
+
+}  // namespace vexa

@@ -1,0 +1,58 @@
+// What the editor brings over from one session to the next: its files, its options, its place on the screen.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "shell/command_dispatcher.h"
+#include "shell/command_line.h"
+#include "shell/recent_files.h"
+#include "shell/startup_files.h"
+#include "ui/frame/open_documents.h"
+#include "ui/frame/window_placement.h"
+
+namespace vexa {
+
+class Session {
+  public:
+    Session(OpenDocuments& documents, Application& application, Notices& notices)
+        : documents_(documents),
+          application_(application),
+          notices_(notices),
+          startupFiles_(application.store),
+          placement_(documents.frame()) {}
+
+    void registerCommands(CommandDispatcher& dispatcher);
+    // The menu that shows the recent files; the menu bar owns it.
+    void setFileMenu(HMENU menu) { fileMenu_ = menu; }
+    void restorePlacement(int showCommand);
+    WindowPlacement& placement() { return placement_; }
+    // Opens the files of the last session and then those of the command line.
+    void openFirstFiles(std::span<const FileAtLine> files);
+
+    // Remembers a document whose window is going to be closed.
+    void documentCloses(const TextDocument& document);
+    void save();
+    // Windows is going to end, so the session is noted before the user is asked; and has ended, or goes on.
+    void prepareEnd();
+    void end(bool ends);
+    // The user, or another program, has refused the end.
+    void takeBackEnd() { startupFiles_.takeBack(); }
+
+  private:
+    void openRecentFile(CommandId id);
+    void showRecentFiles();
+    void restoreFile(const std::string& path, std::int32_t line);
+    void recordStartupFile(const TextDocument& document);
+
+    OpenDocuments& documents_;
+    Application& application_;
+    Notices& notices_;
+    RecentFiles recentFiles_;
+    StartupFiles startupFiles_;
+    WindowPlacement placement_;
+    HMENU fileMenu_ = nullptr;
+};
+
+}  // namespace vexa

@@ -1,0 +1,67 @@
+#include "ui/frame/window_placement.h"
+
+#include <windows.h>
+
+#include <vector>
+
+namespace vexa {
+namespace {
+
+ScreenRect ToScreenRect(const RECT& area) {
+    return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+BOOL CALLBACK AddWorkArea(HMONITOR monitor, HDC, RECT*, LPARAM areas) {
+    MONITORINFO details{};
+    details.cbSize = sizeof(details);
+    if (GetMonitorInfoA(monitor, &details)) {
+        reinterpret_cast<std::vector<ScreenRect>*>(areas)->push_back(ToScreenRect(details.rcWork));
+    }
+    return TRUE;
+}
+
+std::vector<ScreenRect> WorkAreas() {
+    std::vector<ScreenRect> areas;
+    EnumDisplayMonitors(nullptr, nullptr, &AddWorkArea, reinterpret_cast<LPARAM>(&areas));
+    return areas;
+}
+
+ScreenRect PlaceOnScreen(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return ToScreenRect(place);
+}
+
+// The ways in which a program can be started, as the frame's states.
+FrameState StateOf(int showCommand) {
+    if (showCommand == SW_SHOWMAXIMIZED) return FrameState::Maximised;
+    const bool isMinimised =
+        showCommand == SW_SHOWMINIMIZED || showCommand == SW_MINIMIZE || showCommand == SW_SHOWMINNOACTIVE;
+    return isMinimised ? FrameState::Minimised : FrameState::Normal;
+}
+
+}  // namespace
+
+// A maximised or minimised frame keeps the rectangle for when it is restored.
+void WindowPlacement::restore(const ConfigStore& store, bool restoreSize, int showCommand) {
+    const HWND frame = frame_.window();
+    placement_ = LoadFramePlacement(store, restoreSize, StateOf(showCommand), PlaceOnScreen(frame));
+    const auto areas = WorkAreas();
+    placement_.normal = KeptOnScreen(placement_.normal, areas);
+    const ScreenRect& place = placement_.normal;
+    MoveWindow(frame, place.x, place.y, place.width, place.height, FALSE);
+    isShown_ = true;
+    ShowWindow(frame, static_cast<int>(placement_.state));
+}
+
+void WindowPlacement::noteSize(UINT kind) {
+    static constexpr FrameState kStates[] = {FrameState::Normal, FrameState::Minimised, FrameState::Maximised};
+    if (isShown_ && kind <= SIZE_MAXIMIZED) placement_.noteSize(kStates[kind], PlaceOnScreen(frame_.window()));
+}
+
+void WindowPlacement::noteMove() {
+    const HWND frame = frame_.window();
+    if (isShown_ && !IsIconic(frame) && !IsZoomed(frame)) placement_.noteMove(PlaceOnScreen(frame));
+}
+
+}  // namespace vexa
