@@ -42,7 +42,6 @@ class CompilerSetup {
     ShowMode display = ShowMode::MinimisedInactive;
 
     const std::string& command() const { return command_; }
-    const std::string& sampleName() const { return sampleName_; }
     const std::string& runFile() const { return runFile_; }
     void setCommand(const SampleCommand& command);
     void setRunFile(std::string_view name);

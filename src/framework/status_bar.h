@@ -46,7 +46,6 @@ class StatusBarCL : public WindowCL {
     void setPane(std::size_t pane, const std::string& text, bool highlighted = false);
     // What a press of the mouse on the pane does, from the time on when the bar is open.
     void setPaneAction(std::size_t pane, std::function<void()> action);
-    std::string paneText(std::size_t pane) const { return panes_[pane]->text(); }
     // In pixels, at the resolution of the frame's monitor.
     int height() const { return height_; }
     // Takes over the font and the resolution in force.

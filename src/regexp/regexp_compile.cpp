@@ -57,10 +57,8 @@ class Parser {
     }
 
     std::optional<Piece> alternatives(int group);
-    std::optional<Piece> moreBranches(int first, unsigned flags);
     std::optional<Piece> branch();
     std::optional<Piece> piece();
-    std::optional<Piece> repetition(char quantifier, const Piece& atom);
     void repeatComplex(char quantifier, int atom);
     std::optional<Piece> atom();
     std::optional<Piece> group();
@@ -68,7 +66,6 @@ class Parser {
     std::optional<Piece> characterClass();
     bool classRange();
     Piece literal();
-    bool literalContinues();
     Piece node(Opcode opcode, unsigned flags) { return {out_.node(opcode), flags}; }
 
     const char* cursor_;

@@ -10,7 +10,7 @@ namespace vexa {
 namespace {
 
 LinePtr Line(const std::string& text) {
-    return LinePtr(new TextLine(nullptr, text));
+    return LinePtr(new TextLine(text));
 }
 
 std::string TextAt(const DynArray& array, std::int32_t i) {

@@ -17,13 +17,13 @@ char* LineArena::allocateText(std::size_t size) {
     return texts_.back().get();
 }
 
-TextLine* LineArena::makeLine(const TextDocument* document, const char* text, std::size_t length) {
+TextLine* LineArena::makeLine(const char* text, std::size_t length) {
     if (records_.empty() || records_.back().used == kRecordsPerBlock) {
         records_.push_back({std::unique_ptr<std::byte[]>(new std::byte[kRecordsPerBlock * sizeof(TextLine)]), 0});
     }
     RecordBlock& block = records_.back();
     void* place = block.memory.get() + block.used++ * sizeof(TextLine);
-    return ::new (place) TextLine(document, text, length, TextLine::InArena{});
+    return ::new (place) TextLine(text, length, TextLine::InArena{});
 }
 
 void LineArena::clear() {

@@ -8,7 +8,6 @@
 namespace vexa {
 
 class TextLine;
-class TextDocument;
 
 class LineArena {
   public:
@@ -20,7 +19,7 @@ class LineArena {
     // Uninitialised bytes that live as long as the arena. Throws std::bad_alloc.
     char* allocateText(std::size_t size);
     // A line over text of the arena, which must be followed by a NUL. Throws std::bad_alloc.
-    TextLine* makeLine(const TextDocument* document, const char* text, std::size_t length);
+    TextLine* makeLine(const char* text, std::size_t length);
     // Frees every block. No line made here may be in use any more.
     void clear();
 

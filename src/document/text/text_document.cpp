@@ -29,7 +29,7 @@ void TextDocument::discardText() {
     marked_ = {};
     bookmarks_ = {};
     currentLine_ = LineIndex(0);
-    modifiedCount_ = 0;
+    clearModified();
     linesWrapped_ = false;
     truncated_ = false;
 }
@@ -93,7 +93,7 @@ WriteOutcome TextDocument::tryWrite(bool withoutCopy) {
     disk_.checksum = outcome.checksum;
     disk_.facts = platform::FactsOf(path_);
     undo_.clear();
-    modifiedCount_ = 0;
+    clearModified();
     clearChangedLines();
     linesWrapped_ = false;
     truncated_ = false;
@@ -133,8 +133,8 @@ TextLine& TextDocument::editableLine(LineIndex index) {
     return *lines_.occupied(index.value);
 }
 
-LinePtr TextDocument::makeLine(std::string_view text) const {
-    return LinePtr(new TextLine(this, text));
+LinePtr TextDocument::makeLine(std::string_view text) {
+    return LinePtr(new TextLine(text));
 }
 
 // ---- cursor ------------------------------------------------------------------------------------------------------

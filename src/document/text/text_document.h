@@ -70,14 +70,12 @@ class TextDocument {
     const std::string& fullPath() const { return path_; }
     const std::string& baseName() const { return baseName_; }
     bool isNamed() const { return named_; }
-    bool isLoaded() const { return loaded_; }
     bool isTruncated() const { return truncated_; }
     bool areLinesWrapped() const { return linesWrapped_; }
     bool isModified() const { return modifiedCount_ != 0; }
     void clearModified() { modifiedCount_ = 0; }
     // Whether a line of a modified document is not as it was loaded or last saved; with every change undone, none is.
     bool isLineChanged(LineIndex index) const;
-    std::int32_t modifiedCount() const { return modifiedCount_; }
     void countChange(std::int32_t step);
 
     // ---- lines ----
@@ -93,7 +91,7 @@ class TextDocument {
     // The line at an index, to be changed (before another one is asked for) or to keep a cursor column; a vacant slot
     // gets a line of its own first.
     TextLine& editableLine(LineIndex index);
-    LinePtr makeLine(std::string_view text) const;
+    static LinePtr makeLine(std::string_view text);
     DynArray& lines() { return lines_; }
     const DynArray& lines() const { return lines_; }
 
@@ -123,8 +121,6 @@ class TextDocument {
     const MarkedArea& marked() const { return marked_; }
     UndoHistory& undo() { return undo_; }
     const UndoHistory& undo() const { return undo_; }
-    bool inUndo() const { return inUndo_; }
-    void setInUndo(bool inUndo) { inUndo_ = inUndo; }
 
     // ---- bookmarks and backup ----
 
@@ -161,7 +157,6 @@ class TextDocument {
     std::int32_t modifiedCount_ = 0;
     bool loaded_ = false;
     bool named_ = false;
-    bool inUndo_ = false;
     bool linesWrapped_ = false;
     bool truncated_ = false;
 };

@@ -4,8 +4,6 @@
 #include <cstring>
 #include <utility>
 
-#include "document/text/text_document.h"
-
 namespace vexa {
 
 namespace {
@@ -31,7 +29,7 @@ std::size_t Offset(CharColumn column) {
 
 }  // namespace
 
-TextLine::TextLine(const TextDocument* document, std::string_view text) : document_(document) {
+TextLine::TextLine(std::string_view text) {
     if (text.empty()) return;
     // No room to type into until someone does: a pasted block may have many lines.
     char* own = NewText(text.size());
@@ -110,16 +108,6 @@ void TextLine::truncate(CharColumn column) {
     char* text = makeRoom(length_);
     length_ = static_cast<std::uint32_t>(Offset(column));
     text[length_] = '\0';
-}
-
-std::string_view TextLine::commentStart() const {
-    const ExtensionProfile* profile = document_ ? document_->profile() : nullptr;
-    return profile ? std::string_view(profile->commentStart()) : std::string_view();
-}
-
-std::string_view TextLine::commentEnd() const {
-    const ExtensionProfile* profile = document_ ? document_->profile() : nullptr;
-    return profile ? std::string_view(profile->commentEnd()) : std::string_view();
 }
 
 void LineDeleter::operator()(TextLine* line) const {

@@ -10,8 +10,6 @@
 
 namespace vexa {
 
-class TextDocument;
-
 // A line's text is either borrowed from the block that its file was read into, or, from its first change on, its own
 // with room to type into. Most lines are never changed, and a reserve that is never made costs neither time nor memory.
 // The text may hold any bytes and is always followed by a NUL.
@@ -24,13 +22,9 @@ class TextLine {
     static constexpr std::size_t kReserve = 302;
 
     TextLine() = default;
-    TextLine(const TextDocument* document, std::string_view text);
-    TextLine(const TextDocument* document, const char* text, std::size_t length, InArena)
-        : text_(text),
-          document_(document),
-          length_(static_cast<std::uint32_t>(length)),
-          recordInArena_(true),
-          isChanged_(false) {}
+    explicit TextLine(std::string_view text);
+    TextLine(const char* text, std::size_t length, InArena)
+        : text_(text), length_(static_cast<std::uint32_t>(length)), recordInArena_(true), isChanged_(false) {}
     ~TextLine();
     TextLine(const TextLine&) = delete;
     TextLine& operator=(const TextLine&) = delete;
@@ -56,17 +50,11 @@ class TextLine {
     // Takes a column within the limits of the cursor (0 to kLastColumn).
     void setColumn(CharColumn column) { column_ = static_cast<std::uint16_t>(column.value); }
 
-    const TextDocument* document() const { return document_; }
-    // The comment markers of the document's profile; empty without a document or profile.
-    std::string_view commentStart() const;
-    std::string_view commentEnd() const;
-
     // The state that syntax colouring keeps with a line; all clear at first. The line opens a block comment when,
     // starting outside, it ends inside one; it closes one when, starting inside, it ends outside.
     bool opensComment = false;
     bool closesComment = false;
     bool commentEffectKnown = false;  // the two above are those of the present text; any change of it clears this
-    bool needsRepaint = false;
 
   private:
     friend struct LineDeleter;
@@ -74,7 +62,6 @@ class TextLine {
     std::size_t capacity() const;
 
     const char* text_ = "";
-    const TextDocument* document_ = nullptr;
     std::uint32_t length_ = 0;
     std::uint16_t column_ = 0;
     bool ownsText_ : 1 = false;

@@ -137,7 +137,7 @@ void TextLoader::storeSplit(const Cut& cut) {
 }
 
 void TextLoader::store(const char* text, std::size_t length) {
-    document_.lines().put(LinePtr(arena_.makeLine(&document_, text, length)), lines_++);
+    document_.lines().put(LinePtr(arena_.makeLine(text, length)), lines_++);
 }
 
 }  // namespace vexa

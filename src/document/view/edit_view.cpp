@@ -71,7 +71,6 @@ void EditView::moveBy(ViewAction movement) {
 }
 
 bool EditView::takeBack(bool (UndoHistory::*step)(), TextId refusal) {
-    document().setInUndo(true);
     const bool done = (document().undo().*step)();
     if (done) {
         editing_.marker.stopExtending();
@@ -79,7 +78,6 @@ bool EditView::takeBack(bool (UndoHistory::*step)(), TextId refusal) {
     } else {
         editing_.notices.status(LoadText(refusal), true, true);
     }
-    document().setInUndo(false);
     return done;
 }
 

@@ -26,7 +26,6 @@ class Marker {
     void markAll();
     void clear();
     bool isActive() const { return document_.marked().active; }
-    bool isExtending() const { return extending_; }
     void stopExtending() { extending_ = false; }
 
     // Deletes what is marked and takes the marking away. The cursor ends on the area's first line. False without a
