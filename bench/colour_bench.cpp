@@ -92,7 +92,7 @@ struct ColouredSession : Session {
         type('*');
     }
     void takeAllBack() {
-        while (!document.undo().isEmpty())
+        while (!document.history().isEmpty())
             view.undo();
     }
     void paint() {
@@ -105,7 +105,7 @@ struct ColouredSession : Session {
 void CommentsOfWholeText(benchmark::State& state) {
     Disk disk;
     ColouredSession session;
-    const std::int32_t last = session.document.lineCount(LastUsed::Text);
+    const std::int32_t last = session.document.lastLine(LastUsed::Text);
     for (auto _ : state) {
         state.PauseTiming();
         session.document.setProfile(session.profile);
@@ -149,7 +149,7 @@ BENCHMARK(OpenCommentOnTopAndLookAtEnd)->Name("comment_on_top_seen_at_end/C/vexa
 void ScrollThroughTextAndPaint(benchmark::State& state) {
     Disk disk;
     ColouredSession session;
-    const LineIndex last(session.document.lineCount(LastUsed::Text) - kRows);
+    const LineIndex last(session.document.lastLine(LastUsed::Text) - kRows);
     for (auto _ : state) {
         if (session.view.topLine() >= last) session.view.scrollToLine(LineIndex(0));
         session.view.scrollBy(1);
@@ -190,7 +190,7 @@ void CutAndPasteThousandLines(benchmark::State& state) {
         session.view.paste();
         state.PauseTiming();
         session.takeAllBack();
-        session.document.undo().clear();
+        session.document.history().clear();
         state.ResumeTiming();
     }
 }

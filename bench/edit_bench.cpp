@@ -44,11 +44,11 @@ void LineInAndOutByKeys(benchmark::State& state) {
         session.view.key(deletion);
         if (++times % kTimesPerHistory == 0) {
             state.PauseTiming();
-            session.document.undo().clear();
+            session.document.history().clear();
             state.ResumeTiming();
         }
     }
-    if (session.document.lineCount(LastUsed::Plain) + 1 != kLinesOfC) state.SkipWithError("lines were left");
+    if (session.document.lastLine(LastUsed::Plain) + 1 != kLinesOfC) state.SkipWithError("lines were left");
 }
 
 // The floor of a plain array: every pointer behind the place moves, there and back.
@@ -81,7 +81,7 @@ void Type(benchmark::State& state, Session& session, LineIndex line) {
         state.PauseTiming();
         for (int i = 0; i < kTypedCharacters; ++i)
             session.view.undo();
-        session.document.undo().clear();
+        session.document.history().clear();
         state.ResumeTiming();
     }
     state.SetItemsProcessed(state.iterations() * kTypedCharacters);

@@ -60,7 +60,7 @@ class OffScreenBitmap {
     int height_ = 0;
 };
 
-// Fills a rectangle with one colour, whatever brushes there are.
+// Fills a rectangle with one colour without creating a brush.
 void FillColour(HDC dc, const RECT& area, COLORREF colour);
 
 TEXTMETRICA MetricsOf(HWND window, HFONT font);

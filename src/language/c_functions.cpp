@@ -17,7 +17,7 @@ constexpr std::string_view kNoNames[] = {
     "requires",      "return",     "short",    "signed", "sizeof", "static_assert", "switch",
     "throw",         "typeof",     "unsigned", "using",  "void",   "while"};
 constexpr std::string_view kTypeWords[] = {"class", "enum", "interface", "namespace", "struct", "union"};
-// Words that no function has behind its parameters: what was before them was a macro without a semicolon.
+// Words that no function has after its parameters: what was before them was a macro without a semicolon.
 constexpr std::string_view kStarts[] = {"class",  "enum",     "extern",  "inline", "namespace", "static",
                                         "struct", "template", "typedef", "union",  "using"};
 constexpr std::string_view kExpressionWords[] = {"case", "delete", "goto", "new", "return", "typedef", "using"};
@@ -44,7 +44,7 @@ std::size_t EndOfWord(std::string_view text, std::size_t at) {
     return at;
 }
 
-// A quote inside a number parts its digits.
+// 1'000: a quote separates digits.
 std::size_t EndOfNumber(std::string_view text, std::size_t at) {
     while (at < text.size() && (IsWordPart(text[at]) || text[at] == '.' || text[at] == '\''))
         ++at;
@@ -59,7 +59,7 @@ std::size_t EndOfQuoted(std::string_view text, std::size_t at) {
     return std::min(at + 1, text.size());
 }
 
-// The name of an operator may be made of any signs, also of a pair of parentheses.
+// The name of an operator may be made of any characters, also of a pair of parentheses.
 std::size_t EndOfOperator(std::string_view text, std::size_t at) {
     const std::size_t first = std::min(text.find_first_not_of(" \t", at), text.size());
     const bool isCall = text.substr(first).starts_with("()");
@@ -69,13 +69,13 @@ std::size_t EndOfOperator(std::string_view text, std::size_t at) {
 
 }  // namespace
 
-struct CFunctionScanner::Sign {
-    char sign;
+struct CFunctionScanner::Character {
+    char character;
     void (CFunctionScanner::*take)();
     bool insideParentheses;
 };
 
-const CFunctionScanner::Sign CFunctionScanner::kSigns[] = {
+const CFunctionScanner::Character CFunctionScanner::kCharacters[] = {
     {'(', &CFunctionScanner::openParenthesis, true}, {')', &CFunctionScanner::closeParenthesis, true},
     {'{', &CFunctionScanner::openBrace, true},       {'}', &CFunctionScanner::closeBrace, true},
     {';', &CFunctionScanner::semicolon, false},      {':', &CFunctionScanner::colon, false},
@@ -99,7 +99,7 @@ void CFunctionScanner::addLine(std::string_view text) {
         } else if (IsWordStart(text[at])) {
             at = ignored ? EndOfWord(text, at) : takeWord(text, at);
         } else {
-            if (!ignored) takeSign(text, at);
+            if (!ignored) takeCharacter(text, at);
             ++at;
         }
     }
@@ -138,10 +138,10 @@ std::size_t CFunctionScanner::takeWord(std::string_view text, std::size_t at) {
     if (skippedBraces_ > 0 || statement_.parentheses > 0) return end;
     const std::string_view word = text.substr(at, end - at);
     if (word == "operator") end = EndOfOperator(text, end);
-    if (statement_.stage == Stage::BehindParameters && IsIn(kStarts, word)) begin();
+    if (statement_.stage == Stage::AfterParameters && IsIn(kStarts, word)) begin();
     beginAt(at);
-    place_ = {line_, begin_, end};
-    // Behind the parameters stand macros that say more of the function.
+    position_ = {line_, begin_, end};
+    // After the parameters stand macros that say more of the function.
     const bool isMacro = statement_.function && std::ranges::equal(word, word, {}, UpperAscii);
     last_ = {'\0', !isMacro && !IsIn(kNoNames, word)};
     noteWord(word);
@@ -156,14 +156,14 @@ void CFunctionScanner::noteWord(std::string_view word) {
         statement_.isType |= canBeType && IsIn(kTypeWords, word);
         statement_.isScope |= canBeType && word == "namespace";
         statement_.isExpression |= IsIn(kExpressionWords, word);
-    } else if (statement_.stage == Stage::BehindParameters) {
+    } else if (statement_.stage == Stage::AfterParameters) {
         statement_.hasTrailingWord |= !IsIn(kFunctionEnds, word);
     }
 }
 
-// ---- signs -------------------------------------------------------------------------------------------------------
+// ---- characters --------------------------------------------------------------------------------------------------
 
-void CFunctionScanner::takeSign(std::string_view text, std::size_t at) {
+void CFunctionScanner::takeCharacter(std::string_view text, std::size_t at) {
     const char c = text[at];
     if (skippedBraces_ > 0) {
         if (c == '{') ++skippedBraces_;
@@ -172,22 +172,22 @@ void CFunctionScanner::takeSign(std::string_view text, std::size_t at) {
     }
     if (c == '}' && at == 0) return begin();
     if (statement_.parentheses == 0) beginAt(at);
-    const bool isScope = c == ':' && (text.substr(at).starts_with("::") || last_.sign == ':');
-    const auto* const row = std::ranges::find(kSigns, c, &Sign::sign);
-    const bool means = row != std::end(kSigns) && (row->insideParentheses || statement_.parentheses == 0);
-    const char before = last_.sign;
+    const bool isScope = c == ':' && (text.substr(at).starts_with("::") || last_.character == ':');
+    const auto* const row = std::ranges::find(kCharacters, c, &Character::character);
+    const bool means = row != std::end(kCharacters) && (row->insideParentheses || statement_.parentheses == 0);
+    const char before = last_.character;
     if (means && !isScope) (this->*row->take)();
     // An arrow closes no angle.
     if (statement_.parentheses == 0) last_ = {c, c == '>' && before != '-' && statement_.words > 1};
-    if (last_.isName) place_ = {line_, begin_, at + 1};
+    if (last_.isName) position_ = {line_, begin_, at + 1};
 }
 
 void CFunctionScanner::openParenthesis() {
     if (statement_.parentheses++ > 0) return;
-    statement_.behindParentheses = statement_.stage;
+    statement_.afterParentheses = statement_.stage;
     if (last_.isName && statement_.stage != Stage::Initialisers && statement_.angles == 0) {
-        statement_.behindParentheses = Stage::BehindParameters;
-        statement_.function = place_;
+        statement_.afterParentheses = Stage::AfterParameters;
+        statement_.function = position_;
         statement_.hasTrailingWord = false;
     }
     statement_.stage = Stage::Parentheses;
@@ -195,7 +195,7 @@ void CFunctionScanner::openParenthesis() {
 
 void CFunctionScanner::closeParenthesis() {
     if (statement_.parentheses == 0 || --statement_.parentheses > 0) return;
-    statement_.stage = statement_.behindParentheses;
+    statement_.stage = statement_.afterParentheses;
 }
 
 bool CFunctionScanner::isDefinition() const {
@@ -205,7 +205,7 @@ bool CFunctionScanner::isDefinition() const {
 
 // A brace opens a function's body, a list that is passed over, or a scope that may hold functions.
 void CFunctionScanner::openBrace() {
-    const bool isList = statement_.stage == Stage::Initialisers && last_.sign != ')' && last_.sign != '}';
+    const bool isList = statement_.stage == Stage::Initialisers && last_.character != ')' && last_.character != '}';
     if (statement_.parentheses > 0 || isList) {
         skippedBraces_ = 1;
         return;
@@ -227,9 +227,9 @@ void CFunctionScanner::closeBrace() {
     begin();
 }
 
-// Behind the parameters a constructor's initialisers begin, behind a class its bases; elsewhere a colon ends a label.
+// After the parameters a constructor's initialisers begin, after a class its bases; elsewhere a colon ends a label.
 void CFunctionScanner::colon() {
-    if (statement_.stage == Stage::BehindParameters) {
+    if (statement_.stage == Stage::AfterParameters) {
         statement_.stage = Stage::Initialisers;
     } else if (statement_.isType) {
         statement_.isScope = true;
@@ -240,7 +240,7 @@ void CFunctionScanner::colon() {
 
 // Declarations of several things in one statement.
 void CFunctionScanner::comma() {
-    if (statement_.stage != Stage::BehindParameters) return;
+    if (statement_.stage != Stage::AfterParameters) return;
     statement_.function.reset();
     statement_.stage = Stage::Head;
 }

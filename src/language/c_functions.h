@@ -11,7 +11,7 @@ namespace vexa {
 
 // Where a function's name stands, with what is before it of its statement in the same line: the characters from begin
 // up to end.
-struct FunctionPlace {
+struct FunctionPosition {
     std::int32_t line;
     std::size_t begin;
     std::size_t end;
@@ -26,38 +26,38 @@ struct FunctionPlace {
 class CFunctionScanner {
   public:
     void addLine(std::string_view text);
-    const std::vector<FunctionPlace>& found() const { return found_; }
+    const std::vector<FunctionPosition>& found() const { return found_; }
 
   private:
-    enum class Stage { Head, Parentheses, BehindParameters, Initialisers };
+    enum class Stage { Head, Parentheses, AfterParameters, Initialisers };
 
     // What has been read since the last semicolon or brace.
     struct Statement {
         Stage stage = Stage::Head;
-        Stage behindParentheses = Stage::Head;
-        int parentheses = 0;                    // open ones
-        int angles = 0;                         // open "<" of a template's parameters
-        int words = 0;                          // outside parentheses
-        std::optional<FunctionPlace> function;  // the last name with parameters
-        bool isType = false;                    // it begins as a class or a namespace does
-        bool isScope = false;                   // nothing but a class or a namespace
+        Stage afterParentheses = Stage::Head;
+        int parentheses = 0;                       // open ones
+        int angles = 0;                            // open "<" of a template's parameters
+        int words = 0;                             // outside parentheses
+        std::optional<FunctionPosition> function;  // the last name with parameters
+        bool isType = false;                       // it begins as a class or a namespace does
+        bool isScope = false;                      // nothing but a class or a namespace
         bool isTemplate = false;
         bool isExpression = false;     // nothing that can define a function
-        bool hasTrailingWord = false;  // a word behind the parameters that is none of a function's
+        bool hasTrailingWord = false;  // a word after the parameters that is none of a function's
     };
-    // The last word or sign, a sign being its character.
+    // The last word or other character.
     struct Token {
-        char sign = '\0';  // for a word too
+        char character = '\0';  // for a word too
         bool isName = false;
     };
-    struct Sign;  // the table of signs that mean something
+    struct Character;  // a row of the table of characters that mean something
 
     bool isPreprocessor(std::string_view text);
     std::size_t passOver(std::string_view text, std::size_t at);
     std::size_t passComment(std::string_view text, std::size_t at);
     std::size_t takeWord(std::string_view text, std::size_t at);
     void noteWord(std::string_view word);
-    void takeSign(std::string_view text, std::size_t at);
+    void takeCharacter(std::string_view text, std::size_t at);
 
     void openParenthesis();
     void closeParenthesis();
@@ -76,13 +76,13 @@ class CFunctionScanner {
     void begin();
     void beginAt(std::size_t at);
 
-    static const Sign kSigns[];
+    static const Character kCharacters[];
 
-    std::vector<FunctionPlace> found_;
+    std::vector<FunctionPosition> found_;
     Statement statement_;
     Token last_;
-    FunctionPlace place_{};  // of the last word outside parentheses
-    std::size_t begin_ = 0;  // where the statement begins in this line, once it has
+    FunctionPosition position_{};  // of the last word outside parentheses
+    std::size_t begin_ = 0;        // where the statement begins in this line, once it has
     bool hasBegun_ = false;
     std::int32_t line_ = -1;
     int skippedBraces_ = 0;  // open ones of what is passed over

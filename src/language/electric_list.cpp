@@ -72,15 +72,15 @@ std::string_view ElectricKeywordOf(std::string_view text) {
     return text.substr(0, static_cast<std::size_t>(end - text.begin())).substr(0, kElectricKeywordLimit);
 }
 
-std::size_t ElectricList::placeOf(std::string_view keyword) const {
-    const auto place = std::ranges::lower_bound(entries_, keyword, {}, &ElectricEntry::keyword);
-    return static_cast<std::size_t>(place - entries_.begin());
+std::size_t ElectricList::positionOf(std::string_view keyword) const {
+    const auto position = std::ranges::lower_bound(entries_, keyword, {}, &ElectricEntry::keyword);
+    return static_cast<std::size_t>(position - entries_.begin());
 }
 
 std::optional<std::size_t> ElectricList::find(std::string_view keyword) const {
-    const std::size_t place = placeOf(keyword);
-    if (place == entries_.size() || entries_[place].keyword != keyword) return std::nullopt;
-    return place;
+    const std::size_t position = positionOf(keyword);
+    if (position == entries_.size() || entries_[position].keyword != keyword) return std::nullopt;
+    return position;
 }
 
 ElectricSet ElectricList::set(std::string_view keyword, std::string_view expansion) {
@@ -92,8 +92,8 @@ ElectricSet ElectricList::set(std::string_view keyword, std::string_view expansi
         return ElectricSet::Done;
     }
     if (entries_.size() >= kElectricEntryLimit) return ElectricSet::Full;
-    const std::size_t place = placeOf(entry.keyword);
-    entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(place), std::move(entry));
+    const std::size_t position = positionOf(entry.keyword);
+    entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(position), std::move(entry));
     return ElectricSet::Done;
 }
 

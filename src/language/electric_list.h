@@ -1,4 +1,4 @@
-// The electric words: keywords, each with the text that takes its place when a blank is typed behind it, and their
+// The electric words: keywords, each with the text that replaces it when a blank is typed after it, and their
 // file.
 #pragma once
 
@@ -33,7 +33,7 @@ class ElectricList {
   public:
     const std::vector<ElectricEntry>& entries() const { return entries_; }
     // Adds an entry or gives the keyword a new expansion. Line ends, tabs and other control characters of the expansion
-    // become \n, \t and blanks; blanks at its end, which the file cannot hold, are kept by a \c behind them. What goes
+    // become \n, \t and blanks; blanks at its end, which the file cannot hold, are kept by a \c after them. What goes
     // beyond the limit is cut off.
     ElectricSet set(std::string_view keyword, std::string_view expansion);
     // False when there is no such keyword.
@@ -44,7 +44,7 @@ class ElectricList {
     bool operator==(const ElectricList&) const = default;
 
   private:
-    std::size_t placeOf(std::string_view keyword) const;
+    std::size_t positionOf(std::string_view keyword) const;
 
     std::vector<ElectricEntry> entries_;
 };

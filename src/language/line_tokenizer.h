@@ -30,7 +30,7 @@ struct Token {
 // The element in whose colour the tokens of a kind are painted.
 ColourElement ColourOfKind(TokenKind kind);
 
-// The tokens of a line follow each other without a gap. A byte 0 in the text ends the line; what stands behind it
+// The tokens of a line follow each other without a gap. A byte 0 in the text ends the line; what comes after it
 // belongs to no token. There are no escape characters: a backslash before a quote does not keep the string open.
 // The rules and the text must outlive the tokenizer.
 class LineTokenizer {

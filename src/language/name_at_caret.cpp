@@ -24,7 +24,7 @@ std::size_t EndOfDigits(std::string_view text, std::size_t at) {
     return at;
 }
 
-// ---- a line number behind a name -----------------------------------------------------------------------------------
+// ---- a line number after a name -----------------------------------------------------------------------------------
 
 // The length of "(12)" or "(12,3)" at the start of a text; 0 for any other text.
 std::size_t LengthOfLineInParentheses(std::string_view text) {
@@ -38,9 +38,9 @@ std::size_t LengthOfLineInParentheses(std::string_view text) {
 bool TakeParentheses(NamedPlace& place) {
     const std::size_t open = place.name.rfind('(');
     if (open == std::string::npos || open == 0) return false;
-    const std::string_view behind = std::string_view(place.name).substr(open);
-    if (LengthOfLineInParentheses(behind) != behind.size()) return false;
-    place.line = LeadingInteger(behind.substr(1));
+    const std::string_view rest = std::string_view(place.name).substr(open);
+    if (LengthOfLineInParentheses(rest) != rest.size()) return false;
+    place.line = LeadingInteger(rest.substr(1));
     place.name.resize(open);
     return true;
 }
@@ -62,7 +62,8 @@ void AddName(std::vector<NamedPlace>& names, std::string_view text) {
     if (!place.name.empty() && std::ranges::find(names, place) == names.end()) names.push_back(place);
 }
 
-// ---- the places of names -------------------------------------------------------------------------------------------
+// ---- the positions of names
+// ------------------------------------------------------------------------------------------
 
 std::string_view TextAfter(std::string_view text, std::string_view word) {
     return text.starts_with(word) ? TrimBlanks(text.substr(word.size())) : std::string_view();

@@ -10,7 +10,7 @@
 
 namespace vexa {
 
-// What is marked within the caret's line, else the word that the caret stands in or just behind; none when there is
+// What is marked within the caret's line, else the word that the caret stands in or just after; none when there is
 // neither.
 std::optional<CharSpan> SpanAtCaret(const TextDocument& document);
 // The find text that finds the given one and nothing else; of a long one, as much of its start as a find text holds.

@@ -5,6 +5,7 @@
 
 #include "document/text/cursor_actions.h"
 #include "document/text/run_actions.h"
+#include "document/text/text_position.h"
 #include "search/line_search.h"
 
 namespace vexa {
@@ -24,11 +25,6 @@ std::string_view DelimitersOf(const TextDocument& document) {
     const ExtensionProfile* profile = document.profile();
     return profile ? std::string_view(profile->delimiters()) : std::string_view();
 }
-
-struct TextPosition {
-    LineIndex line;
-    CharColumn column;
-};
 
 struct DocumentMatch {
     LineIndex line;
@@ -87,7 +83,7 @@ TextPosition SearchRun::start() const {
 
 std::optional<DocumentMatch> SearchRun::findFrom(TextPosition start) {
     const std::int32_t step = options_.forward() ? 1 : -1;
-    const LineIndex last = options_.forward() ? LineIndex(document_.lineCount(LastUsed::Text)) : start.line;
+    const LineIndex last = options_.forward() ? LineIndex(document_.lastLine(LastUsed::Text)) : start.line;
     const DynArray& lines = document_.lines();
     CharColumn from = start.column;
     for (LineIndex line = start.line; line.value >= 0 && line <= last; line += step) {

@@ -17,8 +17,8 @@ bool Contains(std::string_view text, std::string_view part) {
 
 FunctionListModel::FunctionListModel(std::vector<FunctionEntry> functions, LineIndex line)
     : functions_(std::move(functions)) {
-    const auto behind = std::ranges::upper_bound(functions_, line, {}, &FunctionEntry::line);
-    if (behind != functions_.begin()) chosen_ = static_cast<std::size_t>(behind - functions_.begin()) - 1;
+    const auto after = std::ranges::upper_bound(functions_, line, {}, &FunctionEntry::line);
+    if (after != functions_.begin()) chosen_ = static_cast<std::size_t>(after - functions_.begin()) - 1;
     setFilter({});
 }
 

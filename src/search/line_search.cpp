@@ -31,17 +31,16 @@ std::optional<LineMatch> LineSearch::find(std::string_view text, CharColumn from
 }
 
 bool LineSearch::findPlain(std::string_view subject, LineMatch& match) const {
-    const char* place = plain_.find(subject);
-    if (place == nullptr) return false;
-    const auto at = static_cast<std::size_t>(place - subject.data());
+    const char* found = plain_.find(subject);
+    if (found == nullptr) return false;
+    const auto at = static_cast<std::size_t>(found - subject.data());
     match = {CharColumn(static_cast<std::int32_t>(at)), static_cast<std::int32_t>(text_.size())};
     return !wholeWord_ || isWholeWord(subject, at);
 }
 
 bool LineSearch::isWholeWord(std::string_view subject, std::size_t at) const {
-    const std::string_view behind = subject.substr(at + text_.size());
-    const bool ends =
-        behind.empty() || IsBlank(behind.front()) || delimiters_.find(behind.front()) != std::string::npos;
+    const std::string_view rest = subject.substr(at + text_.size());
+    const bool ends = rest.empty() || IsBlank(rest.front()) || delimiters_.find(rest.front()) != std::string::npos;
     return ends && (at == 0 || IsBlank(subject[at - 1]));
 }
 

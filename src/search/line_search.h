@@ -26,13 +26,13 @@ struct LineMatch {
 // found nowhere.
 //
 // A whole word is looked for at the first occurrence alone: where that is part of a longer word, the line has no match.
-// Behind the word the delimiters of the document's profile count as a word's end, before it only blanks and tabs do.
+// After the word the delimiters of the document's profile count as a word's end, before it only blanks and tabs do.
 class LineSearch {
   public:
     // The characters, beside blanks and tabs, that may follow a whole word.
     LineSearch(const SearchOptions& options, std::string_view delimiters);
 
-    // The first match at or behind a column; none where the text ends before it. A NUL must follow the text.
+    // The first match at or after a column; none where the text ends before it. A NUL must follow the text.
     std::optional<LineMatch> find(std::string_view text, CharColumn from);
     // The first match of a regular expression that begins after a column of the text, with what stands at that column
     // seen as part of the line: neither "^" nor the start of a word are found where they are not.

@@ -35,7 +35,7 @@ struct HandOffDecision {
 };
 
 // One file, or one file and a line, goes to a running editor; everything else, and every name with "*" or "?", takes an
-// editor of its own. Whether one runs is another question.
+// editor of its own. Does not check whether an editor is running.
 HandOffDecision ShouldHandOff(std::string_view commandLine, std::span<const std::string> arguments);
 
 // Hands the file that the whole command line names over; true when the running editor has been told. A line is cut off

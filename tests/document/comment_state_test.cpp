@@ -47,7 +47,7 @@ class CommentLines : public testing::Test {
     }
     bool inside(int line) { return document_.startsInComment(LineIndex(line)); }
     void expectFresh(const std::string& when) {
-        const std::int32_t lines = document_.lineCount(LastUsed::Plain) + 3;
+        const std::int32_t lines = document_.lastLine(LastUsed::Plain) + 3;
         const std::vector<bool> fresh = FreshStates(document_, profile_, lines);
         for (std::int32_t i = 0; i < lines; ++i)
             ASSERT_EQ(inside(i), fresh[static_cast<std::size_t>(i)]) << "line " << i << " " << when;
@@ -161,7 +161,7 @@ class RandomEdits {
         } else if (choice < 4) {
             view_.redo();
         } else if (choice < 6) {
-            const auto last = static_cast<unsigned>(view_.document().lineCount(LastUsed::Plain)) + 2;
+            const auto last = static_cast<unsigned>(view_.document().lastLine(LastUsed::Plain)) + 2;
             view_.goTo(LineIndex(static_cast<std::int32_t>(random_() % last)),
                        CharColumn(static_cast<std::int32_t>(random_() % 6)));
         } else if (choice < 11) {
@@ -206,7 +206,7 @@ TEST_P(CommentProperty, ColoursAreThoseOfAFreshLoad) {
         if (step % 25 == 0) expectFresh("at step " + std::to_string(step));
         if (HasFatalFailure()) return;
     }
-    while (!document_.undo().isEmpty())
+    while (!document_.history().isEmpty())
         view_.undo();
     expectFresh("when everything is undone");
 }

@@ -59,7 +59,7 @@ TEST_F(JumpModels, ARefusedJumpTellsWhyAndChangesNothing) {
         EXPECT_EQ(notices_.statuses.back(), (StatusNotice{"Vexa only supports bookmarks '0' thru '9'.", true, true}));
     }
     EXPECT_EQ(store_.ReadString("Bookmark", "Number", "none", 50), "none");
-    EXPECT_TRUE(document_.undo().isEmpty());
+    EXPECT_TRUE(document_.history().isEmpty());
 }
 
 TEST_F(JumpModels, DroppingTellsTheNumber) {

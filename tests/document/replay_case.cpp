@@ -147,7 +147,7 @@ void PressAll(EditView& view, MemoryClipboard& clipboard, const std::string& key
 // The number of commands that were undone.
 int UndoAll(EditView& view) {
     int commands = 0;
-    for (; !view.document().undo().isEmpty(); ++commands)
+    for (; !view.document().history().isEmpty(); ++commands)
         view.undo();
     return commands;
 }

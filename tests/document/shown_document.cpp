@@ -105,7 +105,7 @@ std::vector<Inserted> SignsOf(const TextDocument& document, LineIndex line) {
 }  // namespace
 
 std::vector<std::string> ShowDocument(const TextDocument& document) {
-    std::int32_t last = std::max(document.lineCount(LastUsed::Text), document.currentLine().value);
+    std::int32_t last = std::max(document.lastLine(LastUsed::Text), document.currentLine().value);
     if (document.marked().active) last = std::max(last, document.marked().end.line.value);
     std::vector<std::string> lines;
     for (LineIndex line; line.value <= last; ++line)

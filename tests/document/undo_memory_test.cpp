@@ -23,13 +23,13 @@ struct Session {
     }
     std::string text() const {
         std::string all;
-        for (std::int32_t i = 0; i <= document.lineCount(LastUsed::Text); ++i)
+        for (std::int32_t i = 0; i <= document.lastLine(LastUsed::Text); ++i)
             all += std::string(document.text(LineIndex(i))) + "\r\n";
         return all;
     }
     void undoAll() {
-        document.undo().nextGroup();
-        while (!document.undo().isEmpty())
+        document.history().nextGroup();
+        while (!document.history().isEmpty())
             view.undo();
     }
 
@@ -92,7 +92,7 @@ TEST(UndoMemory, WhateverAllocationFailsUndoIsExact) {
             isDone = RunWith(allocations, [&] { command(session.view); });
             isDone &= RunWith(allocations, [&] { session.undoAll(); });
             isDone &= RunWith(allocations, [&] {
-                while (session.document.undo().redo()) {
+                while (session.document.history().redo()) {
                 }
             });
             failures += isDone ? 0 : 1;

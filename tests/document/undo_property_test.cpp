@@ -17,7 +17,7 @@ const std::uint16_t kKeys[] = {kKeyLeft,  kKeyRight, kKeyUp,        kKeyDown,   
 
 std::vector<std::string> Lines(const TextDocument& document) {
     std::vector<std::string> lines;
-    for (std::int32_t i = 0; i <= document.lineCount(LastUsed::Text); ++i)
+    for (std::int32_t i = 0; i <= document.lastLine(LastUsed::Text); ++i)
         lines.emplace_back(document.text(LineIndex(i)));
     return lines;
 }
@@ -91,7 +91,7 @@ TEST(UndoProperty, UndoingEverythingBringsBackTheLoadedText) {
         for (int step = 0; step < 400; ++step)
             user.act();
 
-        while (!document.undo().isEmpty())
+        while (!document.history().isEmpty())
             view.undo();
         ASSERT_EQ(Lines(document), loaded) << "seed " << seed;
         ASSERT_FALSE(document.isModified()) << "seed " << seed;

@@ -64,15 +64,15 @@ TEST_F(Undo, MarkingStepsRestoreWhatTheyFound) {
     EXPECT_FALSE(document_.marked().active);
     editor_.run<SetMark>(a, b);
     EXPECT_EQ(document_.marked(), (MarkedArea{MarkMode::Stream, true, a, b}));
-    document_.undo().nextGroup();
+    document_.history().nextGroup();
     editor_.run<ShiftMark>(1, -2);
     EXPECT_EQ(document_.marked().start, (MarkPoint{LineIndex(2), DisplayColumn(0)}));
     EXPECT_EQ(document_.marked().end, (MarkPoint{LineIndex(3), DisplayColumn(2)}));
     editor_.run<ClearMark>();
     EXPECT_FALSE(document_.marked().active);
-    document_.undo().undo();
+    document_.history().undo();
     EXPECT_EQ(document_.marked(), (MarkedArea{MarkMode::Stream, true, a, b}));
-    document_.undo().undo();
+    document_.history().undo();
     EXPECT_EQ(document_.marked(), MarkedArea{});
 }
 
@@ -81,8 +81,8 @@ TEST_F(Undo, FiftyStepsInOneGoShowTheBusyCursorOnce) {
         notices_.busyCount = 0;
         for (int i = 0; i < steps; ++i)
             editor_.run<MoveToColumn>(CharColumn(i));
-        document_.undo().nextGroup();
-        document_.undo().undo();
+        document_.history().nextGroup();
+        document_.history().undo();
         EXPECT_EQ(notices_.busyCount, shown) << steps;
         EXPECT_EQ(notices_.busyDepth, 0);
     }
@@ -90,9 +90,9 @@ TEST_F(Undo, FiftyStepsInOneGoShowTheBusyCursorOnce) {
 
 TEST_F(Undo, ClearingForgetsWhatCouldBeDoneAgainToo) {
     editor_.type('x', 1);
-    document_.undo().undo();
-    document_.undo().clear();
-    EXPECT_FALSE(document_.undo().redo());
+    document_.history().undo();
+    document_.history().clear();
+    EXPECT_FALSE(document_.history().redo());
 }
 
 TEST_F(Undo, AVacantLineCanBeEditedAndReadsEmptyAfterwards) {
@@ -100,7 +100,7 @@ TEST_F(Undo, AVacantLineCanBeEditedAndReadsEmptyAfterwards) {
     editor_.type('x', 3);
     EXPECT_EQ(text(100), "xxx");
     EXPECT_EQ(text(101), "") << "other vacant slots are not touched";
-    document_.undo().undo();
+    document_.history().undo();
     EXPECT_EQ(text(100), "");
     EXPECT_FALSE(document_.isModified());
 }

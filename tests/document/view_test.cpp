@@ -54,7 +54,7 @@ TEST_F(View, PagesTurnTheWindowAndStopAtTheEnds) {
     EXPECT_EQ(line(), 0);
     press(kKeyPageDown, 100);
     EXPECT_EQ(line(), 299);
-    EXPECT_EQ(document_.lineCount(LastUsed::Plain), 299) << "a page makes no new lines";
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 299) << "a page makes no new lines";
 }
 
 TEST_F(View, HomeAndEndReachTheWindowThenTheDocument) {
@@ -176,7 +176,7 @@ TEST_F(View, OneDragIsOneUndoStep) {
     view_.release();
     view_.undo();
     EXPECT_EQ(line(), 0);
-    EXPECT_TRUE(document_.undo().isEmpty());
+    EXPECT_TRUE(document_.history().isEmpty());
 }
 
 TEST_F(View, KeysWithoutAMeaningAreLeftToTheWindow) {

@@ -81,8 +81,8 @@ TEST_F(Write, AWriteForgetsHistoryAndChanges) {
     ASSERT_TRUE(document_.isModified());
     ASSERT_TRUE(document_.write());
     EXPECT_FALSE(document_.isModified());
-    EXPECT_FALSE(document_.undo().undo());
-    EXPECT_EQ(document_.undo().group(), 0u);
+    EXPECT_FALSE(document_.history().undo());
+    EXPECT_EQ(document_.history().group(), 0u);
 }
 
 TEST_F(Write, EveryByteSurvivesLoadingAndWriting) {
@@ -102,7 +102,7 @@ TEST_F(Write, WhatMayNotBeWrittenIsLeftAlone) {
     EXPECT_FALSE(document_.write());
     EXPECT_EQ(disk_.get("A.TXT"), "old");
     EXPECT_TRUE(document_.isModified());
-    EXPECT_FALSE(document_.undo().isEmpty());
+    EXPECT_FALSE(document_.history().isEmpty());
     EXPECT_FALSE(disk_.has(copyName()));
     disk_.setReadOnly("A.TXT", false);
 
@@ -165,7 +165,7 @@ TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
             EXPECT_EQ(disk_.count(), 1u) << "something of the copy is left";
             EXPECT_EQ(disk_.get("A.TXT"), written ? "x" + old : old);
             EXPECT_EQ(document_.isModified(), !written);
-            EXPECT_EQ(document_.undo().isEmpty(), written);
+            EXPECT_EQ(document_.history().isEmpty(), written);
             if (plan.struck) ++struck;
         }
     }

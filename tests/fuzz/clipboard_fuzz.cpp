@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(LinesOf(document) == before);
     view.redo();
     Require(LinesOf(document) == after);
-    while (!document.undo().isEmpty())
+    while (!document.history().isEmpty())
         view.undo();
     Require(LinesOf(document) == before && !document.isModified());
     return 0;

@@ -40,11 +40,11 @@ void CheckExpansion(const ElectricList& list, std::string_view text, const Edito
     editor.moveToColumn(column);
     const LineIndex line = document.currentLine();
     const std::vector<std::string> before = LinesOf(document);
-    document.undo().clear();
+    document.history().clear();
 
     const bool expanded = ExpandElectricWord(document, editor, list);
-    Require(expanded || document.undo().isEmpty());
-    while (document.undo().undo()) {
+    Require(expanded || document.history().isEmpty());
+    while (document.history().undo()) {
     }
     Require(LinesOf(document) == before);
     Require(document.currentLine() == line && document.column() == column);

@@ -80,13 +80,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (findsFirst) finder.findNext(view);
     Require(static_cast<std::size_t>(finder.replace(view)) <= places);
     const std::vector<std::string> after = LinesOf(document);
-    while (!document.undo().isEmpty())
+    while (!document.history().isEmpty())
         view.undo();
     Require(LinesOf(document) == before && !document.isModified());
     while (view.redo()) {
     }
     Require(LinesOf(document) == after);
-    while (view.undo() && !document.undo().isEmpty()) {
+    while (view.undo() && !document.history().isEmpty()) {
     }
     FindAll(finder, view, places);
     return 0;

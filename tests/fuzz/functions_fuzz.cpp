@@ -22,10 +22,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         rest.remove_prefix(std::min(length + 1, rest.size()));
     }
     std::int32_t before = 0;
-    for (const FunctionPlace& place : scanner.found()) {
-        Require(place.line >= before && static_cast<std::size_t>(place.line) < lines.size());
-        Require(place.begin < place.end && place.end <= lines[static_cast<std::size_t>(place.line)].size());
-        before = place.line;
+    for (const FunctionPosition& position : scanner.found()) {
+        Require(position.line >= before && static_cast<std::size_t>(position.line) < lines.size());
+        Require(position.begin < position.end && position.end <= lines[static_cast<std::size_t>(position.line)].size());
+        before = position.line;
     }
     return 0;
 }

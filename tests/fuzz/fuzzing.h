@@ -61,7 +61,7 @@ inline void MakeDisk() {
 
 inline std::vector<std::string> LinesOf(const TextDocument& document) {
     std::vector<std::string> lines;
-    for (LineIndex i; i.value <= document.lineCount(LastUsed::Text); ++i)
+    for (LineIndex i; i.value <= document.lastLine(LastUsed::Text); ++i)
         lines.emplace_back(document.text(i));
     return lines;
 }

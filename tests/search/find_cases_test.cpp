@@ -117,7 +117,7 @@ std::string StatusOf(const FindSession& session) {
 void CheckUndoAndRedo(FindSession& session, const std::vector<std::string>& before) {
     const std::vector<std::string> after = ShowDocument(session.document);
     int commands = 0;
-    for (; !session.document.undo().isEmpty(); ++commands)
+    for (; !session.document.history().isEmpty(); ++commands)
         session.view.undo();
     EXPECT_EQ(Joined(ShowDocument(session.document)), Joined(before)) << "when everything is undone";
     EXPECT_FALSE(session.document.isModified()) << "when everything is undone";

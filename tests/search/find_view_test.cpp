@@ -15,7 +15,7 @@ class FindView : public testing::Test, protected FindSession {
     void put(std::int32_t line, const std::string& text) { document.lines().put(document.makeLine(text), line); }
     std::string text(std::int32_t line) const { return std::string(document.text(LineIndex(line))); }
     void undoAll() {
-        while (!document.undo().isEmpty())
+        while (!document.history().isEmpty())
             view.undo();
     }
 };
@@ -170,7 +170,7 @@ TEST_F(LongSearch, EscStopsAndOneUndoTakesWhatWasDoneBack) {
     EXPECT_EQ(text(0), "one int");
     EXPECT_EQ(text(1215), "one int");
     EXPECT_FALSE(document.isModified());
-    EXPECT_TRUE(document.undo().isEmpty());
+    EXPECT_TRUE(document.history().isEmpty());
     view.redo();
     EXPECT_EQ(text(1215), "one INTEGER");
     EXPECT_EQ(text(1216), "one int");

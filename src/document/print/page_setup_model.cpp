@@ -27,7 +27,7 @@ std::int32_t Size(LengthUnit unit) {
     return unit == LengthUnit::Inches ? kHundredthsAnInch : 100;
 }
 
-// Digits with at most one point, as hundredths; more than two digits behind it are cut off.
+// Digits with at most one point, as hundredths; more than two digits after it are cut off.
 std::optional<std::int64_t> HundredthsOf(std::string_view text) {
     const std::size_t point = std::min(text.find_first_of(".,"), text.size());
     const std::string_view whole = text.substr(0, point);
@@ -47,9 +47,9 @@ std::string_view NameOf(LengthUnit unit) {
 std::string ShownLength(std::int32_t hundredths, LengthUnit unit) {
     const std::int32_t shown = (hundredths * 100 + Size(unit) / 2) / Size(unit);
     std::string text = std::to_string(shown / 100);
-    const std::string behind = std::to_string(100 + shown % 100).substr(1);
-    if (behind != "00") text += '.' + behind;
-    if (behind != "00" && behind.back() == '0') text.pop_back();
+    const std::string fraction = std::to_string(100 + shown % 100).substr(1);
+    if (fraction != "00") text += '.' + fraction;
+    if (fraction != "00" && fraction.back() == '0') text.pop_back();
     return text;
 }
 

@@ -12,7 +12,7 @@ namespace vexa {
 enum class LengthUnit { Millimetres, Inches };
 
 std::string_view NameOf(LengthUnit unit);
-// A length in hundredths of a millimetre as it is shown: at most two digits behind the point, and none that say
+// A length in hundredths of a millimetre as it is shown: at most two digits after the point, and none that say
 // nothing.
 std::string ShownLength(std::int32_t hundredths, LengthUnit unit);
 // The length that was typed, with a point or a comma; none for what is no length or lies outside what a margin may be.

@@ -50,7 +50,7 @@ PrintLayout::PrintLayout(const TextDocument& document, Request request)
 }
 
 void PrintLayout::findLines() {
-    last_ = LineIndex(document_.lineCount(LastUsed::Text));
+    last_ = LineIndex(document_.lastLine(LastUsed::Text));
     if (request_.area == PrintArea::Marked) {
         first_ = document_.marked().start.line;
         last_ = std::min(last_, document_.marked().end.line);
@@ -97,24 +97,25 @@ PrintedPage PrintLayout::page(std::int32_t number) const {
     if (request_.options.header) {
         page.header = HeaderText(request_.heading, number, pageCount(), request_.page.columns);
     }
-    Place place = firstRows_.at(static_cast<std::size_t>(number) - 1);
-    for (std::int32_t row = 0; row < textRows_ && place.line <= last_; ++row) {
-        page.rows.push_back(printedRow(place, printedColumns(place.line)));
-        place = next(place, rowsOf(place.line));
+    RowPosition position = firstRows_.at(static_cast<std::size_t>(number) - 1);
+    for (std::int32_t row = 0; row < textRows_ && position.line <= last_; ++row) {
+        page.rows.push_back(printedRow(position, printedColumns(position.line)));
+        position = next(position, rowsOf(position.line));
     }
     return page;
 }
 
-PrintLayout::Place PrintLayout::next(Place place, std::int32_t rowsOfLine) const {
-    return place.row + 1 < rowsOfLine ? Place{place.line, place.row + 1} : Place{place.line + 1, 0};
+PrintLayout::RowPosition PrintLayout::next(RowPosition position, std::int32_t rowsOfLine) const {
+    return position.row + 1 < rowsOfLine ? RowPosition{position.line, position.row + 1}
+                                         : RowPosition{position.line + 1, 0};
 }
 
-PrintedRow PrintLayout::printedRow(Place place, ColumnSpan columns) const {
+PrintedRow PrintLayout::printedRow(RowPosition position, ColumnSpan columns) const {
     PrintedRow row;
-    if (request_.options.lineNumbers && place.row == 0) row.lineNumber = place.line.value + 1;
-    const DisplayColumn left = columns.begin + place.row * textColumns_;
+    if (request_.options.lineNumbers && position.row == 0) row.lineNumber = position.line.value + 1;
+    const DisplayColumn left = columns.begin + position.row * textColumns_;
     const std::int32_t width = std::clamp(columns.end - left, 0, textColumns_);
-    row.text = RenderUnmarkedRow(document_, place.line, left, width, request_.highlighting);
+    row.text = RenderUnmarkedRow(document_, position.line, left, width, request_.highlighting);
     return row;
 }
 

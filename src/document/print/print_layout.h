@@ -74,13 +74,13 @@ class PrintLayout {
     std::int32_t pageCount() const { return static_cast<std::int32_t>(firstRows_.size()); }
     // A page by its number, which is counted from 1.
     PrintedPage page(std::int32_t number) const;
-    // The column in which text begins: behind the line numbers, where there are any.
+    // The column in which text begins: after the line numbers, where there are any.
     std::int32_t textColumn() const { return textColumn_; }
     std::int32_t numberDigits() const { return numberDigits_; }
 
   private:
     // A row of a line, counted from 0.
-    struct Place {
+    struct RowPosition {
         LineIndex line;
         std::int32_t row = 0;
     };
@@ -90,8 +90,8 @@ class PrintLayout {
     void findLines();
     void reserveNumbers();
     void divide();
-    Place next(Place place, std::int32_t rowsOfLine) const;
-    PrintedRow printedRow(Place place, ColumnSpan columns) const;
+    RowPosition next(RowPosition position, std::int32_t rowsOfLine) const;
+    PrintedRow printedRow(RowPosition position, ColumnSpan columns) const;
 
     const TextDocument& document_;
     Request request_;
@@ -101,7 +101,7 @@ class PrintLayout {
     std::int32_t numberDigits_ = 0;
     std::int32_t textColumns_ = 1;
     std::int32_t textRows_ = 1;
-    std::vector<Place> firstRows_;  // of each page
+    std::vector<RowPosition> firstRows_;  // of each page
 };
 
 }  // namespace vexa

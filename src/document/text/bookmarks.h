@@ -9,7 +9,7 @@
 
 namespace vexa {
 
-// What has come of using a bookmark, as the numbers that the operations answer.
+// Result of a bookmark operation.
 enum class BookmarkResult : std::int32_t { Done = 0, BadNumber = 1, NotSet = 2 };
 
 // Each remembers the index of a line and keeps it whatever is done to the text: after lines have come or gone above, it

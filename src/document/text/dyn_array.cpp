@@ -90,7 +90,7 @@ bool DynArray::grow(std::int32_t capacity) {
     return true;
 }
 
-// Makes slot i exist, growing by one step, or to a step behind i when one step does not reach it.
+// Makes slot i exist, growing by one step, or to a step beyond i when one step does not reach it.
 bool DynArray::makeRoom(std::int32_t i) {
     if (i < capacity_) return true;
     const std::int64_t step = static_cast<std::int64_t>(capacity_) + growBy_;

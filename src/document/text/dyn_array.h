@@ -15,13 +15,13 @@ enum class LastUsed {
     Text    // any line that was stored and is not empty
 };
 
-// A sequence of pointers with a gap where the last change was, so that lines come and go at one place without moving
+// A sequence of pointers with a gap where the last change was, so that lines come and go at one position without moving
 // all that follow. Knows nothing of lines.
 class GapVector {
   public:
     std::int32_t size() const { return static_cast<std::int32_t>(items_.size()) - gapLength_; }
-    TextLine*& operator[](std::int32_t i) { return items_[place(i)]; }
-    TextLine* operator[](std::int32_t i) const { return items_[place(i)]; }
+    TextLine*& operator[](std::int32_t i) { return items_[offset(i)]; }
+    TextLine* operator[](std::int32_t i) const { return items_[offset(i)]; }
     void insert(std::int32_t i, TextLine* item);
     TextLine* remove(std::int32_t i);
     // Makes room for that many more. Throws std::bad_alloc and is then unchanged, as append is.
@@ -29,7 +29,7 @@ class GapVector {
     void append(std::int32_t count, TextLine* item);
 
   private:
-    std::size_t place(std::int32_t i) const { return static_cast<std::size_t>(i < gapStart_ ? i : i + gapLength_); }
+    std::size_t offset(std::int32_t i) const { return static_cast<std::size_t>(i < gapStart_ ? i : i + gapLength_); }
     void moveGap(std::int32_t to);
     void widenGap(std::int32_t least);
 
@@ -39,7 +39,7 @@ class GapVector {
 };
 
 // Slots of lines. A vacant slot reads as the array's own empty line, so reading any slot yields a line. The array owns
-// the lines in its slots. A negative index does nothing and gives 0, none or false. Slots behind the last stored line
+// the lines in its slots. A negative index does nothing and gives 0, none or false. Slots after the last stored line
 // are all vacant and are only counted, not kept. Faults of the caller are told to the debugger.
 class DynArray {
   public:
@@ -77,14 +77,14 @@ class DynArray {
     // on its way back into the text must not be lost. std::bad_alloc, and nothing is changed.
     void reserve(std::int32_t i);
 
-    // Moves the lines behind i down by one and hands the line over; none for a vacant slot.
+    // Moves the lines after i down by one and hands the line over; none for a vacant slot.
     LinePtr detach(std::int32_t i);
     // The same, for a caller that already holds a pointer to the line and now owns it.
     bool removeAt(std::int32_t i);
 
     // Whether the array has grown since this was last asked.
     bool takeGrown();
-    // The first slot of those whose lines have changed places since this was last asked; INT32_MAX when none have.
+    // The first slot of those whose lines have moved since this was last asked; INT32_MAX when none have.
     std::int32_t takeMovedFrom();
     // Destroys every line and makes the array as new.
     void clear();

@@ -7,7 +7,7 @@
 
 namespace vexa {
 
-// Inserts a line at the current one's place.
+// Inserts a line before the current one.
 class InsertLine : public TextAction {
   public:
     InsertLine(TextDocument& document, LinePtr line) : TextAction(document), line_(std::move(line)) {}
@@ -25,7 +25,7 @@ class InsertEmptyLine : public InsertLine {
     explicit InsertEmptyLine(TextDocument& document) : InsertLine(document, nullptr) {}
 };
 
-// Takes a line out. Taking back puts it at the current line's place.
+// Takes a line out. Taking back puts it before the current line.
 class DeleteLine : public TextAction {
   public:
     static constexpr LineIndex kCurrent{-1};

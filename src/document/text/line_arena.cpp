@@ -22,8 +22,8 @@ TextLine* LineArena::makeLine(const char* text, std::size_t length) {
         records_.push_back({std::unique_ptr<std::byte[]>(new std::byte[kRecordsPerBlock * sizeof(TextLine)]), 0});
     }
     RecordBlock& block = records_.back();
-    void* place = block.memory.get() + block.used++ * sizeof(TextLine);
-    return ::new (place) TextLine(text, length, TextLine::InArena{});
+    void* record = block.memory.get() + block.used++ * sizeof(TextLine);
+    return ::new (record) TextLine(text, length, TextLine::InArena{});
 }
 
 void LineArena::clear() {

@@ -22,7 +22,7 @@ struct MarkPoint {
     auto operator<=>(const MarkPoint&) const = default;
 };
 
-// While active, start does not lie behind end: in lines, and in columns where the mode makes columns count.
+// While active, start does not lie after end: in lines, and in columns where the mode makes columns count.
 struct MarkedArea {
     MarkMode mode = MarkMode::None;
     bool active = false;

@@ -43,7 +43,7 @@ void ReplaceRun::undo() {
     document().countChange(-count_ - inserted_);
 }
 
-// The characters of the run and the text change places.
+// Exchanges the characters of the run and the text.
 void ReplaceRun::exchange(std::int32_t count) {
     TextLine& line = document().editableLine(line_);
     std::string removed(line.text(), static_cast<std::size_t>(column_.value), static_cast<std::size_t>(count));

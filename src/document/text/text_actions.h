@@ -18,7 +18,7 @@ class TextAction : public EditAction {
     virtual void takeBack() = 0;
 };
 
-// Puts another character in the place of the one at the cursor. Nothing changes where there is none.
+// Replaces the character at the cursor. Nothing changes where there is none.
 class OverwriteChar : public TextAction {
   public:
     OverwriteChar(TextDocument& document, char c) : TextAction(document), new_(c) {}

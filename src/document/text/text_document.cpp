@@ -14,7 +14,7 @@ constexpr const char* kNoName = "name.bad";
 }  // namespace
 
 TextDocument::TextDocument(const EditorOptions& options, Notices& notices)
-    : options_(options), notices_(notices), path_(kNoName), baseName_(kNoName), undo_(notices) {}
+    : options_(options), notices_(notices), path_(kNoName), baseName_(kNoName), history_(notices) {}
 
 // The history and the lines go before the arena that holds their text.
 TextDocument::~TextDocument() {
@@ -22,7 +22,7 @@ TextDocument::~TextDocument() {
 }
 
 void TextDocument::discardText() {
-    undo_.clear();
+    history_.clear();
     lines_.clear();
     arena_.clear();
     comments_.reset();
@@ -92,7 +92,7 @@ WriteOutcome TextDocument::tryWrite(bool withoutCopy) {
     disk_ = {};
     disk_.checksum = outcome.checksum;
     disk_.facts = platform::FactsOf(path_);
-    undo_.clear();
+    history_.clear();
     clearModified();
     clearChangedLines();
     linesWrapped_ = false;
@@ -120,7 +120,7 @@ bool TextDocument::isLineChanged(LineIndex index) const {
 
 // ---- lines -------------------------------------------------------------------------------------------------------
 
-std::int32_t TextDocument::lineCount(LastUsed mode) const {
+std::int32_t TextDocument::lastLine(LastUsed mode) const {
     return loaded_ ? lines_.lastUsed(mode) : kNewDocumentLine;
 }
 

@@ -27,7 +27,7 @@ namespace vexa {
 inline constexpr std::int32_t kLineReadLimit = 299;     // characters read for one line, its line end counted
 inline constexpr std::int32_t kLastLoadedLine = 90000;  // index of the last line that one load keeps
 inline constexpr std::int32_t kLoadGrowth = 500;        // slots by which the lines grow during a load
-inline constexpr std::int32_t kNewDocumentLine = 200;   // where a new document's only line stands
+inline constexpr std::int32_t kNewDocumentLine = 200;   // index of a new document's only line
 inline constexpr std::int32_t kLastColumn = 300;        // the cursor goes no further right
 
 // What the automatic backup remembers of a document.
@@ -45,7 +45,7 @@ class TextDocument {
 
     // ---- name and file ----
 
-    // Reads the file at the path in the place of the present text and history. False when it cannot be opened or read
+    // Replaces the text and history by those of the file at the path. False when it cannot be opened or read
     // to its end, or the path is empty; the document is then empty and not named, so that it cannot be saved over the
     // file.
     bool load();
@@ -58,7 +58,7 @@ class TextDocument {
     WriteOutcome tryWrite(bool withoutCopy);
     bool newEmpty();
     void setName(const std::optional<std::string>& path);
-    // There is no file of the document's name that is its own, so that the first save asks for one.
+    // The name is only a suggestion: the first save asks for one.
     void forgetFile() { named_ = false; }
     // Takes a profile, which must stay where it is, and its rules of colouring as they now are.
     void setProfile(const ExtensionProfile& profile);
@@ -81,7 +81,7 @@ class TextDocument {
     // ---- lines ----
 
     // The index of the last line in use; that of a new document's line before the first load.
-    std::int32_t lineCount(LastUsed mode) const;
+    std::int32_t lastLine(LastUsed mode) const;
     // The line at an index; none beyond the capacity of the line store. Vacant slots read as an empty line.
     const TextLine* line(LineIndex index) const { return lines_.at(index.value); }
     std::string_view text(LineIndex index) const {
@@ -119,8 +119,8 @@ class TextDocument {
 
     MarkedArea& marked() { return marked_; }
     const MarkedArea& marked() const { return marked_; }
-    UndoHistory& undo() { return undo_; }
-    const UndoHistory& undo() const { return undo_; }
+    UndoHistory& history() { return history_; }
+    const UndoHistory& history() const { return history_; }
 
     // ---- bookmarks and backup ----
 
@@ -149,7 +149,7 @@ class TextDocument {
     DynArray lines_;
     std::unique_ptr<const TokenRules> tokenRules_;
     mutable CommentState comments_{lines_};  // fills itself in when it is asked
-    UndoHistory undo_;
+    UndoHistory history_;
     MarkedArea marked_;
     Bookmarks bookmarks_;
     BackupState backup_;

@@ -8,7 +8,7 @@ namespace vexa {
 
 namespace {
 
-// A line's own text lies behind its capacity in one block, so that a line that only borrows its text has no field for
+// A line's own text lies after its capacity in one block, so that a line that only borrows its text has no field for
 // it.
 constexpr std::size_t kHeader = sizeof(std::uint32_t);
 
@@ -96,10 +96,10 @@ void TextLine::append(std::string_view added) {
 
 void TextLine::replaceRun(CharColumn column, std::int32_t count, std::string_view inserted) {
     const std::size_t at = Offset(column);
-    const std::size_t behind = at + static_cast<std::size_t>(count);
+    const std::size_t after = at + static_cast<std::size_t>(count);
     const std::size_t length = length_ - static_cast<std::size_t>(count) + inserted.size();
     char* text = makeRoom(length);
-    std::memmove(text + at + inserted.size(), text + behind, length_ + 1 - behind);
+    std::memmove(text + at + inserted.size(), text + after, length_ + 1 - after);
     std::memcpy(text + at, inserted.data(), inserted.size());
     length_ = static_cast<std::uint32_t>(length);
 }

@@ -1,4 +1,4 @@
-// One line of text with the place of the cursor in it.
+// One line of text with the position of the cursor in it.
 #pragma once
 
 #include <cstdint>
@@ -42,7 +42,7 @@ class TextLine {
     char erase(CharColumn column);
     char replace(CharColumn column, char c);
     void append(std::string_view text);
-    // Puts a text, which must not be this line's own, in the place of characters that the line has.
+    // Replaces `count` characters by a text, which must not be this line's own.
     void replaceRun(CharColumn column, std::int32_t count, std::string_view text);
     void truncate(CharColumn column);
 

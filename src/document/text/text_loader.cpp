@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kBlock = std::size_t{1} << 20;
 // What must be in the block to cut a line: the characters of one read, a CR LF, and room for a NUL.
 constexpr std::size_t kLookAhead = kLineReadLimit + 3;
-// A line is not split behind a blank that leaves only this many characters or fewer, the blank counted.
+// A line is not split after a blank that leaves only this many characters or fewer, the blank counted.
 constexpr std::size_t kShortestRest = 2;
 constexpr std::size_t kRestWithoutBlank = 5;
 
@@ -29,7 +29,7 @@ std::size_t SplitPoint(std::string_view text) {
 
 struct TextLoader::Cut {
     std::size_t length;   // characters of the line
-    std::size_t lineEnd;  // bytes of the line end behind them; 0 when it was not read or there is none
+    std::size_t lineEnd;  // bytes of the line end after them; 0 when it was not read or there is none
     bool tooLong;
 };
 
@@ -123,7 +123,7 @@ void TextLoader::storeLine() {
     store(text, cut.length);
 }
 
-// The first part is copied, as its last character has no line end behind it whose place a NUL could take. The rest is
+// The first part is copied, as its last character has no line end after it that a NUL could replace. The rest is
 // moved up over a line end that was read with it.
 void TextLoader::storeSplit(const Cut& cut) {
     document_.linesWrapped_ = true;

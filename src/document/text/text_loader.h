@@ -15,7 +15,7 @@ class TextDocument;
 // Reads a file block by block into an arena, cuts it into lines in place, and tells the user about a text with too many
 // lines or too long ones. Every byte but the line ends is kept; nothing after the last line that is kept is read.
 //
-// As text, a line ends with LF or CR LF; as bytes with LF alone. A line of 298 characters and more is split: behind its
+// As text, a line ends with LF or CR LF; as bytes with LF alone. A line of 298 characters and more is split: after its
 // last blank among the characters read, or 5 characters before their end; the rest begins the next line. When the line
 // end had been read with the 298 characters, it is gone and the rest runs on into the text that follows.
 class TextLoader {

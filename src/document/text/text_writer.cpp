@@ -60,7 +60,7 @@ class BufferedOutput {
 
 bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes) {
     BufferedOutput output(sink);
-    const std::int32_t last = document.lineCount(LastUsed::Text);
+    const std::int32_t last = document.lastLine(LastUsed::Text);
     const bool endsInCtrlZ = bytes && document.text(LineIndex(last)).ends_with(kCtrlZ);
     for (LineIndex i; i.value <= last; ++i) {
         output.put(document.text(i));

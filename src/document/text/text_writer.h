@@ -18,7 +18,7 @@ class TextDocument;
 using ByteSink = std::function<bool(std::string_view)>;
 
 // Writes the lines up to the last that is not empty, each with its line end: CR LF as text; LF as bytes, and then a
-// Ctrl-Z behind the last line, unless that ends in one already. False when the sink has not taken all of it.
+// Ctrl-Z after the last line, unless that ends in one already. False when the sink has not taken all of it.
 bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes);
 
 enum class WriteResult {

@@ -124,7 +124,7 @@ void ClipboardBlock::pasteStream(const Pieces& pieces) {
     if (wholeLines < count) typeAt(pieces.texts[wholeLines]);
 }
 
-// Types a text at the cursor in one step and returns where it ends, which may lie behind the last column that the
+// Types a text at the cursor in one step and returns where it ends, which may lie beyond the last column that the
 // cursor can reach.
 CharColumn ClipboardBlock::typeAt(std::string_view text) {
     if (text.empty()) return document_.column();
@@ -137,7 +137,7 @@ CharColumn ClipboardBlock::typeAt(std::string_view text) {
     return column + length;
 }
 
-// Splits the current line at a column and goes to the start of the lower part. Behind the last column of the cursor the
+// Splits the current line at a column and goes to the start of the lower part. Beyond the last column of the cursor the
 // lower part is taken out and put into a line of its own.
 void ClipboardBlock::splitAt(CharColumn column) {
     if (column == document_.column()) {

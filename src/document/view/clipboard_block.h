@@ -28,7 +28,7 @@ class ClipboardBlock {
     bool copy();
     // The same, and the block is deleted.
     bool cut();
-    // Takes the place of a marked area. Without a text on the clipboard nothing happens.
+    // Replaces a marked area. Without a text on the clipboard nothing happens.
     void paste();
 
   private:

@@ -56,7 +56,7 @@ bool EditView::key(const KeyEvent& event) {
 // ---- commands ----------------------------------------------------------------------------------------------------
 
 void EditView::finish() {
-    document().undo().nextGroup();
+    document().history().nextGroup();
     editing_.viewport.bringCaretIntoSight(false);
 }
 
@@ -71,7 +71,7 @@ void EditView::moveBy(ViewAction movement) {
 }
 
 bool EditView::takeBack(bool (UndoHistory::*step)(), TextId refusal) {
-    const bool done = (document().undo().*step)();
+    const bool done = (document().history().*step)();
     if (done) {
         editing_.marker.stopExtending();
         editing_.viewport.bringCaretIntoSight(true);

@@ -15,7 +15,7 @@ namespace {
 
 // ---- finding the keyword -------------------------------------------------------------------------------------------
 
-struct TokenPlace {
+struct TokenPosition {
     std::size_t begin;
     TokenKind kind;
     bool goesOn;  // a comment that was opened in a line above
@@ -51,7 +51,7 @@ class Surroundings {
         return !IsBlank(c) && !(profile && profile->delimiters().find(c) != std::string::npos);
     }
 
-    std::optional<TokenPlace> tokenAt(std::size_t column) const {
+    std::optional<TokenPosition> tokenAt(std::size_t column) const {
         const TokenRules* rules = document_.tokenRules();
         if (!rules) return std::nullopt;
         const bool goesOn = document_.startsInComment(document_.currentLine());
@@ -59,7 +59,7 @@ class Surroundings {
         std::size_t begin = 0;
         for (Token token = tokens.NextToken(); token.kind != TokenKind::EndOfLine; token = tokens.NextToken()) {
             const std::size_t end = begin + token.text.size();
-            if (column < end) return TokenPlace{begin, token.kind, begin == 0 && goesOn};
+            if (column < end) return TokenPosition{begin, token.kind, begin == 0 && goesOn};
             begin = end;
         }
         return std::nullopt;
@@ -126,7 +126,7 @@ std::vector<Piece> PiecesOf(std::string_view expansion) {
     return pieces;
 }
 
-// Whether no line of the expansion, with the text behind the cursor, goes beyond the last column.
+// Whether no line of the expansion, with the text after the cursor, goes beyond the last column.
 bool Fits(const std::vector<Piece>& pieces, std::size_t start, std::size_t indent, std::size_t rest, std::size_t tab) {
     std::size_t end = start;
     std::size_t widest = start;

@@ -1,4 +1,4 @@
-// Puts the expansion of an electric word into a document in the place of its keyword.
+// Replaces the keyword of an electric word in a document by its expansion.
 #pragma once
 
 #include "document/text/text_document.h"
@@ -13,7 +13,7 @@ namespace vexa {
 // last column.
 //
 // New lines of the expansion get the indentation of the keyword's line, but for those that stay empty. The cursor ends
-// at the first \c, without one behind the expansion. The caller closes the undo group.
+// at the first \c, without one after the expansion. The caller closes the undo group.
 bool ExpandElectricWord(TextDocument& document, LineEditor& editor, const ElectricList& list);
 
 }  // namespace vexa

@@ -233,7 +233,7 @@ void LineEditor::takeOverIndent(std::string_view indent) {
     typeText(indent);
 }
 
-// The column just behind the last blank or tab before the cursor, 0 when there is none; at or behind the text's end
+// The column just after the last blank or tab before the cursor, 0 when there is none; at or after the text's end
 // when no word stands between that blank and the end.
 std::int32_t LineEditor::wrapPoint() const {
     const std::string_view text = document_.text(document_.currentLine());

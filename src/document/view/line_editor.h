@@ -40,7 +40,7 @@ class LineEditor {
     void deleteToEnd();
     // Deletes the characters that begin between two display columns.
     void deleteColumns(DisplayColumn from, DisplayColumn to);
-    // Deletes the current line; the cursor keeps its display column on the line that takes its place.
+    // Deletes the current line; the cursor keeps its display column on the line that follows.
     void deleteLine();
     void deleteCurrentLine();  // the same, the cursor where that line had it
     // Deletes from the cursor a number of characters, no further than the text's end.
@@ -55,7 +55,7 @@ class LineEditor {
     void pad();
     // Inserts a tab, or blanks as UseTabs says, up to the next tab stop; in overwrite mode too.
     void insertIndent();
-    // Makes a new line of what is behind the cursor and goes to its start.
+    // Makes a new line of what is after the cursor and goes to its start.
     void breakLine();
     // Enter. Forced, it makes a new line in overwrite mode too.
     void newLine(bool force);
@@ -70,9 +70,9 @@ class LineEditor {
     template <class Action, class... Arguments>
     void run(Arguments&&... arguments) {
         auto action = std::make_unique<Action>(document_, std::forward<Arguments>(arguments)...);
-        document_.undo().makeRoom();
+        document_.history().makeRoom();
         action->perform();
-        document_.undo().record(std::move(action));
+        document_.history().record(std::move(action));
     }
 
   private:

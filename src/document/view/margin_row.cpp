@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kFewestDigits = 4;
 
 LineIndex LastShownLine(const TextDocument& document) {
-    return std::max(LineIndex(document.lineCount(LastUsed::Plain)), document.currentLine());
+    return std::max(LineIndex(document.lastLine(LastUsed::Plain)), document.currentLine());
 }
 
 char BookmarkOf(const TextDocument& document, LineIndex line) {

@@ -60,7 +60,7 @@ void Marker::cursorMoved(bool extending) {
 }
 
 void Marker::markAll() {
-    const LineIndex last(document_.lineCount(LastUsed::Text));
+    const LineIndex last(document_.lastLine(LastUsed::Text));
     extending_ = false;
     editor_.run<SetMarkMode>(MarkMode::Lines);
     anchor_ = MarkPoint{};
@@ -111,7 +111,7 @@ void Marker::deleteStreamInLine() {
     editor_.deleteBetween(from, to);
 }
 
-// The end line goes up to the start line with what it has behind the area.
+// The end line goes up to the start line with what it has after the area.
 void Marker::deleteStream() {
     const MarkedArea area = document_.marked();
     editor_.moveToLine(area.start.line);

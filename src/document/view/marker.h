@@ -17,7 +17,7 @@ class Marker {
     void toggle(MarkMode mode);
     // Prepares for a movement that marks: the anchor is the cursor unless an area is marked already, in whatever mode.
     void begin(MarkMode mode);
-    // What is marked grows from here on from that place.
+    // From now on the marking grows from `anchor`.
     void setAnchor(MarkPoint anchor) { anchor_ = anchor; }
     // The cursor has moved: carries the marking along, or takes a finished one away.
     void cursorMoved(bool extending);

@@ -23,15 +23,15 @@ std::optional<Shape> ShapeOf(char c) {
     return Shape{kOpening[index], kClosing[index], opening != std::string_view::npos};
 }
 
-std::optional<char> CharacterAt(const TextDocument& document, TextPlace place) {
-    const std::string_view text = document.text(place.line);
-    const auto column = static_cast<std::size_t>(place.column.value);
-    if (place.column.value < 0 || column >= text.size()) return std::nullopt;
+std::optional<char> CharacterAt(const TextDocument& document, TextPosition position) {
+    const std::string_view text = document.text(position.line);
+    const auto column = static_cast<std::size_t>(position.column.value);
+    if (position.column.value < 0 || column >= text.size()) return std::nullopt;
     return text[column];
 }
 
-bool IsBracket(const TextDocument& document, TextPlace place) {
-    const std::optional<char> c = CharacterAt(document, place);
+bool IsBracket(const TextDocument& document, TextPosition position) {
+    const std::optional<char> c = CharacterAt(document, position);
     return c && ShapeOf(*c);
 }
 
@@ -41,23 +41,23 @@ class Search {
     Search(const TextDocument& document, Shape shape)
         : document_(document), shape_(shape), brackets_{shape.opening, shape.closing} {}
 
-    std::optional<TextPlace> forwards(TextPlace from) {
-        const LineIndex last(document_.lineCount(LastUsed::Text));
+    std::optional<TextPosition> forwards(TextPosition from) {
+        const LineIndex last(document_.lastLine(LastUsed::Text));
         auto start = static_cast<std::size_t>(from.column.value);
         for (LineIndex line = from.line; line <= last; ++line, start = 0) {
             const std::string_view text = document_.text(line);
             for (auto i = text.find_first_of(set(), start); i != text.npos; i = text.find_first_of(set(), i + 1))
-                if (closesNesting(text[i])) return placeOf(line, i);
+                if (closesNesting(text[i])) return positionOf(line, i);
         }
         return std::nullopt;
     }
 
-    std::optional<TextPlace> backwards(TextPlace from) {
+    std::optional<TextPosition> backwards(TextPosition from) {
         auto start = static_cast<std::size_t>(from.column.value);
         for (LineIndex line = from.line; line.value >= 0; --line, start = std::string_view::npos) {
             const std::string_view text = document_.text(line);
             for (auto i = text.find_last_of(set(), start); i != text.npos; i = text.find_last_of(set(), i - 1)) {
-                if (closesNesting(text[i])) return placeOf(line, i);
+                if (closesNesting(text[i])) return positionOf(line, i);
                 if (i == 0) break;
             }
         }
@@ -71,7 +71,9 @@ class Search {
         depth_ += goesDeeper ? 1 : -1;
         return depth_ == 0;
     }
-    static TextPlace placeOf(LineIndex line, std::size_t i) { return {line, CharColumn(static_cast<std::int32_t>(i))}; }
+    static TextPosition positionOf(LineIndex line, std::size_t i) {
+        return {line, CharColumn(static_cast<std::int32_t>(i))};
+    }
 
     const TextDocument& document_;
     const Shape shape_;
@@ -81,13 +83,13 @@ class Search {
 
 }  // namespace
 
-std::optional<TextPlace> BracketAt(const TextDocument& document, TextPlace cursor) {
-    const TextPlace before{cursor.line, cursor.column - 1};
+std::optional<TextPosition> BracketAt(const TextDocument& document, TextPosition cursor) {
+    const TextPosition before{cursor.line, cursor.column - 1};
     if (IsBracket(document, cursor)) return cursor;
     return IsBracket(document, before) ? std::optional(before) : std::nullopt;
 }
 
-std::optional<TextPlace> MatchingBracket(const TextDocument& document, TextPlace bracket) {
+std::optional<TextPosition> MatchingBracket(const TextDocument& document, TextPosition bracket) {
     const std::optional<char> c = CharacterAt(document, bracket);
     const std::optional<Shape> shape = c ? ShapeOf(*c) : std::nullopt;
     if (!shape) return std::nullopt;

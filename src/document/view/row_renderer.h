@@ -35,7 +35,7 @@ struct ColumnSpan {
     DisplayColumn end;
 };
 
-// The columns of a line that are shown as marked. A marked line end counts as one column behind the text.
+// The columns of a line that are shown as marked. A marked line end counts as one column after the text.
 ColumnSpan MarkedColumns(const TextDocument& document, LineIndex line);
 
 // The row of a line in a window that shows that many columns from left on. A line beyond the document is empty. Text

@@ -10,7 +10,7 @@ void Viewport::resize(std::int32_t rows, std::int32_t columns) {
 }
 
 LineIndex Viewport::lastLine() const {
-    return std::max(LineIndex(document_.lineCount(LastUsed::Plain)), document_.currentLine());
+    return std::max(LineIndex(document_.lastLine(LastUsed::Plain)), document_.currentLine());
 }
 
 DisplayColumn Viewport::widestColumn() const {

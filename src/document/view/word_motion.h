@@ -17,10 +17,10 @@ struct CharSpan {
     bool isEmpty() const { return begin >= end; }
 };
 
-// The word of letters, digits, underscores and bytes above 127 that a column stands in or just behind; none when there
+// The word of letters, digits, underscores and bytes above 127 that a column stands in or just after; none when there
 // is none.
 std::optional<CharSpan> WordAt(std::string_view text, CharColumn column);
-// The start of the next word behind a column; none when the line has no more.
+// The start of the next word after a column; none when the line has no more.
 std::optional<CharColumn> NextWordStart(std::string_view text, CharColumn column);
 // The start of the word that begins before a column; none when there is none.
 std::optional<CharColumn> PreviousWordStart(std::string_view text, CharColumn column);

@@ -112,7 +112,7 @@ void SearchDialog::keepClearOf(const RECT& match) {
 
 // ---- what the user does ------------------------------------------------------------------------------------------
 
-// A text chosen from the list is told of before it stands in the field.
+// CBN_SELCHANGE arrives before the field's text changes.
 void SearchDialog::onControl(int control, UINT notification) {
     const bool isChosen = notification == CBN_SELCHANGE;
     if (control != IDC_FIND_TEXT || (!isChosen && notification != CBN_EDITCHANGE)) return;

@@ -58,7 +58,7 @@ void DocumentWindow::refreshOptions() {
 }
 
 void DocumentWindow::recover() {
-    document_.undo().nextGroup();
+    document_.history().nextGroup();
     refresh();
 }
 

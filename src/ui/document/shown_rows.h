@@ -18,8 +18,7 @@ class ShownRows {
     // Forgets what is shown, so that all of it will be drawn.
     void clear() { rows_.clear(); }
 
-    // Has the window, which is that many rows high, show render(0) and the rows after it. They begin that many rows
-    // further on than those that were shown before; below 0 further back.
+    // Shows `count` rows, render(0) first. `moved`: rows scrolled since the last call; below 0 is up.
     template <class Render>
     void show(HWND window, std::size_t count, int rowHeight, std::int32_t moved, Render render) {
         if (moved != 0) move(window, moved, rowHeight);
