@@ -139,7 +139,7 @@ void OpenCommentOnTopAndLookAtEnd(benchmark::State& state) {
     }
     for (auto _ : state) {
         session.openComment();
-        session.view.toDocumentEnd();
+        session.view.moveBy(DocumentEnd);
         session.paint();
         session.takeAllBack();
     }

@@ -61,10 +61,8 @@ class EditView {
     bool changeCase(CaseChange change);
     // Goes to the partner of the bracket at or before the caret; tells the user and is false when there is none.
     bool toMatchingBracket();
-    void toWindowStart() { moveBy(WindowStart); }
-    void toWindowEnd() { moveBy(WindowEnd); }
-    void toDocumentStart() { moveBy(DocumentStart); }
-    void toDocumentEnd() { moveBy(DocumentEnd); }
+    // Carries one of the movements out, without marking.
+    void moveBy(ViewAction movement);
     void goTo(LineIndex line, CharColumn column);
     // Goes to a line by its number, counted from 1 and limited to the lines that there is room for, used or not; any
     // number below 1 means the first. The cursor takes the column it had in that line. Returns the number reached.
@@ -106,7 +104,6 @@ class EditView {
   private:
     bool typedCharacter(const KeyEvent& event);
     void carryOut(ViewAction edit);
-    void moveBy(ViewAction movement);
     void moveTo(LineIndex line, std::optional<CharColumn> column);
     bool takeBack(bool (UndoHistory::*step)(), TextId refusal);
     void moveToCell(Cell cell);

@@ -21,10 +21,10 @@ constexpr ViewCommandRow kViewRows[] = {
     {CommandId::LowerCase, &OnView<&EditView::changeCase, CaseChange::Lower>},
     {CommandId::UpperCase, &OnView<&EditView::changeCase, CaseChange::Upper>},
     {CommandId::MatchingBracket, &OnView<&EditView::toMatchingBracket>},
-    {CommandId::WindowStart, &OnView<&EditView::toWindowStart>},
-    {CommandId::WindowEnd, &OnView<&EditView::toWindowEnd>},
-    {CommandId::DocumentStart, &OnView<&EditView::toDocumentStart>},
-    {CommandId::DocumentEnd, &OnView<&EditView::toDocumentEnd>},
+    {CommandId::WindowStart, &OnView<&EditView::moveBy, WindowStart>},
+    {CommandId::WindowEnd, &OnView<&EditView::moveBy, WindowEnd>},
+    {CommandId::DocumentStart, &OnView<&EditView::moveBy, DocumentStart>},
+    {CommandId::DocumentEnd, &OnView<&EditView::moveBy, DocumentEnd>},
 };
 
 }  // namespace
