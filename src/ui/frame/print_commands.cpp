@@ -76,7 +76,7 @@ PrintResult PrintCommands::runJob(const TextDocument& document, const PrintLayou
     const HWND openBefore = loop_.modelessDialog();
     loop_.setModelessDialog(progress.window());
     const PrintResult result = RunPrint(layout, sequence, target, progress);
-    loop_.setModelessDialog(IsWindow(openBefore) ? openBefore : nullptr);
+    loop_.setModelessDialog(openBefore);
     return result;
 }
 
