@@ -20,6 +20,12 @@ MenuHandle MakePopupMenu(const std::vector<MenuItem>& items) {
     return menu;
 }
 
+WORD ChooseFromMenu(HWND owner, POINT corner, const std::vector<MenuItem>& items) {
+    const MenuHandle menu = MakePopupMenu(items);
+    constexpr UINT kFlags = TPM_LEFTALIGN | TPM_RETURNCMD | TPM_NONOTIFY;
+    return static_cast<WORD>(TrackPopupMenu(menu.get(), kFlags, corner.x, corner.y, 0, owner, nullptr));
+}
+
 MenuHandle MakeMenuBar(const std::vector<MenuRows>& menus) {
     MenuHandle bar(CreateMenu());
     for (const MenuRows& rows : menus) {

@@ -30,6 +30,8 @@ struct ItemState {
 };
 
 MenuHandle MakePopupMenu(const std::vector<MenuItem>& items);
+// Lets the user choose from a pop-up menu; the item's number, 0 for none. The corner is one of the screen.
+WORD ChooseFromMenu(HWND owner, POINT corner, const std::vector<MenuItem>& items);
 MenuHandle MakeMenuBar(const std::vector<MenuRows>& menus);
 
 // Puts items in before the one with a number, in the place of those that it put there before, and a separator

@@ -77,6 +77,10 @@ bool FindCommands::replace(EditView* view) {
     return true;
 }
 
+void FindCommands::explainTabEscape() {
+    tell(LoadText(TextId::TabEscapeIsNoTab));
+}
+
 void FindCommands::toggleRegularExpression() {
     options_.setRegularExpression(!options_.regularExpression());
     tell(FillText(TextId::RegularExpressionSwitched, {OnOff(options_.regularExpression())}));

@@ -33,6 +33,8 @@ class FindCommands {
 
     void toggleRegularExpression();
     void toggleMatchCase();
+    // Says while a regular expression is typed what "\t" in it does not mean.
+    void explainTabEscape();
 
   private:
     // Tells the user when there is none.

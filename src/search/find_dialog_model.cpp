@@ -1,5 +1,7 @@
 #include "search/find_dialog_model.h"
 
+#include "search/pattern_pieces.h"
+
 namespace vexa {
 
 FindDialogModel::FindDialogModel(FindCommands& commands, HistoryList& findHistory)
@@ -19,6 +21,10 @@ void FindDialogModel::storeFindFields(bool pending) {
     options().setForward(forward);
     options().setFindText(findText, pending);
     findHistory_.Add(options().findText());
+}
+
+void FindDialogModel::patternChanged() {
+    if (regularExpression && HoldsTabEscape(findText)) commands_.explainTabEscape();
 }
 
 // A match of another text that is still under the cursor is stepped over, so its search counts as one.

@@ -26,6 +26,8 @@ class FindDialogModel {
 
     // Whether the buttons that search are enabled.
     bool canSearch() const { return !findText.empty(); }
+    // To be called when the find text or its being a regular expression has changed.
+    void patternChanged();
     // Searches the active document (none if there is no document window) with the fields as the new options.
     void findNext(EditView* active);
     // Puts the options back as they were when the dialog opened, unless it has searched since.

@@ -51,6 +51,23 @@ TEST_F(FindDialogs, NothingIsSearchedWithoutAText) {
     EXPECT_EQ(options.findText(), "foo");
 }
 
+TEST_F(FindDialogs, ATabEscapeIsExplainedInRegularExpressionsAlone) {
+    struct Row {
+        const char* text;
+        bool regular;
+        bool explained;
+    };
+    for (const Row& row : {Row{"[ \\t]+$", true, true}, Row{"a\\t", true, true}, Row{"a\\t", false, false},
+                           Row{"a\\\\t", true, false}, Row{"t\\", true, false}}) {
+        notices.statuses.clear();
+        FindDialogModel model(commands, findHistory);
+        model.findText = row.text;
+        model.regularExpression = row.regular;
+        model.patternChanged();
+        EXPECT_EQ(!notices.statuses.empty(), row.explained) << row.text;
+    }
+}
+
 TEST_F(FindDialogs, FindNextTakesTheFieldsOverAndNotesTheText) {
     FindDialogModel model(commands, findHistory);
     model.findText = "BAR|x";

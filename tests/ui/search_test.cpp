@@ -293,6 +293,30 @@ TEST_F(SearchTest, TheDialogLeavesTheMatchInSightAndEscInTheTextClosesIt) {
     end();
 }
 
+TEST_F(SearchTest, PartsOfAPatternAreChosenFromAMenu) {
+    edit("ab\tc\r\n");
+    const HWND dialog = openFind();
+    editor->keys("b");
+    const auto choose = [&](const char* key) {
+        PostMessageA(GetDlgItem(dialog, IDC_PATTERN_PIECES), BM_CLICK, 0, 0);
+        ASSERT_TRUE(editor->hasPopupMenu());
+        editor->takePicture(std::string("pattern-menu-") + key[0]);
+        editor->keys(key);
+        ASSERT_TRUE(WaitUntil([&] { return !FindWindowA("#32768", nullptr); }));
+    };
+    choose("t");
+    EXPECT_TRUE(WaitUntil([&] { return FieldOf(dialog, IDC_FIND_TEXT) == "b\t"; }));
+    EXPECT_FALSE(IsChecked(dialog, IDC_REGULAR_EXPRESSION));
+    choose("o");
+    editor->keys("xc{Enter}");  // inside the brackets
+    EXPECT_TRUE(WaitUntil([&] { return FieldOf(dialog, IDC_FIND_TEXT) == "b\t[xc]"; }));
+    EXPECT_TRUE(IsChecked(dialog, IDC_REGULAR_EXPRESSION));
+    EXPECT_TRUE(editor->showsMessage("Search completed."));
+    editor->keys("\\t");
+    EXPECT_TRUE(editor->showsMessage("In a regular expression \\t is no tab. The button beside the field writes one."));
+    editor->takePicture("tab-escape");
+}
+
 TEST_F(SearchTest, AMatchBeyondTheRightEdgeIsBroughtIntoSight) {
     edit("first\r\n" + std::string(280, '.') + "needle\r\n");
     const HWND dialog = openFind();

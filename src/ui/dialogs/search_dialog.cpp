@@ -1,5 +1,7 @@
 #include "ui/dialogs/search_dialog.h"
 
+#include "base/strings.h"
+#include "framework/menu.h"
 #include "ui/dialogs/dialog_keys.h"
 #include "ui/dialogs/dialog_place.h"
 #include "ui/resources/dialog_controls.h"
@@ -114,10 +116,40 @@ void SearchDialog::keepClearOf(const RECT& match) {
 
 // CBN_SELCHANGE arrives before the field's text changes.
 void SearchDialog::onControl(int control, UINT notification) {
+    if (control == IDC_PATTERN_PIECES && notification == BN_CLICKED) return choosePiece();
+    if (control == IDC_REGULAR_EXPRESSION && notification == BN_CLICKED) return patternChanged();
     const bool isChosen = notification == CBN_SELCHANGE;
     if (control != IDC_FIND_TEXT || (!isChosen && notification != CBN_EDITCHANGE)) return;
     model().findText = isChosen ? chosenTextOf(control) : textOf(control);
+    patternChanged();
     enableButtons();
+}
+
+void SearchDialog::patternChanged() {
+    model().regularExpression = isChecked(IDC_REGULAR_EXPRESSION);
+    model().patternChanged();
+}
+
+// The field loses its selection when the keyboard comes back to it, so the one that it has now is kept.
+void SearchDialog::choosePiece() {
+    const auto selection = static_cast<DWORD>(SendMessageA(control(IDC_FIND_TEXT), CB_GETEDITSEL, 0, 0));
+    std::vector<MenuItem> items;
+    for (const PatternPiece& piece : PatternPieces())
+        items.push_back({static_cast<WORD>(items.size() + 1), std::string(LoadText(piece.label))});
+    RECT button{};
+    GetWindowRect(control(IDC_PATTERN_PIECES), &button);
+    const WORD chosen = ChooseFromMenu(window(), {button.left, button.bottom}, items);
+    if (chosen != 0) insertPiece(PatternPieces()[chosen - 1U], selection);
+}
+
+void SearchDialog::insertPiece(const PatternPiece& piece, DWORD selection) {
+    const HWND field = GetWindow(control(IDC_FIND_TEXT), GW_CHILD);
+    if (piece.isRegular) setChecked(IDC_REGULAR_EXPRESSION, true);
+    SetFocus(field);
+    SendMessageA(field, EM_SETSEL, LOWORD(selection), HIWORD(selection));
+    SendMessageA(field, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(piece.text.data()));
+    const auto caret = LOWORD(selection) + static_cast<std::int32_t>(piece.text.size()) - piece.caretBack;
+    SendMessageA(field, EM_SETSEL, static_cast<WPARAM>(caret), caret);
 }
 
 // The lists have grown by the texts that were used.

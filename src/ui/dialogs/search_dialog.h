@@ -6,6 +6,7 @@
 
 #include "base/history_list.h"
 #include "search/find_dialog_model.h"
+#include "search/pattern_pieces.h"
 #include "shell/command_id.h"
 #include "ui/dialogs/editor_dialog.h"
 #include "ui/document/application.h"
@@ -57,6 +58,10 @@ class SearchDialog : public EditorDialog {
     void run(const SearchHost::Search& search);
 
   private:
+    void choosePiece();
+    void insertPiece(const PatternPiece& piece, DWORD selection);
+    void patternChanged();
+
     SearchHost& host_;
     HistoryList findHistory_;
 };

@@ -51,6 +51,7 @@
 #define IDC_SEARCH_UP 307
 #define IDC_SEARCH_DOWN 308
 #define IDC_REPLACE 309
+#define IDC_PATTERN_PIECES 310
 
 // "Color Setup".
 #define IDC_PRESETS 401
