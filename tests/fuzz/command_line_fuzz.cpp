@@ -6,6 +6,7 @@
 #include "shell/command_line.h"
 #include "shell/file_opening.h"
 #include "shell/hand_off.h"
+#include "shell/outside_opens.h"
 
 namespace vexa::fuzz {
 

@@ -3,10 +3,12 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/notices.h"
@@ -57,6 +59,17 @@ inline void MakeDisk() {
         return true;
     }();
     static_cast<void>(made);
+}
+
+// A new document with the lines of a text, which end with LF.
+inline void Fill(TextDocument& document, std::string_view text) {
+    document.newEmpty();
+    std::int32_t index = 0;
+    for (std::size_t begin = 0; begin <= text.size(); ++index) {
+        const std::size_t end = std::min(text.find('\n', begin), text.size());
+        document.lines().put(document.makeLine(text.substr(begin, end - begin)), index);
+        begin = end + 1;
+    }
 }
 
 inline std::vector<std::string> LinesOf(const TextDocument& document) {
