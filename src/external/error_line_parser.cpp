@@ -1,7 +1,5 @@
 #include "external/error_line_parser.h"
 
-#include <algorithm>
-
 #include "base/ascii.h"
 
 namespace vexa {
@@ -18,7 +16,6 @@ constexpr const char* kFullFileNamePattern = "[^ \t\")(<'`]*[a-zA-Z0-9_\\:]*\\.[
 constexpr const char* kPlainFileNamePattern = "[^ \t\")(<'`]*[a-zA-Z0-9_]*\\.[a-zA-Z0-9_]*[^ :\t\")(>'`]";
 
 constexpr std::size_t kNumberReach = 50;
-constexpr std::size_t kMatchLimit = 300;
 
 bool Same(char a, char b) {
     return LowerAscii(a) == LowerAscii(b);
@@ -54,8 +51,7 @@ ErrorLineParser::ErrorLineParser()
 
 bool ErrorLineParser::matches(RegExp& pattern, std::string_view line) {
     if (!RegExp::Execute(&pattern, line, LetterCase::Ignored)) return false;
-    const auto length = static_cast<std::size_t>(pattern.end(0) - pattern.start(0));
-    matched_.assign(pattern.start(0), std::min(length, kMatchLimit));
+    matched_.assign(pattern.start(0), pattern.end(0));
     return true;
 }
 

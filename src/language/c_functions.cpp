@@ -170,7 +170,6 @@ void CFunctionScanner::takeCharacter(std::string_view text, std::size_t at) {
         if (c == '}') closeSkippedBrace(at);
         return;
     }
-    if (c == '}' && at == 0) return begin();
     if (statement_.parentheses == 0) beginAt(at);
     const bool isScope = c == ':' && (text.substr(at).starts_with("::") || last_.character == ':');
     const auto* const row = std::ranges::find(kCharacters, c, &Character::character);

@@ -29,6 +29,9 @@ TEST(ToolFiles, AreOfTheGivenLayout) {
     EXPECT_EQ(bytes, std::string("\1\1\0\1\0\3\0", 7) + Field("C:\\A.EXE", 256) + Field("First", 41) +
                          Field("-x", 256) + Field("C:\\", 256));
     EXPECT_EQ(DecodeTools(bytes), Tools{Tool("First")});
+    ProgramRequest shell = Tool("Shell");
+    shell.kind = ProgramKind::Interpreter;
+    EXPECT_EQ(DecodeTools(EncodeTools({shell})), Tools{shell});
 }
 
 TEST(ToolFiles, OfOtherBytesGiveTheToolsThatAreWhole) {

@@ -117,6 +117,7 @@ TEST(FunctionList, OtherLanguagesHaveTheirOwnRules) {
         {"a.java", {"class A {\n  @X(1) public void f(int a) throws B {\n  }\n}", "2 @X(1) public void f;"}},
         {"a.unknown", {"int f() {\n}", "1 int f;"}},
         {"py", {"int f() {\n}", "1 int f;"}},
+        {"a.py pyw", {"int f() {\n}", "1 int f;"}},
     };
     for (const bool ignoresCase : {true, false}) {
         SetRegExpIgnoreCase(ignoresCase);

@@ -178,6 +178,16 @@ TEST_F(FileCommandsTest, WhatAnotherProgramHasChangedIsAskedAbout) {
     EXPECT_EQ(notices_.boxes.size(), 2u);
 }
 
+TEST_F(FileCommandsTest, ANameWithoutRoomForACopysEndingIsSaid) {
+    const std::string name(256 - disk_.path().size() - 1, 'n');
+    disk_.put(name, "abc");
+    ASSERT_TRUE(commands_.open(document_, disk_.path(name)));
+    type("x");
+    notices_.answers = {BoxAnswer::No};
+    EXPECT_FALSE(commands_.save(document_)) << "the copy's path would have 260 characters";
+    EXPECT_EQ(notices_.boxes.back().text, FillText(TextId::NoSafetyCopy, {name, LoadText(TextId::NameTooLongForCopy)}));
+}
+
 TEST_F(FileCommandsTest, WithoutASafetyCopyTheUserDecides) {
     openFile("A.TXT", "abc");
     type("x");

@@ -61,10 +61,10 @@ TEST_F(FileOpeningTest, AFileIsShownInItsWindowUnlessCopiesAreWanted) {
 }
 
 TEST_F(FileOpeningTest, NamesThatCannotBeAFilesAreRefused) {
-    for (const std::string& name : {std::string("a|b.c"), std::string("C:\\NUL"),
+    for (const std::string& name : {std::string("a|b.c"), std::string("C:\\NUL"), std::string("C:\\com1.c"),
                                     std::string("C:\\") + std::string(257, 'x'), std::string("a\0b", 3)})
         EXPECT_FALSE(opening_.OpenFileAtLine(name, 1)) << name;
-    EXPECT_EQ(notices_.boxes.size(), 4u);
+    EXPECT_EQ(notices_.boxes.size(), 5u);
     EXPECT_EQ(takeLog(), "");
     EXPECT_TRUE(opening_.OpenFileAtLine("C:\\" + std::string(256, 'x'), 1));
 }

@@ -148,6 +148,7 @@ TEST_F(HandOffTest, AFileIsTakenOnceAndItsBroadcastsAreAnswered) {
     EXPECT_NE(inbox.take(), std::nullopt);
     EXPECT_EQ(inbox.take(), std::nullopt);
     EXPECT_TRUE(HandOffInbox().wasTaken(now));
+    EXPECT_TRUE(HandOffInbox().wasTaken(platform::SharedNumber("VexaHandOffTaken").get())) << "at the same tick";
     EXPECT_FALSE(HandOffInbox().wasTaken(now + 1000000));
     AwaitReading();  // what has been taken is not waited for
 }

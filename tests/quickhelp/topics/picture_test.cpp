@@ -43,7 +43,7 @@ TEST(Picture, EveryPackingGivesThePixels) {
     const PackedCase cases[] = {
         {0, "\x80\x00\x00\x00\x40\x00\x00\x00"s},     {1, "\x81\x80\x03\x00\x81\x40\x03\x00"s},
         {2, "\x00\x80\x00\x00\x00\x40\x00\x00\x00"s}, {2, "\x20\x80\x00\x00\x00\x40\x00\x00"s},
-        {3, "\x00\x81\x80\x03\x00\x81\x40\x03\x00"s},
+        {3, "\x00\x81\x80\x03\x00\x81\x40\x03\x00"s}, {2, "\x0A\x80\x00\x00\x40\x00\x00"s},
     };
     for (const PackedCase& c : cases) {
         const Picture picture = DecodePicture(PictureOf(Form(6, c.packing, 1, {2, 2}, palette, c.data)), 96);
