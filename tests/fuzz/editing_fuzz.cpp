@@ -69,7 +69,7 @@ class User {
     }
 
     void undoAll() {
-        while (!document_.undo().isEmpty())
+        while (!document_.history().isEmpty())
             view_.undo();
         Require(LinesOf(document_) == before_ && !document_.isModified());
     }
@@ -146,7 +146,7 @@ class User {
         if (files_++ >= kMostFiles) return;
         const std::vector<std::string> saved = LinesOf(document_);
         Require(document_.write());
-        Require(!document_.isModified() && document_.undo().isEmpty() && LinesOf(document_) == saved);
+        Require(!document_.isModified() && document_.history().isEmpty() && LinesOf(document_) == saved);
         before_ = saved;
     }
     void reload() {
@@ -165,7 +165,7 @@ class User {
         const std::uint8_t number = input_.byte();
         if (where % 4 == 0) view_.goToLine(number * (where & 4 ? 100 : 1));
         if (where % 4 == 1) view_.goTo(LineIndex(number), CharColumn(input_.byte() * 2));
-        if (where % 4 == 2) view_.dropBookmark(number % 10);
+        if (where % 4 == 2) document_.dropBookmark(number % 10);
         if (where % 4 == 3) view_.jumpToBookmark(number % 10);
     }
     // As the settings file may have them.
@@ -187,7 +187,7 @@ class User {
         view_.scrollBy(input_.byte() - 128);
         document_.lookAheadForComments(100);
         for (const FunctionEntry& entry : FunctionsOf(document_))
-            Require(entry.line.value <= document_.lineCount(LastUsed::Text));
+            Require(entry.line.value <= document_.lastLine(LastUsed::Text));
         if (document_.marked().active) print(PrintArea::Marked);
         print(PrintArea::Document);
     }
@@ -198,7 +198,7 @@ class User {
     }
     std::size_t textSize() const {
         std::size_t size = 0;
-        for (LineIndex i; i.value <= document_.lineCount(LastUsed::Plain); ++i)
+        for (LineIndex i; i.value <= document_.lastLine(LastUsed::Plain); ++i)
             size += document_.text(i).size() + 1;
         return size;
     }

@@ -45,7 +45,7 @@ void UseOptions(EditorOptions options) {
         view.key(event);
     }
     view.render(0);
-    while (!document.undo().isEmpty())
+    while (!document.history().isEmpty())
         view.undo();
     Require(document.text(LineIndex(0)) == "\ta word\tand one more");
     EditorOptionsModel(options).update(options);
