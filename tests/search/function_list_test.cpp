@@ -90,6 +90,7 @@ TEST(FunctionList, FindsDefinitionsInCPlusPlus) {
         {"class EXPORT(1) A final {\n void f() {}\n};\nenum class E : int { X };\nvoid g() try { } catch (...) { }",
          "2 void f;5 void g;"},
         {"void f() {\n  run([&](int a) {\n    b();\n  });\n}\nvoid g() {}", "1 void f;6 void g;"},
+        {"int a = f([] {\n}\nint g() {}", "3 int g;"},
         {"struct A {\n    void f() {\n    }\n    struct B {\n        void g() {}\n    };\n};\nint h() {}",
          "2 void f;5 void g;8 int h;"},
     };
