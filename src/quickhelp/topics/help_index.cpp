@@ -57,11 +57,6 @@ HelpIndex::HelpIndex(const HelpContainer& container) : container_(container), to
         if (!in.failed()) titles_.push_back({offset, in.text()});
     });
     std::ranges::stable_sort(titles_, {}, &TopicTitle::offset);
-    ReadTree(container.file("|VIOLA"), [this](ByteReader& in) {
-        const std::uint32_t offset = in.u32();
-        const std::int32_t window = in.i32();
-        if (!in.failed()) windows_.emplace(offset, window);
-    });
     ByteReader in(container.file("|CTXOMAP"));
     const int count = in.u16();
     for (int i = 0; i < count && in.left() >= 8; ++i) {
@@ -88,10 +83,6 @@ std::optional<std::uint32_t> HelpIndex::offsetOfTopicNumber(std::int32_t number)
 std::string_view HelpIndex::titleOf(std::uint32_t offset) const {
     const auto found = std::ranges::lower_bound(titles_, offset, {}, &TopicTitle::offset);
     return found != titles_.end() && found->offset == offset ? found->text : std::string_view();
-}
-
-std::optional<int> HelpIndex::windowOf(std::uint32_t offset) const {
-    return Find(windows_, offset);
 }
 
 std::vector<Keyword> HelpIndex::keywords(char letter) const {

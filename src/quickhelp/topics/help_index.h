@@ -37,7 +37,6 @@ class HelpIndex {
     // By the number that links of the first version use; 0 is the contents topic.
     std::optional<std::uint32_t> offsetOfTopicNumber(std::int32_t number) const;
     std::string_view titleOf(std::uint32_t offset) const;
-    std::optional<int> windowOf(std::uint32_t offset) const;
     // All titles in the order of the topics; topics without one have none or an empty one.
     const std::vector<TopicTitle>& titles() const { return titles_; }
     // In the order of the file. The letter is K for the keywords that are shown, A for those that macros use.
@@ -48,7 +47,6 @@ class HelpIndex {
     const HelpContainer& container_;
     std::map<std::int32_t, std::uint32_t> contexts_;
     std::map<std::int32_t, std::uint32_t> numbers_;
-    std::map<std::uint32_t, int> windows_;
     std::vector<TopicTitle> titles_;
     std::string_view topicNumbers_;
 };

@@ -39,8 +39,10 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       textTools_(documents, application, notices),
       printing_(documents, application, notices, loop),
       options_(documents, application, notices),
-      help_(documents.frame()) {
-    RegisterCommandsOf(dispatcher_, macro_, search_, files_, editing_, textTools_, printing_, options_, help_);
+      help_(documents.frame()),
+      quickHelp_(documents, application, notices) {
+    RegisterCommandsOf(dispatcher_, macro_, search_, files_, editing_, textTools_, printing_, options_, help_,
+                       quickHelp_);
     RegisterWindowCommands(dispatcher_, documents.frame());
     RegisterKeysOf(keys_, search_, textTools_, options_);
     search_.setFailureListener([this](bool isUserStop) { macro().searchFailed(isUserStop); });

@@ -10,6 +10,7 @@
 #include "ui/frame/macro_player.h"
 #include "ui/frame/option_commands.h"
 #include "ui/frame/print_commands.h"
+#include "ui/frame/quick_help.h"
 #include "ui/frame/search_commands.h"
 #include "ui/frame/text_tools.h"
 
@@ -42,6 +43,7 @@ class FrameCommands {
     PrintCommands printing_;
     OptionCommands options_;
     HelpCommands help_;
+    QuickHelp quickHelp_;
 };
 
 }  // namespace vexa

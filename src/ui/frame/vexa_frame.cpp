@@ -6,6 +6,7 @@
 #include "framework/title_bar.h"
 #include "ui/frame/menu_rows.h"
 #include "ui/frame/status_panes.h"
+#include "ui/help/help.h"
 #include "ui/resources/resource.h"
 
 namespace vexa {
@@ -70,6 +71,7 @@ bool VexaFrame::onCreate() {
 void VexaFrame::onDestroy() {
     outside_.stop();
     session_.save();
+    CloseHelp(window());
     MDIframeCL::onDestroy();
 }
 
@@ -145,7 +147,8 @@ bool VexaFrame::workWhileIdle() {
 // The frame looks at its keys before the system does, which would go to the next window with Ctrl+F6. A dialog that
 // waits for an answer has the keys.
 bool VexaFrame::translate(MSG& message) {
-    return takesCommands() && (commands_.useKey(message) || MDIframeCL::translate(message));
+    if (!takesCommands() || IsInHelpViewer(message.hwnd)) return false;  // others have the keys
+    return commands_.useKey(message) || MDIframeCL::translate(message);
 }
 
 std::optional<ItemState> VexaFrame::itemState(WORD id) const {

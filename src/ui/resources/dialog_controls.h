@@ -14,6 +14,11 @@
 #define IDD_FUNCTIONS 3000
 #define IDD_PAGE_SETUP 3100
 #define IDD_PRINTING 3110
+#define IDD_QUICK_HELP 3200
+#define IDD_HELP_CONFIGURATION 3210
+#define IDD_HELP_INDEX 3220
+#define IDD_HELP_CHOICE 3221
+#define IDD_HELP_FIND 3222
 
 // The one field of the dialogs that ask for a number.
 #define IDC_NUMBER 101
@@ -104,3 +109,19 @@
 // "Functions".
 #define IDC_FUNCTION_FILTER 1401
 #define IDC_FUNCTIONS 1402
+
+// "Quick Help" and "Quick Search".
+#define IDC_KEYWORD_SOUGHT 1501
+#define IDC_HELP_MATCHES 1502
+
+// "Help Configuration".
+#define IDC_HELP_PATH 1511
+#define IDC_HELP_FILES 1512
+#define IDC_HELP_ADD 1513
+#define IDC_HELP_REMOVE 1514
+#define IDC_HELP_INSTALLED 1515
+
+// The help viewer.
+#define IDC_HELP_TEXT 1521
+#define IDC_HELP_KEYWORDS 1522
+#define IDC_HELP_TOPICS 1523

@@ -1,0 +1,428 @@
+#include "ui/help/topic_pane.h"
+
+#include <algorithm>
+
+#include "framework/dpi.h"
+
+namespace vexa {
+namespace {
+
+constexpr WindowClass kPaneClass{.name = "VexaTopic"};
+constexpr int kMargin = 8;  // pixels at the normal resolution, as are the others
+constexpr int kLineStep = 20;
+constexpr int kPopUpWidth = 420;
+constexpr int kWheelNotch = 120;
+constexpr int kHandCursor = 32649;  // of systems from Windows 2000 on
+
+int Height(const RECT& area) {
+    return static_cast<int>(area.bottom - area.top);
+}
+
+RECT WorkAreaAt(POINT place) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    if (!GetMonitorInfoA(MonitorFromPoint(place, MONITOR_DEFAULTTONEAREST), &monitor)) return {0, 0, 640, 480};
+    return monitor.rcWork;
+}
+
+int RightOf(const topics::LaidRegion& region) {
+    int right = 0;
+    for (const topics::LaidRun& run : region.runs)
+        right = std::max(right, run.box.right);
+    return right;
+}
+
+}  // namespace
+
+struct TopicPaneKeys {
+    struct Row {
+        UINT key;
+        bool control;
+        bool shift;
+        void (TopicPane::*run)();
+    };
+    static constexpr Row kRows[] = {
+        {VK_UP, false, false, &TopicPane::lineUp},
+        {VK_DOWN, false, false, &TopicPane::lineDown},
+        {VK_PRIOR, false, false, &TopicPane::pageUp},
+        {VK_NEXT, false, false, &TopicPane::pageDown},
+        {VK_SPACE, false, false, &TopicPane::pageDown},
+        {VK_HOME, false, false, &TopicPane::toTop},
+        {VK_END, false, false, &TopicPane::toBottom},
+        {VK_HOME, true, false, &TopicPane::toTop},
+        {VK_END, true, false, &TopicPane::toBottom},
+        {VK_TAB, false, false, &TopicPane::toNextLink},
+        {VK_TAB, false, true, &TopicPane::toPreviousLink},
+        {VK_RETURN, false, false, &TopicPane::followFocusedLink},
+        {'C', true, false, &TopicPane::copy},
+        {VK_INSERT, true, false, &TopicPane::copy},
+        {'A', true, false, &TopicPane::selectAll},
+    };
+};
+
+// ---- opening and layout ------------------------------------------------------------------------------------------
+
+bool TopicPane::open(HWND parent) {
+    colours_ = SystemTopicColours(isPopUp_);
+    return create(kPaneClass,
+                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {}, .parent = parent});
+}
+
+bool TopicPane::openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPlace) {
+    isPopUp_ = true;
+    colours_ = SystemTopicColours(isPopUp_);
+    if (!window() && !create(kPaneClass, {.style = WS_POPUP | WS_BORDER, .place = {}, .parent = owner})) return false;
+    take(topic);
+    const RECT screen = WorkAreaAt(screenPlace);
+    const int dpi = DpiOf(window());
+    layOut(std::min(Scaled(kPopUpWidth, dpi), static_cast<int>(screen.right - screen.left) / 2));
+    const int edges = 2 * margin() + 2;
+    const int width = std::max(RightOf(layout_.fixed), RightOf(layout_.scrolling)) + edges;
+    const int height = std::min(fixedHeight() + layout_.scrolling.height + edges, Height(screen) * 2 / 3);
+    const LONG left = std::clamp<LONG>(screenPlace.x, screen.left, std::max(screen.left, screen.right - width));
+    const bool fitsBelow = screenPlace.y + height <= screen.bottom;
+    const LONG top = fitsBelow ? screenPlace.y : std::max<LONG>(screen.top, screen.bottom - height);
+    SetWindowPos(window(), HWND_TOP, left, top, width, height, SWP_SHOWWINDOW);
+    SetFocus(window());
+    return true;
+}
+
+void TopicPane::take(const topics::ShownTopic& topic) {
+    shown_ = topic;
+    device_.begin(shown_.file, DpiOf(window()));
+    scroll_ = {};
+    anchor_ = caret_ = {};
+    focusedLink_ = -1;
+    pressedLink_.reset();
+    isSelecting_ = false;
+}
+
+void TopicPane::show(const topics::ShownTopic& topic) {
+    take(topic);
+    layOut(static_cast<int>(clientArea().right) - 2 * margin());
+    const std::uint32_t paragraph = topics::ParagraphAt(shown_.topic, shown_.offset);
+    const auto top = topics::TopOf(layout_.scrolling, {paragraph, 0});
+    scrollTo(0, paragraph == 0 ? 0 : top.value_or(0));
+}
+
+void TopicPane::layOut(int width) {
+    layout_ = topics::LayOutTopic(source(), width);
+    fixedAreas_ = topics::LinkAreas(layout_.fixed, shown_.topic);
+    scrollingAreas_ = topics::LinkAreas(layout_.scrolling, shown_.topic);
+}
+
+bool TopicPane::onSize(UINT) {
+    if (!hasTopic()) return true;
+    if (!isPopUp_) {
+        if (device_.dpi() != DpiOf(window())) device_.begin(shown_.file, DpiOf(window()));
+        layOut(static_cast<int>(clientArea().right) - 2 * margin());
+    }
+    scrollTo(scroll_.x, scroll_.y);
+    return true;
+}
+
+void TopicPane::refreshColours() {
+    colours_ = SystemTopicColours(isPopUp_);
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+int TopicPane::margin() const {
+    return Scaled(kMargin, DpiOf(window()));
+}
+
+int TopicPane::fixedHeight() const {
+    return layout_.fixed.height == 0 ? 0 : layout_.fixed.height + margin();
+}
+
+RECT TopicPane::scrollingArea() const {
+    RECT area = clientArea();
+    area.top = std::min<LONG>(fixedHeight(), area.bottom);
+    return area;
+}
+
+int TopicPane::pageHeight() const {
+    return std::max(1, Height(scrollingArea()) - 2 * margin());
+}
+
+// ---- scrolling ---------------------------------------------------------------------------------------------------
+
+// A position beyond the end becomes the last one.
+void TopicPane::scrollTo(int x, int y) {
+    const int right =
+        std::max(layout_.scrolling.width, layout_.fixed.width) - static_cast<int>(clientArea().right) + 2 * margin();
+    scroll_.x = std::clamp(x, 0, std::max(0, right));
+    scroll_.y = std::clamp(y, 0, std::max(0, layout_.scrolling.height - pageHeight()));
+    if (!isPopUp_) updateBars();
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+void TopicPane::updateBars() {
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL | SIF_DISABLENOSCROLL;
+    info.nMax = std::max(0, layout_.scrolling.height - 1);
+    info.nPage = static_cast<UINT>(pageHeight());
+    info.nPos = scroll_.y;
+    SetScrollInfo(window(), SB_VERT, &info, TRUE);
+    info.fMask = SIF_ALL;
+    info.nMax = std::max(layout_.scrolling.width, layout_.fixed.width) - 1;
+    info.nPage = static_cast<UINT>(std::max(1, static_cast<int>(clientArea().right) - 2 * margin()));
+    info.nPos = scroll_.x;
+    SetScrollInfo(window(), SB_HORZ, &info, TRUE);
+}
+
+bool TopicPane::onScroll(int bar, UINT request) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    GetScrollInfo(window(), bar, &info);
+    const int line = Scaled(kLineStep, device_.dpi());
+    const int page = static_cast<int>(info.nPage);
+    const int steps[] = {-line, line, -page, page};
+    int position = info.nPos;
+    if (request <= SB_PAGEDOWN) position += steps[request];
+    if (request == SB_THUMBTRACK || request == SB_THUMBPOSITION) position = info.nTrackPos;
+    if (request == SB_TOP) position = 0;
+    if (request == SB_BOTTOM) position = info.nMax;
+    bar == SB_VERT ? scrollTo(scroll_.x, position) : scrollTo(position, scroll_.y);
+    return true;
+}
+
+bool TopicPane::onWheel(const WheelMessage& turn) {
+    if (turn.axis != WheelAxis::Vertical || turn.control) return false;
+    UINT lines = 3;
+    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const int notch =
+        lines == WHEEL_PAGESCROLL ? pageHeight() : static_cast<int>(lines) * Scaled(kLineStep, device_.dpi());
+    wheelRest_ += turn.delta * notch;
+    scrollBy(-wheelRest_ / kWheelNotch);
+    wheelRest_ %= kWheelNotch;
+    return true;
+}
+
+void TopicPane::bringIntoView(int top, int bottom) {
+    if (top < scroll_.y || bottom - top > pageHeight()) {
+        scrollTo(scroll_.x, top);
+    } else if (bottom > scroll_.y + pageHeight()) {
+        scrollTo(scroll_.x, bottom - pageHeight());
+    }
+}
+
+void TopicPane::lineUp() {
+    scrollBy(-Scaled(kLineStep, device_.dpi()));
+}
+
+void TopicPane::lineDown() {
+    scrollBy(Scaled(kLineStep, device_.dpi()));
+}
+
+// ---- painting ----------------------------------------------------------------------------------------------------
+
+TopicPane::Part TopicPane::fixedPart() {
+    return {&layout_.fixed, &fixedAreas_, {margin() - scroll_.x, margin() / 2}};
+}
+
+TopicPane::Part TopicPane::scrollingPart() {
+    return {&layout_.scrolling, &scrollingAreas_, {margin() - scroll_.x, scrollingArea().top + margin() - scroll_.y}};
+}
+
+bool TopicPane::onPaint(HDC dc, const RECT&) {
+    const RECT area = clientArea();
+    if (area.right <= 0 || area.bottom <= 0) return true;
+    const HDC picture = picture_.prepare(dc, area.right, area.bottom);
+    if (!picture) return true;
+    FillColour(picture, area, colours_.background);
+    if (hasTopic()) draw(picture);
+    picture_.show(dc, 0, 0, area.right, area.bottom);
+    return true;
+}
+
+void TopicPane::draw(HDC dc) {
+    const RECT area = clientArea();
+    const RECT below = scrollingArea();
+    if (below.top > 0) {
+        drawPart(dc, fixedPart(), {0, 0, area.right, below.top});
+        FillColour(dc, {0, below.top - 1, area.right, below.top}, GetSysColor(COLOR_3DSHADOW));
+    }
+    drawPart(dc, scrollingPart(), below);
+}
+
+void TopicPane::drawPart(HDC dc, const Part& part, const RECT& visible) {
+    const int saved = SaveDC(dc);
+    IntersectClipRect(dc, visible.left, visible.top, visible.right, visible.bottom);
+    const topics::LayoutSource laid = source();
+    TopicPainter(dc, laid, device_, colours_).draw(*part.region, part.origin, visible);
+    const auto moved = [&part](const topics::Box& box) {
+        return RECT{part.origin.x + box.left, part.origin.y + box.top, part.origin.x + box.right,
+                    part.origin.y + box.bottom};
+    };
+    const auto [from, to] = std::minmax(anchor_, caret_);
+    if (from < to) {
+        for (const topics::Box& box : topics::SelectionBoxes(*part.region, laid, from, to)) {
+            const RECT marked = moved(box);
+            InvertRect(dc, &marked);
+        }
+    }
+    SetTextColor(dc, colours_.text);
+    SetBkColor(dc, colours_.background);
+    for (const topics::LinkArea& area : *part.areas) {
+        const RECT focused = moved(area.box);
+        if (area.link == focusedLink_) DrawFocusRect(dc, &focused);
+    }
+    RestoreDC(dc, saved);
+}
+
+// ---- mouse -------------------------------------------------------------------------------------------------------
+
+TopicPane::Part TopicPane::partAt(POINT place) {
+    return place.y < scrollingArea().top ? fixedPart() : scrollingPart();
+}
+
+std::optional<int> TopicPane::linkAt(POINT place) {
+    const Part part = partAt(place);
+    return topics::LinkAt(*part.areas, static_cast<int>(place.x - part.origin.x),
+                          static_cast<int>(place.y - part.origin.y));
+}
+
+topics::TextPosition TopicPane::positionAt(POINT place) {
+    const Part part = partAt(place);
+    return topics::PositionAt(*part.region, source(), static_cast<int>(place.x - part.origin.x),
+                              static_cast<int>(place.y - part.origin.y));
+}
+
+bool TopicPane::onSetCursor(UINT hitTest) {
+    POINT place{};
+    if (hitTest != HTCLIENT || !hasTopic() || !GetCursorPos(&place)) return false;
+    ScreenToClient(window(), &place);
+    const HCURSOR hand = linkAt(place) ? LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)) : nullptr;
+    SetCursor(hand ? hand : LoadCursorA(nullptr, IDC_ARROW));
+    return true;
+}
+
+bool TopicPane::onMousePress(const MouseButtonMessage& press) {
+    if (!hasTopic()) return true;
+    SetFocus(window());
+    host_.panePressed(*this);
+    pressedLink_ = linkAt(press.place);
+    const topics::TextPosition position = positionAt(press.place);
+    select(press.shift ? anchor_ : position, position);
+    isSelecting_ = true;
+    SetCapture(window());
+    return true;
+}
+
+bool TopicPane::onMouseMove(POINT place) {
+    if (isSelecting_) select(anchor_, positionAt(place));
+    return isSelecting_;
+}
+
+bool TopicPane::onMouseRelease() {
+    if (!isSelecting_) return false;
+    ReleaseCapture();
+    POINT place{};
+    GetCursorPos(&place);
+    ScreenToClient(window(), &place);
+    const std::optional<int> pressed = std::exchange(pressedLink_, std::nullopt);
+    const bool isClick = pressed && linkAt(place) == pressed && anchor_ == caret_;
+    if (isClick) followLink(*pressed);
+    return true;
+}
+
+bool TopicPane::onCaptureLost() {
+    isSelecting_ = false;
+    return true;
+}
+
+// ---- selection ---------------------------------------------------------------------------------------------------
+
+void TopicPane::select(topics::TextPosition from, topics::TextPosition to) {
+    anchor_ = from;
+    caret_ = to;
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+void TopicPane::selectAll() {
+    const auto& paragraphs = shown_.topic.paragraphs;
+    if (paragraphs.empty()) return;
+    select({0, 0}, {static_cast<std::uint32_t>(paragraphs.size() - 1),
+                    static_cast<std::uint32_t>(paragraphs.back().text.size())});
+}
+
+void TopicPane::copy() {
+    const auto [from, to] = std::minmax(anchor_, caret_);
+    const std::string text = topics::TextBetween(shown_.topic, from, to);
+    if (text.empty() || !OpenClipboard(window())) return;
+    EmptyClipboard();
+    if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1)) {
+        auto* bytes = static_cast<char*>(GlobalLock(memory));
+        std::copy_n(text.c_str(), text.size() + 1, bytes);
+        GlobalUnlock(memory);
+        if (!SetClipboardData(CF_TEXT, memory)) GlobalFree(memory);
+    }
+    CloseClipboard();
+}
+
+bool TopicPane::findNext(const std::string& text) {
+    if (!hasTopic()) return false;
+    auto found = topics::FindText(shown_.topic, text, std::max(anchor_, caret_), false);
+    if (!found) found = topics::FindText(shown_.topic, text, {}, false);
+    if (!found) return false;
+    select(*found, {found->paragraph, found->character + static_cast<std::uint32_t>(text.size())});
+    if (const auto top = topics::TopOf(layout_.scrolling, *found))
+        bringIntoView(*top, *top + Scaled(kLineStep, device_.dpi()));
+    return true;
+}
+
+// ---- links and keys ----------------------------------------------------------------------------------------------
+
+std::vector<topics::LinkArea> TopicPane::allAreas() const {
+    std::vector<topics::LinkArea> areas = fixedAreas_;
+    areas.insert(areas.end(), scrollingAreas_.begin(), scrollingAreas_.end());
+    return areas;
+}
+
+void TopicPane::goToLink(bool forward) {
+    focusedLink_ = topics::NextLink(allAreas(), focusedLink_, forward);
+    const auto area = std::ranges::find(scrollingAreas_, focusedLink_, &topics::LinkArea::link);
+    if (area != scrollingAreas_.end()) bringIntoView(area->box.top, area->box.bottom);
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+void TopicPane::followFocusedLink() {
+    if (focusedLink_ >= 0) followLink(focusedLink_);
+}
+
+// The link is copied: what it leads to takes the place of the topic.
+void TopicPane::followLink(int number) {
+    focusedLink_ = number;
+    InvalidateRect(window(), nullptr, FALSE);
+    for (const Part& part : {fixedPart(), scrollingPart()}) {
+        const auto area = std::ranges::find(*part.areas, number, &topics::LinkArea::link);
+        if (area == part.areas->end()) continue;
+        linkPlace_ = {part.origin.x + area->box.left, part.origin.y + area->box.bottom};
+        ClientToScreen(window(), &linkPlace_);
+    }
+    const topics::Link link = shown_.topic.links[static_cast<std::size_t>(number)];
+    host_.followLink(*this, link);
+}
+
+bool TopicPane::onFocusGained() {
+    return true;
+}
+
+bool TopicPane::onFocusLost() {
+    host_.paneLeft(*this);
+    return true;
+}
+
+bool TopicPane::onKey(const KeyMessage& key) {
+    const auto isKey = [&key](const TopicPaneKeys::Row& row) {
+        return row.key == key.key && row.control == key.control && row.shift == key.shift && !key.alt;
+    };
+    const auto row = std::ranges::find_if(TopicPaneKeys::kRows, isKey);
+    if (row == std::end(TopicPaneKeys::kRows) || !hasTopic()) return host_.useKey(key);
+    (this->*row->run)();
+    return true;
+}
+
+}  // namespace vexa
