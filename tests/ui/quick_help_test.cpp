@@ -132,6 +132,9 @@ TEST_F(QuickHelpWindowTest, RealHelpFilesOpen) {
         editor.keys("{Tab}{Enter}");
         EXPECT_TRUE(editor.answers()) << name;
         editor.takePicture("help-" + name + "-link");
+        editor.keys("{Tab}{Enter}");
+        EXPECT_TRUE(editor.answers()) << name;
+        editor.takePicture("help-" + name + "-second-link");
     }
 }
 
