@@ -93,7 +93,7 @@ INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM lParam) {
     switch (number) {
         case WM_INITDIALOG:
             open();
-            return TRUE;
+            return !IsChild(window_, GetFocus());  // a handler may have chosen the control to begin with
         case WM_COMMAND:
             command(LOWORD(wParam), HIWORD(wParam));
             return TRUE;

@@ -27,23 +27,6 @@ class DialogFrameCL {
     void close(bool accepted);
     HWND window() const { return window_; }
 
-  protected:
-    // ---- handlers ----
-    virtual void onOpen() {}
-    virtual void onAccept() { close(true); }
-    virtual void onCancel() { close(false); }
-    virtual void onHelp() {}
-    // A control has told something: BN_CLICKED, EN_CHANGE, CBN_SELCHANGE...
-    virtual void onControl(int /*control*/, UINT /*notification*/) {}
-    // A row of a control that the program draws itself; false leaves it empty.
-    virtual bool onDrawItem(const DRAWITEMSTRUCT& /*item*/) { return false; }
-    virtual void onActivate(bool /*active*/) {}
-    // The window is gone; the object may be destroyed here.
-    virtual void onGone() {}
-    // Where the dialog opens, given its owner's top-left corner; over the middle of the owner without an answer.
-    virtual std::optional<POINT> openingCorner(POINT /*owner*/) { return std::nullopt; }
-    virtual void keepCorner(POINT /*owner*/, POINT /*corner*/) {}
-
     // ---- controls ----
     std::string textOf(int control) const;
     void setTextOf(int control, const std::string& text);
@@ -68,6 +51,23 @@ class DialogFrameCL {
     // Puts the caret into a field with all of its text selected.
     void focusOn(int control);
     HWND control(int number) const { return GetDlgItem(window_, number); }
+
+  protected:
+    // ---- handlers ----
+    virtual void onOpen() {}
+    virtual void onAccept() { close(true); }
+    virtual void onCancel() { close(false); }
+    virtual void onHelp() {}
+    // A control has told something: BN_CLICKED, EN_CHANGE, CBN_SELCHANGE...
+    virtual void onControl(int /*control*/, UINT /*notification*/) {}
+    // A row of a control that the program draws itself; false leaves it empty.
+    virtual bool onDrawItem(const DRAWITEMSTRUCT& /*item*/) { return false; }
+    virtual void onActivate(bool /*active*/) {}
+    // The window is gone; the object may be destroyed here.
+    virtual void onGone() {}
+    // Where the dialog opens, given its owner's top-left corner; over the middle of the owner without an answer.
+    virtual std::optional<POINT> openingCorner(POINT /*owner*/) { return std::nullopt; }
+    virtual void keepCorner(POINT /*owner*/, POINT /*corner*/) {}
 
   private:
     // What a field needs whose keys move through a list.

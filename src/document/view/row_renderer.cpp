@@ -22,20 +22,6 @@ ColumnSpan MarkedStream(const TextDocument& document, const MarkedArea& area, Li
     return {begin, line == area.end.line ? area.end.column : lineEnd};
 }
 
-std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns) {
-    std::string cells;
-    const CharColumn first = ToCharacter(text, left, tabSize);
-    DisplayColumn column = ToDisplay(text, first, tabSize);
-    const DisplayColumn right = left + columns;
-    for (auto i = static_cast<std::size_t>(first.value); i < text.size() && column < right; ++i) {
-        const DisplayColumn begin = std::max(column, left);
-        column = text[i] == '\t' ? DisplayColumn((column.value / tabSize + 1) * tabSize) : column + 1;
-        const char cell = text[i] == '\t' ? ' ' : text[i];
-        cells.append(static_cast<std::size_t>(std::max(std::min(column, right) - begin, 0)), cell);
-    }
-    return cells;
-}
-
 // Lays runs over the window's cells from left to right, each up to an end; an empty one is left out and equal ones are
 // joined.
 class RunList {
@@ -118,6 +104,20 @@ ViewRow Render(const TextDocument& document, LineIndex line, DisplayColumn left,
 }
 
 }  // namespace
+
+std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns) {
+    std::string cells;
+    const CharColumn first = ToCharacter(text, left, tabSize);
+    DisplayColumn column = ToDisplay(text, first, tabSize);
+    const DisplayColumn right = left + columns;
+    for (auto i = static_cast<std::size_t>(first.value); i < text.size() && column < right; ++i) {
+        const DisplayColumn begin = std::max(column, left);
+        column = text[i] == '\t' ? DisplayColumn((column.value / tabSize + 1) * tabSize) : column + 1;
+        const char cell = text[i] == '\t' ? ' ' : text[i];
+        cells.append(static_cast<std::size_t>(std::max(std::min(column, right) - begin, 0)), cell);
+    }
+    return cells;
+}
 
 ColumnSpan MarkedColumns(const TextDocument& document, LineIndex line) {
     const MarkedArea& area = document.marked();

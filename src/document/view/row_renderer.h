@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/units.h"
@@ -28,6 +29,9 @@ struct ViewRow {
 
     bool operator==(const ViewRow&) const = default;
 };
+
+// The characters of a text in the cells of a window that shows that many columns from left on, tabs as blanks.
+std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns);
 
 // Display columns from begin up to end; none when they are equal.
 struct ColumnSpan {

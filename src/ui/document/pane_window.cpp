@@ -59,8 +59,8 @@ void PaneWindowCL::refresh() {
     if (!window()) return;
     refreshRows();
     refreshCaret();
-    refreshScrollBar(SB_VERT);
-    refreshScrollBar(SB_HORZ);
+    for (const int bar : {SB_VERT, SB_HORZ})
+        scrollBars_.show(window(), bar, scrollState(bar));
     host_.viewChanged();
 }
 
@@ -132,23 +132,6 @@ ScrollState PaneWindowCL::scrollState(int bar) const {
     return {view_.widestColumn().value, view_.columns(), view_.leftColumn().value};
 }
 
-void PaneWindowCL::refreshScrollBar(int bar) {
-    const ScrollState state = Shown(scrollState(bar));
-    if (state == shownScroll_[bar]) return;
-    shownScroll_[bar] = state;
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
-    info.nMax = state.last;
-    info.nPage = static_cast<UINT>(state.page);
-    info.nPos = state.position;
-    const RECT client = clientArea();
-    std::optional<ScrollState>& drawn = drawnScroll_[bar];
-    const bool draws = !drawn || ThumbMoves(*drawn, state, bar == SB_VERT ? client.bottom : client.right);
-    if (draws) drawn = state;
-    SetScrollInfo(window(), bar, &info, draws);
-}
-
 void PaneWindowCL::scrollTo(int bar, std::int32_t position) {
     if (bar == SB_VERT) {
         view_.scrollToLine(LineIndex(position));
@@ -161,11 +144,7 @@ void PaneWindowCL::scrollTo(int bar, std::int32_t position) {
 
 bool PaneWindowCL::onScroll(int bar, UINT request) {
     host_.userActs();
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_TRACKPOS;  // the message itself has room for 16 bits of it only
-    GetScrollInfo(window(), bar, &info);
-    scrollTo(bar, ScrollTarget(request, scrollState(bar), info.nTrackPos));
+    scrollTo(bar, WindowScrollBars::target(window(), bar, request, scrollState(bar)));
     return true;
 }
 
@@ -173,23 +152,13 @@ bool PaneWindowCL::onWheel(const WheelMessage& turn) {
     if (turn.control) {
         const std::int32_t steps = zoom_.add(-turn.delta, 1);
         if (steps != 0) host_.zoom(steps);
-    } else if (turn.axis == WheelAxis::Horizontal) {
-        scrollByWheel(SB_HORZ, turn.delta);
-    } else {
-        scrollByWheel(turn.shift ? SB_HORZ : SB_VERT, -turn.delta);
+        return true;
     }
-    return true;
-}
-
-// A delta above 0 goes towards the end of the lines or of the document.
-void PaneWindowCL::scrollByWheel(int bar, int delta) {
-    UINT linesPerNotch = 3;
-    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &linesPerNotch, 0);
+    const int bar = WindowScrollBars::barOf(turn);
     const ScrollState state = scrollState(bar);
-    const auto most = static_cast<UINT>(state.page);  // also for the setting "one page a notch"
-    const auto lines = wheel_[bar].add(-delta, static_cast<std::int32_t>(std::min(linesPerNotch, most)));
-    const std::int32_t end = std::max({state.last - state.page + 1, state.position, 0});
-    if (lines != 0) scrollTo(bar, std::clamp(state.position + lines, 0, end));
+    const std::int32_t target = scrollBars_.target(turn, state);
+    if (target != state.position) scrollTo(bar, target);
+    return true;
 }
 
 // ---- keys --------------------------------------------------------------------------------------------------------

@@ -8,8 +8,8 @@
 #include "ui/document/click_rules.h"
 #include "ui/document/key_translation.h"
 #include "ui/document/row_painter.h"
-#include "ui/document/scroll_rules.h"
 #include "ui/document/shown_rows.h"
+#include "ui/document/window_scroll_bars.h"
 
 namespace vexa {
 
@@ -76,11 +76,9 @@ class PaneWindowCL : public WindowCL {
     void fitView();
     void refreshRows();
     void refreshCaret();
-    void refreshScrollBar(int bar);
     void startDrag(POINT place, bool extend, MousePress how);
     void endDrag();
     MousePress kindOf(const MouseButtonMessage& press);
-    void scrollByWheel(int bar, int delta);
     Cell cellAt(POINT place) const;
     POINT caretPlace() const;
     ScrollState scrollState(int bar) const;
@@ -93,14 +91,12 @@ class PaneWindowCL : public WindowCL {
     RowPainter painter_;
     KeyTranslator keys_;
     TripleClick tripleClick_;
-    WheelSteps wheel_[2];  // by bar
     WheelSteps zoom_;
     ShownRows<ViewRow> rows_;
     LineIndex shownTop_;  // where the rows begin
     DisplayColumn shownLeft_;
-    ScrollState shownScroll_[2];                 // by bar
-    std::optional<ScrollState> drawnScroll_[2];  // the same, when the bar was last drawn
-    SIZE caretSize_ = {};                        // none while the window has not the focus
+    WindowScrollBars scrollBars_;
+    SIZE caretSize_ = {};  // none while the window has not the focus
     POINT dragPlace_ = {};
     bool isDragging_ = false;
     bool dropsAltRelease_ = false;

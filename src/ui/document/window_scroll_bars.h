@@ -1,0 +1,31 @@
+// The two scroll bars of a window, and the wheels that scroll it.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "framework/window.h"
+#include "ui/document/scroll_rules.h"
+
+namespace vexa {
+
+// Bars are SB_VERT and SB_HORZ, their positions lines and columns.
+class WindowScrollBars {
+  public:
+    // Shows a state. A thumb that would look the same is not drawn again.
+    void show(HWND window, int bar, const ScrollState& state);
+    // The position that a request of a bar asks for.
+    static std::int32_t target(HWND window, int bar, UINT request, const ScrollState& state);
+    // The bar that a wheel moves; with Shift, one for lines moves columns.
+    static int barOf(const WheelMessage& turn);
+    // The position that the turn of a wheel asks for, given the state of its bar.
+    std::int32_t target(const WheelMessage& turn, const ScrollState& state);
+
+  private:
+    ScrollState shown_[2];                 // by bar
+    std::optional<ScrollState> drawn_[2];  // the same, when the bar was last drawn
+    WheelSteps wheel_[2];
+};
+
+}  // namespace vexa

@@ -1,0 +1,191 @@
+#include "ui/lists/list_pane.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vexa {
+namespace {
+
+const WindowClass kPaneClass{.name = "ListPaneCL"};
+
+std::int32_t CellsIn(LONG pixels, int cell) {
+    return std::max<std::int32_t>(pixels / cell, 1);
+}
+
+}  // namespace
+
+bool ListPane::open(HWND parent) {
+    return create(kPaneClass,
+                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {0, 0, 0, 0}, .parent = parent});
+}
+
+bool ListPane::onCreate() {
+    painter_.setFont(MakePaneFont(fontDetails_, window()));
+    return true;
+}
+
+void ListPane::refreshFont() {
+    painter_.setFont(MakePaneFont(fontDetails_, window()));
+    refreshColours();
+}
+
+void ListPane::refreshColours() {
+    rows_.clear();
+    refresh();
+    InvalidateRect(window(), nullptr, FALSE);
+}
+
+bool ListPane::onSize(UINT /*kind*/) {
+    refresh();
+    // What the system has moved along with the window need not be what belongs there now.
+    InvalidateRect(window(), nullptr, FALSE);
+    return true;
+}
+
+// ---- showing -----------------------------------------------------------------------------------------------------
+
+std::int32_t ListPane::rowsInWindow() const {
+    return CellsIn(clientArea().bottom, painter_.cellHeight());
+}
+
+std::int32_t ListPane::columnsInWindow() const {
+    return CellsIn(clientArea().right, painter_.cellWidth());
+}
+
+void ListPane::refresh() {
+    if (!window()) return;
+    const auto count = static_cast<std::int32_t>(list_.rowCount());
+    if (count == 0) left_ = widest_ = 0;
+    top_ = std::clamp(top_, 0, std::max(count - rowsInWindow(), 0));
+    drawRows();
+    for (const int bar : {SB_VERT, SB_HORZ})
+        scrollBars_.show(window(), bar, scrollState(bar));
+}
+
+void ListPane::drawRows() {
+    const std::int32_t moved = top_ - std::exchange(shownTop_, top_);
+    const int height = painter_.cellHeight();
+    const auto count = static_cast<std::size_t>((clientArea().bottom + height - 1) / height);
+    rows_.show(window(), count, height, moved,
+               [this](std::int32_t row) { return render(static_cast<std::size_t>(top_ + row)); });
+}
+
+ViewRow ListPane::render(std::size_t row) {
+    const std::int32_t columns = columnsInWindow() + 1;  // the last one may be seen in part
+    if (row >= list_.rowCount()) return RenderListRow({}, RowKind::Plain, false, left_, columns);
+    const std::string_view text = list_.rowText(row);
+    widest_ = std::max(widest_, ListRowWidth(text));
+    return RenderListRow(text, list_.rowKind(row), list_.selectedRow() == row, left_, columns);
+}
+
+bool ListPane::onEraseBackground(HDC /*dc*/) {
+    return true;
+}
+
+bool ListPane::onPaint(HDC dc, const RECT& update) {
+    const LONG right = clientArea().right;
+    rows_.paint(update, painter_.cellHeight(),
+                [&](int top, const ViewRow& row) { painter_.paint(dc, top, right, row); });
+    return true;
+}
+
+void ListPane::showSelection() {
+    if (!window()) return;
+    if (const auto row = list_.selectedRow()) {
+        const auto page = static_cast<std::size_t>(rowsInWindow());
+        top_ = static_cast<std::int32_t>(TopShowing(*row, static_cast<std::size_t>(top_), page));
+    }
+    refresh();
+    UpdateWindow(window());
+}
+
+// ---- scrolling ---------------------------------------------------------------------------------------------------
+
+// Two columns more than the widest row has tell that it ends there.
+ScrollState ListPane::scrollState(int bar) const {
+    if (bar == SB_VERT) return {static_cast<std::int32_t>(list_.rowCount()) - 1, rowsInWindow(), top_};
+    const std::int32_t longest = std::max(static_cast<std::int32_t>(list_.longestRow()), widest_);
+    return {longest + 1, columnsInWindow(), left_};
+}
+
+void ListPane::scrollTo(int bar, std::int32_t position) {
+    (bar == SB_VERT ? top_ : left_) = position;
+    refresh();
+    UpdateWindow(window());
+}
+
+bool ListPane::onScroll(int bar, UINT request) {
+    host_.userActs();
+    scrollTo(bar, WindowScrollBars::target(window(), bar, request, scrollState(bar)));
+    return true;
+}
+
+bool ListPane::onWheel(const WheelMessage& turn) {
+    if (turn.control) {
+        const std::int32_t steps = zoom_.add(-turn.delta, 1);
+        if (steps != 0) host_.zoom(steps);
+        return true;
+    }
+    const int bar = WindowScrollBars::barOf(turn);
+    scrollTo(bar, scrollBars_.target(turn, scrollState(bar)));
+    return true;
+}
+
+// ---- keys and mouse ----------------------------------------------------------------------------------------------
+
+void ListPane::selectAndShow(std::size_t row) {
+    list_.selectRow(row);
+    showSelection();
+}
+
+bool ListPane::onKey(const KeyMessage& key) {
+    if (key.alt || key.control) return false;
+    host_.userActs();
+    const ListExtent extent{list_.rowCount(), static_cast<std::size_t>(rowsInWindow())};
+    if (const auto row = RowAfterKey(key.key, list_.selectedRow(), extent)) {
+        selectAndShow(*row);
+    } else if (key.key == VK_LEFT || key.key == VK_RIGHT) {
+        onScroll(SB_HORZ, key.key == VK_LEFT ? SB_LINELEFT : SB_LINERIGHT);
+    } else if (key.key == VK_RETURN && list_.selectedRow()) {
+        list_.activateRow();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+std::optional<std::size_t> ListPane::rowAt(POINT position) const {
+    const std::int32_t row = top_ + position.y / painter_.cellHeight();
+    if (position.y < 0 || static_cast<std::size_t>(row) >= list_.rowCount()) return std::nullopt;
+    return static_cast<std::size_t>(row);
+}
+
+bool ListPane::onMousePress(const MouseButtonMessage& press) {
+    SetFocus(window());
+    host_.userActs();
+    const auto row = rowAt(press.place);
+    if (!row) return true;
+    selectAndShow(*row);
+    if (press.isDouble) list_.activateRow();
+    return true;
+}
+
+POINT ListPane::menuPosition() const {
+    const auto row = static_cast<LONG>(list_.selectedRow().value_or(0));
+    POINT position{0, std::clamp<LONG>(row - top_, 0, rowsInWindow()) * painter_.cellHeight()};
+    ClientToScreen(window(), &position);
+    return position;
+}
+
+bool ListPane::onContextMenu(std::optional<POINT> screenPosition) {
+    host_.userActs();
+    if (screenPosition) {
+        POINT position = *screenPosition;
+        ScreenToClient(window(), &position);
+        if (const auto row = rowAt(position)) selectAndShow(*row);
+    }
+    host_.showContextMenu(screenPosition ? *screenPosition : menuPosition());
+    return true;
+}
+
+}  // namespace vexa

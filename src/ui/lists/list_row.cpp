@@ -1,0 +1,69 @@
+#include "ui/lists/list_row.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "document/text/columns.h"
+
+namespace vexa {
+namespace {
+
+constexpr std::int32_t kTabSize = 8;  // as the programs expect whose output is listed
+
+// The colours of the editor's text that stand out from it in all the colour schemes that have colours.
+ColourElement ColourOf(RowKind kind) {
+    switch (kind) {
+        case RowKind::Error:
+            return ColourElement::Keywords;
+        case RowKind::Warning:
+            return ColourElement::Strings;
+        case RowKind::Plain:
+            break;
+    }
+    return ColourElement::DefaultText;
+}
+
+using Step = std::size_t (*)(std::size_t row, std::size_t page, std::size_t last);
+
+struct KeyRow {
+    unsigned key;  // as Windows numbers it
+    Step step;
+};
+constexpr KeyRow kKeys[] = {
+    {0x21, [](std::size_t row, std::size_t page, std::size_t) { return row - std::min(row, page); }},        // PgUp
+    {0x22, [](std::size_t row, std::size_t page, std::size_t last) { return std::min(row + page, last); }},  // PgDn
+    {0x23, [](std::size_t, std::size_t, std::size_t last) { return last; }},                                 // End
+    {0x24, [](std::size_t, std::size_t, std::size_t) { return std::size_t{0}; }},                            // Home
+    {0x26, [](std::size_t row, std::size_t, std::size_t) { return row - std::min<std::size_t>(row, 1); }},   // Up
+    {0x28, [](std::size_t row, std::size_t, std::size_t last) { return std::min(row + 1, last); }},          // Down
+};
+
+}  // namespace
+
+ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, std::int32_t left, std::int32_t columns) {
+    const CellRun run{0, columns, isSelected ? ColourElement::MarkingText : ColourOf(kind),
+                      isSelected ? ColourElement::MarkingBackground : ColourElement::Background};
+    return {VisibleCells(text, kTabSize, DisplayColumn(left), columns), {run}};
+}
+
+std::int32_t ListRowWidth(std::string_view text) {
+    return ToDisplay(text, CharColumn(static_cast<std::int32_t>(text.size())), kTabSize).value;
+}
+
+std::optional<std::size_t> RowAfterKey(unsigned key, std::optional<std::size_t> selected, const ListExtent& extent) {
+    const auto* const found = std::ranges::find(kKeys, key, &KeyRow::key);
+    if (found == std::end(kKeys) || extent.rows == 0) return std::nullopt;
+    const std::size_t last = extent.rows - 1;
+    const bool isSingle = key == 0x26 || key == 0x28;
+    if (!selected && isSingle) return 0;
+    // A row at the edge of a page stays in sight after the next.
+    const std::size_t page = std::max<std::size_t>(extent.page, 2) - 1;
+    return found->step(std::min(selected.value_or(0), last), page, last);
+}
+
+std::size_t TopShowing(std::size_t row, std::size_t top, std::size_t page) {
+    if (row < top) return row;
+    return row >= top + page ? row - page + 1 : top;
+}
+
+}  // namespace vexa

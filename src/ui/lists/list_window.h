@@ -1,0 +1,62 @@
+// A window inside the frame that shows one list, such as what a program has printed.
+#pragma once
+
+#include <functional>
+
+#include "framework/mdi_child.h"
+#include "ui/document/application.h"
+#include "ui/lists/list_pane.h"
+
+namespace vexa {
+
+// What a list's window asks of the frame.
+class ListHost {
+  public:
+    virtual ~ListHost() = default;
+    // The user is about to do something in the list.
+    virtual void userActs() = 0;
+    // The user wants larger characters, or smaller ones below 0.
+    virtual void zoom(std::int32_t steps) = 0;
+};
+
+extern const WindowClass kListWindowClass;
+
+class ListWindow : public MDIchildCL, private ListPaneHost {
+  public:
+    // The owner is told when the window has gone, and the object is going to be destroyed.
+    using Gone = std::function<void()>;
+
+    ListWindow(MDIframeCL& frame, ListHost& host, ListRows& rows, Application& application, Gone gone);
+
+    // The selected row goes to the clipboard as a line of text.
+    void copy();
+    void copyAll();
+    void refresh() { pane_.refresh(); }
+    void showSelection() { pane_.showSelection(); }
+    // Takes over another font, or the resolution of the monitor that the frame is on.
+    void refreshFont() { pane_.refreshFont(); }
+    // Takes over colours that have been changed.
+    void refreshColours() { pane_.refreshColours(); }
+
+    void onClosing() override { rows_.closed(); }
+
+  protected:
+    bool onCreate() override { return pane_.open(window()); }
+    bool onSize(UINT kind) override;
+    bool onFocusGained() override;
+    void onGone() override;
+
+  private:
+    void userActs() override;
+    void zoom(std::int32_t steps) override { host_.zoom(steps); }
+    void showContextMenu(POINT screenPosition) override;
+    void copyRows(std::size_t first, std::size_t count);
+
+    ListHost& host_;
+    ListRows& rows_;
+    ClipboardStore& clipboard_;
+    ListPane pane_;
+    const Gone gone_;
+};
+
+}  // namespace vexa

@@ -1,0 +1,48 @@
+#include "ui/lists/list_row.h"
+
+#include <gtest/gtest.h>
+
+namespace vexa {
+namespace {
+
+TEST(ListRow, KindsAndSelectionAreToldApartByColour) {
+    const ViewRow error = RenderListRow("a\tb", RowKind::Error, false, 0, 12);
+    EXPECT_EQ(error.cells, "a       b");
+    EXPECT_EQ(RenderListRow("a\tb", RowKind::Error, false, 7, 12).cells, " b");
+    const ViewRow warning = RenderListRow("a\tb", RowKind::Warning, false, 0, 12);
+    const ViewRow plain = RenderListRow("a\tb", RowKind::Plain, false, 0, 12);
+    EXPECT_FALSE(error == warning || error == plain || warning == plain);
+    EXPECT_EQ(RenderListRow("x", RowKind::Error, true, 0, 9).runs,
+              (std::vector<CellRun>{{0, 9, ColourElement::MarkingText, ColourElement::MarkingBackground}}));
+    EXPECT_EQ(ListRowWidth("a\tb"), 9);
+}
+
+TEST(ListRow, KeysMoveTheSelectionWithinTheList) {
+    enum Key : unsigned { kPageUp = 0x21, kPageDown, kEnd, kHome, kLeft, kUp, kRight, kDown };
+    constexpr std::optional<std::size_t> kNone;
+    struct Case {
+        Key key;
+        std::optional<std::size_t> selected;
+        ListExtent extent;
+        std::optional<std::size_t> target;
+    };
+    const Case cases[] = {
+        {kDown, kNone, {100, 10}, 0},        {kUp, kNone, {100, 10}, 0},     {kDown, 0, {100, 10}, 1},
+        {kDown, 99, {100, 10}, 99},          {kUp, 0, {100, 10}, 0},         {kUp, 5, {100, 10}, 4},
+        {kPageDown, 0, {100, 10}, 9},        {kPageDown, 95, {100, 10}, 99}, {kPageUp, 95, {100, 10}, 86},
+        {kPageUp, 5, {100, 10}, 0},          {kPageDown, 0, {100, 1}, 1},    {kHome, 50, {1'000'000, 10}, 0},
+        {kEnd, 0, {1'000'000, 10}, 999'999}, {kEnd, kNone, {0, 10}, kNone},  {kDown, kNone, {0, 10}, kNone},
+        {kLeft, 5, {100, 10}, kNone},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(RowAfterKey(c.key, c.selected, c.extent), c.target) << c.key;
+}
+
+TEST(ListRow, AWindowMovesAsLittleAsCanBeToShowARow) {
+    EXPECT_EQ(TopShowing(5, 10, 20), 5u);
+    EXPECT_EQ(TopShowing(29, 10, 20), 10u);
+    EXPECT_EQ(TopShowing(30, 10, 20), 11u);
+}
+
+}  // namespace
+}  // namespace vexa
