@@ -11,6 +11,12 @@ void AppendItem(HMENU menu, const MenuItem& item) {
     }
 }
 
+void DeleteItems(HMENU menu, const std::vector<WORD>& numbers, WORD separator) {
+    for (const WORD number : numbers)
+        DeleteMenu(menu, number, MF_BYCOMMAND);
+    DeleteMenu(menu, separator, MF_BYCOMMAND);
+}
+
 }  // namespace
 
 MenuHandle MakePopupMenu(const std::vector<MenuItem>& items) {
@@ -39,12 +45,26 @@ MenuHandle MakeMenuBar(const std::vector<MenuRows>& menus) {
 
 void ReplaceItemsBefore(HMENU menu, WORD before, const std::vector<WORD>& numbers, const std::vector<MenuItem>& items,
                         WORD separator) {
-    for (const WORD number : numbers)
-        DeleteMenu(menu, number, MF_BYCOMMAND);
-    DeleteMenu(menu, separator, MF_BYCOMMAND);
+    DeleteItems(menu, numbers, separator);
     for (const MenuItem& item : items)
         InsertMenuA(menu, before, MF_BYCOMMAND | MF_STRING, item.id, item.text.c_str());
     if (!items.empty()) InsertMenuA(menu, before, MF_BYCOMMAND | MF_SEPARATOR, separator, nullptr);
+}
+
+void ReplaceItemsAtEnd(HMENU menu, const std::vector<WORD>& numbers, const std::vector<MenuItem>& items,
+                       WORD separator) {
+    DeleteItems(menu, numbers, separator);
+    if (!items.empty()) AppendMenuA(menu, MF_SEPARATOR, separator, nullptr);
+    for (const MenuItem& item : items)
+        AppendItem(menu, item);
+}
+
+HMENU SubmenuWith(HMENU bar, WORD item) {
+    for (int i = 0; i < GetMenuItemCount(bar); ++i) {
+        const HMENU menu = GetSubMenu(bar, i);
+        if (menu && GetMenuState(menu, item, MF_BYCOMMAND) != static_cast<UINT>(-1)) return menu;
+    }
+    return nullptr;
 }
 
 void RefreshMenu(HMENU menu, const StateQuery& stateOf) {

@@ -39,6 +39,12 @@ MenuHandle MakeMenuBar(const std::vector<MenuRows>& menus);
 void ReplaceItemsBefore(HMENU menu, WORD before, const std::vector<WORD>& numbers, const std::vector<MenuItem>& items,
                         WORD separator);
 
+// Puts items in at the end of a menu, in the place of those that it put there before, and a separator above them.
+void ReplaceItemsAtEnd(HMENU menu, const std::vector<WORD>& numbers, const std::vector<MenuItem>& items,
+                       WORD separator);
+// The menu of a menu bar that has the item; none when there is none.
+HMENU SubmenuWith(HMENU bar, WORD item);
+
 // Greys and checks the items of an opened menu. Items that stateOf knows nothing of (none) stay as they are.
 using StateQuery = std::function<std::optional<ItemState>(WORD id)>;
 void RefreshMenu(HMENU menu, const StateQuery& stateOf);

@@ -1,45 +1,12 @@
 // Text that goes between documents and other programs.
 #include <gtest/gtest.h>
 
-#include <cstring>
-
+#include "ui/clipboard.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
 
 namespace vexa::test {
 namespace {
-
-class OpenedClipboard {
-  public:
-    OpenedClipboard() {
-        WaitUntil([this] { return isOpen_ = OpenClipboard(nullptr); });
-    }
-    ~OpenedClipboard() {
-        if (isOpen_) CloseClipboard();
-    }
-
-  private:
-    bool isOpen_ = false;
-};
-
-std::string ClipboardText() {
-    const OpenedClipboard clipboard;
-    const HANDLE memory = GetClipboardData(CF_TEXT);
-    if (!memory) return "(nothing)";
-    const std::string text = static_cast<const char*>(GlobalLock(memory));
-    GlobalUnlock(memory);
-    return text;
-}
-
-// As another program would: text alone.
-void PutForeignText(const std::string& text) {
-    const OpenedClipboard clipboard;
-    EmptyClipboard();
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
-    std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
-    GlobalUnlock(memory);
-    SetClipboardData(CF_TEXT, memory);
-}
 
 class ClipboardTest : public ::testing::Test {
   protected:

@@ -164,8 +164,11 @@ HWND Editor::activeDocument() const {
 }
 
 HWND Editor::activePane() const {
-    const std::vector<HWND> panes = ChildrenOf(activeDocument(), "PaneWindowCL");
-    return panes.empty() ? nullptr : panes[0];
+    for (const char* name : {"PaneWindowCL", "ListPaneCL"}) {
+        const std::vector<HWND> panes = ChildrenOf(activeDocument(), name);
+        if (!panes.empty()) return panes[0];
+    }
+    return nullptr;
 }
 
 std::string Editor::pane(std::size_t index) const {

@@ -25,9 +25,10 @@ constexpr NamedKey kNamedKeys[] = {
     {"Del", VK_DELETE, true},      {"Ins", VK_INSERT, true},
     {"KeypadPlus", VK_ADD, false}, {"KeypadMinus", VK_SUBTRACT, false},
     {"Minus", 0xBD, false},        {"F1", VK_F1, false},
-    {"F3", VK_F3, false},          {"F5", VK_F5, false},
-    {"F6", VK_F6, false},          {"F7", VK_F7, false},
-    {"F8", VK_F8, false},          {"F10", VK_F10, false},
+    {"F3", VK_F3, false},          {"F4", VK_F4, false},
+    {"F5", VK_F5, false},          {"F6", VK_F6, false},
+    {"F7", VK_F7, false},          {"F8", VK_F8, false},
+    {"F10", VK_F10, false},
 };
 
 struct Modifier {

@@ -46,6 +46,7 @@ TestFolder::TestFolder() {
             std::to_string(NextNumber());
     fs::create_directories(path_);
     fs::copy_file(ProgramUnderTest(), program());
+    fs::copy_file(ProgramUnderTest().replace_filename("VexaDOS.PIF"), path("VexaDOS.PIF"));
 }
 
 TestFolder::~TestFolder() {
@@ -54,6 +55,12 @@ TestFolder::~TestFolder() {
 
 std::string TestFolder::path(const std::string& name) const {
     return name.empty() ? path_ : path_ + "\\" + name;
+}
+
+void TestFolder::putTestProgram() const {
+    char self[MAX_PATH];
+    GetModuleFileNameA(nullptr, self, sizeof self);
+    fs::copy_file(fs::path(self).replace_filename("test_program.exe"), path("test_program.exe"));
 }
 
 void TestFolder::put(const std::string& name, const std::string& bytes) const {

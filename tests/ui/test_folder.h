@@ -15,6 +15,8 @@ class TestFolder {
     // The full path of a name in the folder; the folder's own without a name.
     std::string path(const std::string& name = {}) const;
     std::string program() const { return path("vexa.exe"); }
+    // The program of the tests that the editor can run.
+    void putTestProgram() const;
     void put(const std::string& name, const std::string& bytes) const;
     // Empty for a missing file.
     std::string get(const std::string& name) const;

@@ -17,6 +17,7 @@ void RunProgramDialog::onOpen() {
     showCombo(IDC_RUN_DIRECTORY, directories_, model_.directory);
     showCombo(IDC_RUN_ARGUMENTS, argumentHistory_, model_.arguments);
     refreshButtons();
+    markComboText(IDC_RUN_ARGUMENTS);
     SetFocus(control(IDC_RUN_ARGUMENTS));
 }
 
@@ -24,7 +25,6 @@ void RunProgramDialog::showCombo(int control, const HistoryList& history, const 
     limitComboText(control, ProgramRequest::kTextLimit);
     fillList(control, history.entries());
     setTextOf(control, text);
-    markComboText(control);
 }
 
 void RunProgramDialog::onControl(int control, UINT notification) {

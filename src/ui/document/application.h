@@ -7,6 +7,7 @@
 #include "base/directories.h"
 #include "base/editor_options.h"
 #include "document/print/print_options.h"
+#include "external/compiler_setup.h"
 #include "language/colour_table.h"
 #include "language/electric_list.h"
 #include "language/profile_list.h"
@@ -30,6 +31,7 @@ struct Application {
         font.Load(store);
         searchOptions.Load(store);
         printOptions.Load(store);
+        compilerSetup.Load(store);
     }
 
     ConfigStore store;
@@ -37,6 +39,7 @@ struct Application {
     FontDetails font;
     SearchOptions searchOptions;
     PrintOptions printOptions;
+    CompilerSetup compilerSetup;
     Directories directories;
     ProfileList profiles;
     ElectricWords electric;

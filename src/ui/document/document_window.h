@@ -9,6 +9,7 @@
 #include "ui/document/application.h"
 #include "ui/document/margin_window.h"
 #include "ui/document/pane_window.h"
+#include "ui/document/text_window.h"
 
 namespace vexa {
 
@@ -32,7 +33,7 @@ class DocumentHost {
 
 extern const WindowClass kDocumentWindowClass;
 
-class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
+class DocumentWindow : public MDIchildCL, public TextWindow, private PaneHost, private MarginHost {
   public:
     DocumentWindow(MDIframeCL& frame, DocumentHost& host, Application& application, Notices& notices);
 
@@ -54,10 +55,8 @@ class DocumentWindow : public MDIchildCL, private PaneHost, private MarginHost {
     void recover();
     // Takes over another name.
     void refreshName();
-    // Takes over another font, or the resolution of the monitor that the frame is on.
-    void refreshFont();
-    // Takes over colours that have been changed.
-    void refreshColours();
+    void refreshFont() override;
+    void refreshColours() override;
     // Takes over options that have been changed.
     void refreshOptions();
 

@@ -40,9 +40,10 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       printing_(documents, application, notices, loop),
       options_(documents, application, notices),
       help_(documents.frame()),
-      quickHelp_(documents, application, notices) {
+      quickHelp_(documents, application, notices),
+      external_(documents, application, notices) {
     RegisterCommandsOf(dispatcher_, macro_, search_, files_, editing_, textTools_, printing_, options_, help_,
-                       quickHelp_);
+                       quickHelp_, external_);
     RegisterWindowCommands(dispatcher_, documents.frame());
     RegisterKeysOf(keys_, search_, textTools_, options_);
     search_.setFailureListener([this](bool isUserStop) { macro().searchFailed(isUserStop); });
@@ -50,7 +51,8 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
 }
 
 bool FrameCommands::isMet(CommandNeed need) const {
-    return need == CommandNeed::Window ? !documents_.frame().children().empty() : documents_.active() != nullptr;
+    if (need == CommandNeed::Window) return !documents_.frame().children().empty();
+    return documents_.active() || (need == CommandNeed::EditArea && external_.activeList());
 }
 
 bool FrameCommands::useKey(MSG& message) {

@@ -4,6 +4,7 @@
 #include "framework/message_loop.h"
 #include "ui/frame/document_commands.h"
 #include "ui/frame/edit_commands.h"
+#include "ui/frame/external_commands.h"
 #include "ui/frame/help_commands.h"
 #include "ui/frame/key_actions.h"
 #include "ui/frame/macro_commands.h"
@@ -24,6 +25,7 @@ class FrameCommands {
     const CommandDispatcher& dispatcher() const { return dispatcher_; }
     KeyMacro& macro() { return macro_.macro(); }
     void zoom(std::int32_t steps) { options_.zoom(steps); }
+    ExternalCommands& external() { return external_; }
     // Takes a message from the queue if it is a key that the frame carries out itself, or that must wait.
     bool useKey(MSG& message);
 
@@ -44,6 +46,7 @@ class FrameCommands {
     OptionCommands options_;
     HelpCommands help_;
     QuickHelp quickHelp_;
+    ExternalCommands external_;
 };
 
 }  // namespace vexa

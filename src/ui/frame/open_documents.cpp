@@ -13,12 +13,12 @@ namespace vexa {
 // ---- taking over -------------------------------------------------------------------------------------------------
 
 void OpenDocuments::refreshFonts() {
-    each([](DocumentWindow& window) { window.refreshFont(); });
+    each<TextWindow>([](TextWindow& window) { window.refreshFont(); });
 }
 
 void OpenDocuments::refreshColours() {
     SetDarkTitleBar(frame_.window(), application_.display.isDark());
-    each([](DocumentWindow& window) { window.refreshColours(); });
+    each<TextWindow>([](TextWindow& window) { window.refreshColours(); });
 }
 
 void OpenDocuments::refreshOptions() {

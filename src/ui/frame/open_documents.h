@@ -39,20 +39,22 @@ class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuest
 
     // None when no window is open, or the active one shows no document.
     DocumentWindow* active() const { return dynamic_cast<DocumentWindow*>(frame_.activeChild()); }
-    template <class Use>
+    // Other windows of a kind can be asked for.
+    template <class Window = DocumentWindow, class Use>
     void each(Use use) const {
         for (const auto& child : frame_.children()) {
-            if (auto* window = dynamic_cast<DocumentWindow*>(child.get())) use(*window);
+            if (auto* window = dynamic_cast<Window*>(child.get())) use(*window);
         }
     }
-    // Lets an operation work on the edit view of the active document, which must be there, shows what it has done, and
+    // Lets an operation work on the edit view of the active document, if there is one, shows what it has done, and
     // gives the document the keyboard.
     template <class Operation>
     void operate(Operation operation) const {
-        DocumentWindow& window = *active();
-        operation(window.view());
-        window.refresh();
-        SetFocus(window.window());
+        DocumentWindow* window = active();
+        if (!window) return;
+        operation(window->view());
+        window->refresh();
+        SetFocus(window->window());
     }
     // For opening that many files in a row.
     DrawingPause pauseFor(std::size_t files) const { return DrawingPause(files > 1 ? frame_.mdiClient() : nullptr); }

@@ -85,6 +85,7 @@ void Session::save() {
     application_.coloursInEffect.save(application_.store);
     application_.font.Save(application_.store);
     application_.printOptions.Save(application_.store);
+    application_.compilerSetup.Save(application_.store);
 }
 
 // Windows may end the process at any time after it has asked. Nothing is closed: another program may still refuse the

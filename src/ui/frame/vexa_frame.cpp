@@ -57,6 +57,7 @@ bool VexaFrame::onCreate() {
     session_.setFileMenu(GetSubMenu(bar.get(), 0));
     const HMENU windowMenu = GetSubMenu(bar.get(), static_cast<int>(rows.windowMenu));
     setMenu(std::move(bar));
+    commands_.external().showTools();
     application_.clipboard.setOwner(window());
     SetDarkTitleBar(window(), application_.display.isDark());
     setAccelerators(MakeAccelerators(AcceleratorKeys()));
@@ -102,7 +103,7 @@ bool VexaFrame::onTimer(UINT_PTR timer) {
     if (timer == kSettingsTimer) {
         KillTimer(window(), kSettingsTimer);
         takeSystemSettings();
-    } else {
+    } else if (!commands_.external().useTimer(timer)) {
         backup_.CheckBackups();
     }
     return true;
@@ -187,6 +188,11 @@ void VexaFrame::childrenChanged() {
     if (!bars_.isOpen()) return;
     bars_.refreshButtons(commands_.dispatcher());
     bars_.showDocument(documents_.active());
+}
+
+void VexaFrame::documentCloses(const DocumentWindow& window) {
+    commands_.external().documentCloses(window);
+    session_.documentCloses(window.document());
 }
 
 void VexaFrame::showContextMenu(POINT screenPlace) {

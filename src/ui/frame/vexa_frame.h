@@ -74,7 +74,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     void zoom(std::int32_t steps) override { commands_.zoom(steps); }
     void documentChanged(const DocumentWindow& window) override { bars_.showDocument(&window); }
     bool mayCloseDocument(DocumentWindow& window) override { return documents_.mayClose(window); }
-    void documentCloses(const DocumentWindow& window) override { session_.documentCloses(window.document()); }
+    void documentCloses(const DocumentWindow& window) override;
     void showContextMenu(POINT screenPlace) override;
 
     Application& application_;

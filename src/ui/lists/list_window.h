@@ -5,6 +5,7 @@
 
 #include "framework/mdi_child.h"
 #include "ui/document/application.h"
+#include "ui/document/text_window.h"
 #include "ui/lists/list_pane.h"
 
 namespace vexa {
@@ -21,7 +22,7 @@ class ListHost {
 
 extern const WindowClass kListWindowClass;
 
-class ListWindow : public MDIchildCL, private ListPaneHost {
+class ListWindow : public MDIchildCL, public TextWindow, private ListPaneHost {
   public:
     // The owner is told when the window has gone, and the object is going to be destroyed.
     using Gone = std::function<void()>;
@@ -33,10 +34,8 @@ class ListWindow : public MDIchildCL, private ListPaneHost {
     void copyAll();
     void refresh() { pane_.refresh(); }
     void showSelection() { pane_.showSelection(); }
-    // Takes over another font, or the resolution of the monitor that the frame is on.
-    void refreshFont() { pane_.refreshFont(); }
-    // Takes over colours that have been changed.
-    void refreshColours() { pane_.refreshColours(); }
+    void refreshFont() override { pane_.refreshFont(); }
+    void refreshColours() override { pane_.refreshColours(); }
 
     void onClosing() override { rows_.closed(); }
 

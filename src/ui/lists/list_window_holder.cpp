@@ -5,14 +5,6 @@
 
 namespace vexa {
 
-void ListWindowHolder::refreshFont() {
-    if (window_) window_->refreshFont();
-}
-
-void ListWindowHolder::refreshColours() {
-    if (window_) window_->refreshColours();
-}
-
 void ListWindowHolder::rowsChanged() {
     if (window_) window_->refresh();
 }
@@ -25,7 +17,10 @@ void ListWindowHolder::show() {
     if (window_) return frame_.activate(*window_);
     auto made = std::make_unique<ListWindow>(frame_, host_, rows_, application_, [this] { window_ = nullptr; });
     ListWindow& shown = *made;
-    if (!frame_.adopt(std::move(made), kListWindowClass, title_, ChildShow::Normal)) return;
+    const MDIchildCL* active = frame_.activeChild();
+    const bool isMaximised = active && IsZoomed(active->window());
+    const ChildShow how = isMaximised ? ChildShow::Maximised : ChildShow::Normal;
+    if (!frame_.adopt(std::move(made), kListWindowClass, title_, how)) return;
     window_ = &shown;
     shown.showSelection();
 }

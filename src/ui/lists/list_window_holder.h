@@ -15,11 +15,6 @@ class ListWindowHolder : public ListView {
     ListWindowHolder(TextId title, ListRows& rows, MDIframeCL& frame, ListHost& host, Application& application)
         : title_(LoadText(title)), rows_(rows), frame_(frame), host_(host), application_(application) {}
 
-    // None when it is closed.
-    ListWindow* window() const { return window_; }
-    void refreshFont();
-    void refreshColours();
-
     void rowsChanged() override;
     void selectionChanged() override;
     void show() override;

@@ -1,0 +1,71 @@
+// The commands that run other programs, and show what these have printed: command lines, the shell, the tools of the
+// Tools menu, and the compiler.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "external/captured_programs.h"
+#include "external/compiler.h"
+#include "external/message_list.h"
+#include "external/output_list.h"
+#include "external/tool_list.h"
+#include "shell/command_dispatcher.h"
+#include "ui/frame/document_source.h"
+#include "ui/frame/frame_timer.h"
+#include "ui/lists/list_window_holder.h"
+
+namespace vexa {
+
+class ExternalCommands : private FileOpener, private ListHost {
+  public:
+    ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices);
+
+    void registerCommands(CommandDispatcher& dispatcher);
+    // Shows the tools in the Tools menu of the frame's menu bar.
+    void showTools();
+    // None when the active window shows no list.
+    ListWindow* activeList() const;
+    // For a timer of the frame, given by its number: asks whether a program has ended. False when it is none of these.
+    bool useTimer(UINT_PTR timer);
+    // A document's window is going to be closed.
+    void documentCloses(const DocumentWindow& window);
+
+  private:
+    HWND frameWindow() const { return documents_.frame().window(); }
+    SourceDocument& sourceOf(DocumentWindow& window);
+
+    void copy();
+    void changeTools();
+    void runCommandLine();
+    void runShell() { programs_.RunShell(); }
+    void runTool(std::size_t index);
+    bool askForArguments(ProgramRequest& request, int dialog);
+    void showOutput() { outputWindow_.show(); }
+    void showMessages() { messageWindow_.show(); }
+    void nextError() { messages_.NextError(); }
+    void previousError() { messages_.PreviousError(); }
+    void compile();
+    void setUpCompiler();
+
+    bool openFileAtLine(const std::string& path, std::int32_t line) override;
+    void userActs() override { notices_.clearStatus(); }
+    void zoom(std::int32_t steps) override;
+
+    OpenDocuments& documents_;
+    Application& application_;
+    FrameNotices& notices_;
+    FrameTimer programTimer_;
+    FrameTimer compilerTimer_;
+    std::vector<std::unique_ptr<DocumentSource>> sources_;  // of the documents that were compiled
+    OutputList output_;
+    MessageList messages_;
+    ListWindowHolder outputWindow_;
+    ListWindowHolder messageWindow_;
+    ToolList tools_;
+    CapturedPrograms programs_;
+    Compiler compiler_;
+};
+
+}  // namespace vexa
