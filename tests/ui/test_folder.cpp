@@ -28,13 +28,16 @@ fs::path ProgramUnderTest() {
     return fs::path(self).replace_filename("vexa.exe");
 }
 
-// Read-only files can only be removed when they are no longer so.
+// Read-only files can only be removed when they are no longer so, and programs when they have ended.
 void RemoveAll(const fs::path& folder) {
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         SetFileAttributesA(entry.path().string().c_str(), FILE_ATTRIBUTE_NORMAL);
     }
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
+    WaitUntil([&folder] {
+        std::error_code failure;
+        fs::remove_all(folder, failure);
+        return !failure;
+    });
 }
 
 }  // namespace
