@@ -159,7 +159,9 @@ def named_once(texts):
 
 def unreferred(build, checkout):
     """Pairs of name and readable name."""
-    objects = list(linked_objects((build / MAP).read_text(), build))
+    linked = linked_objects((build / MAP).read_text(), build)
+    # A folder of builds keeps the object files of sources that have gone.
+    objects = [path for path in linked if source_of(path, build, checkout).exists()]
     sources = {source_of(path, build, checkout) for path in objects}
     others = [path for path in checkout.glob("src/**/*.cpp") if path not in sources and OTHER_SYSTEM not in str(path)]
     used_elsewhere = set().union(*(words(path.read_text()) for path in others))
