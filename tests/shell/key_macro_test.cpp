@@ -173,7 +173,7 @@ TEST_F(KeyMacroTest, PlaybackEndsWhereThereIsNoDocument) {
 TEST_F(KeyMacroTest, PlaybackIsStoppedAndARepeatedOneAlsoByASearchThatFails) {
     record("ab");
     const auto after = [this](int steps, std::function<void()> stop) {
-        duringPlayback_ = [this, steps, stop, end = updates_ + steps] { updates_ == end ? stop() : void(); };
+        duringPlayback_ = [this, stop, end = updates_ + steps] { updates_ == end ? stop() : void(); };
     };
     const StatusNotice stopped{"Macro playback stopped.", true, false};
     after(3, [this] { macro_.stop(); });

@@ -297,6 +297,7 @@ TEST_F(SearchTest, PartsOfAPatternAreChosenFromAMenu) {
     edit("ab\tc\r\n");
     const HWND dialog = openFind();
     editor->keys("b");
+    ASSERT_TRUE(WaitUntil([&] { return FieldOf(dialog, IDC_FIND_TEXT) == "b"; }));
     const auto choose = [&](const char* key) {
         PostMessageA(GetDlgItem(dialog, IDC_PATTERN_PIECES), BM_CLICK, 0, 0);
         ASSERT_TRUE(editor->hasPopupMenu());
