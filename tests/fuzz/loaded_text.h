@@ -46,7 +46,8 @@ inline void RequireLoads(const std::string& bytes, bool binary) {
     TextDocument again(options, notices);
     again.setName("C:\\A.TXT");
     Require(again.load());
-    if (!again.areLinesWrapped()) Require(Joined(again) == text + (binary ? "\x1A" : ""));
+    const bool getsCtrlZ = binary && !text.ends_with('\x1A');
+    if (!again.areLinesWrapped()) Require(Joined(again) == text + (getsCtrlZ ? "\x1A" : ""));
 }
 
 }  // namespace vexa::fuzz
