@@ -26,16 +26,6 @@ TEST(Command, WithoutADocumentKeysAndCommandsSaySo) {
     EXPECT_TRUE(editor.hasCaption("[untitled.txt *]"));
 }
 
-TEST(Command, CommandsThatAreNotThereYetDoNothing) {
-    const TestFolder folder;
-    const Editor editor(folder);
-    for (const int id : {452, 430, 500})
-        editor.command(static_cast<CommandId>(id));
-    editor.keys("{F10}x");
-    EXPECT_TRUE(editor.hasCaption("[untitled.txt *]"));
-    EXPECT_FALSE(editor.hasDialog());
-}
-
 TEST(Command, MenusOpenByKeysAndShowHelpInTheStatusBar) {
     const TestFolder folder;
     const Editor editor(folder);
