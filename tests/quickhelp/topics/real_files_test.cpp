@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "base/ascii.h"
 #include "quickhelp/topics/grid_measure.h"
 #include "quickhelp/topics/help_file.h"
 
@@ -61,7 +62,7 @@ TEST(RealHelpFiles, EveryTopicIsReadAndLaidOut) {
     if (!folder) GTEST_SKIP() << "VEXA_HELP_FILES names no folder with help files";
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (entry.path().extension() != ".HLP") continue;
+        if (!EqualIgnoringCase(entry.path().extension().string(), ".hlp")) continue;
         SCOPED_TRACE(entry.path().string());
         const auto file = HelpFile::open(BytesOf(entry.path()));
         ASSERT_TRUE(file);
