@@ -97,6 +97,9 @@ INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM lParam) {
         case WM_COMMAND:
             command(LOWORD(wParam), HIWORD(wParam));
             return TRUE;
+        case WM_HELP:
+            onHelp();
+            return TRUE;
         case WM_DRAWITEM:
             return onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         case WM_ACTIVATE:

@@ -11,8 +11,8 @@
 
 namespace vexa {
 
-// IDOK, IDCANCEL and IDHELP are the buttons that accept, leave and explain. An exception in a handler is reported to
-// the debugger and goes no further.
+// IDOK, IDCANCEL and IDHELP are the buttons that accept, leave and explain, which F1 does, too. An exception in a
+// handler is reported to the debugger and goes no further.
 class DialogFrameCL {
   public:
     explicit DialogFrameCL(int resource) : resource_(resource) {}

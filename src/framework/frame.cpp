@@ -49,6 +49,15 @@ bool AppFrameCL::onMenuClosed() {
     return false;
 }
 
+// F1 on anything else is a key like others. An open menu would keep the keyboard from the window with the answer.
+bool AppFrameCL::onHelp(const HELPINFO& request) {
+    const auto id = static_cast<WORD>(request.iCtrlId);
+    if (request.iContextType != HELPINFO_MENUITEM || !itemState(id)) return false;
+    SendMessageA(window(), WM_CANCELMODE, 0, 0);
+    explainItem(id);
+    return true;
+}
+
 bool AppFrameCL::onSize(UINT kind) {
     if (kind != SIZE_MINIMIZED) layOut();
     return true;

@@ -32,6 +32,8 @@ class AppFrameCL : public WindowCL {
     virtual std::optional<ItemState> itemState(WORD id) const = 0;
     // Shows the help text of the item that the user is looking at; none when he leaves the menu.
     virtual void showItemHelp(std::optional<WORD> id) = 0;
+    // The user has pressed F1 on the item of a command in an open menu, which is closed now.
+    virtual void explainItem(WORD /*id*/) {}
     // Puts everything in its place inside the client area.
     virtual void layOut() = 0;
     // The user wants to leave; true when the frame may close.
@@ -43,6 +45,7 @@ class AppFrameCL : public WindowCL {
     bool onMenuPopup(HMENU menu, bool isSystemMenu) override;
     bool onMenuSelect(WORD id, UINT flags) override;
     bool onMenuClosed() override;
+    bool onHelp(const HELPINFO& request) override;
     bool onSize(UINT kind) override;
     bool onClose() override;
     void onEnabled() override;

@@ -128,6 +128,7 @@ class WindowCL {
     virtual bool onMenuPopup(HMENU /*menu*/, bool /*isSystemMenu*/) { return false; }
     virtual bool onMenuSelect(WORD /*id*/, UINT /*flags*/) { return false; }
     virtual bool onMenuClosed() { return false; }
+    virtual bool onHelp(const HELPINFO& /*request*/) { return false; }  // F1
 
     // A handler has failed, most likely because memory has run out: what the window shows may be behind what has been
     // done. Not for painting, which would only be asked for again.

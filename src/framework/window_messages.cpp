@@ -142,6 +142,8 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
          const bool isClosing = HIWORD(m.wParam) == 0xFFFF && m.lParam == 0;
          return isClosing ? w.onMenuClosed() : w.onMenuSelect(LOWORD(m.wParam), HIWORD(m.wParam));
      }},
+    {WM_HELP,
+     [](WindowCL& w, Message& m) { return m.lParam && w.onHelp(*reinterpret_cast<const HELPINFO*>(m.lParam)); }},
 };
 
 bool WindowCL::route(Message& message) {

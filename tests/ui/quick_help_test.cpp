@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 
+#include "quickhelp/topic_numbers.h"
+#include "quickhelp/topics/help_file.h"
 #include "quickhelp/topics/made_help_file.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
@@ -101,6 +103,60 @@ TEST_F(QuickHelpWindowTest, AMissingHelpFileIsToldOf) {
     const Editor editor(folder, {"a.c"});
     editor.keys("{F1}");
     EXPECT_TRUE(editor.showsMessage("The help file '" + folder.path("Vexa.hlp") + "' cannot be shown."));
+}
+
+// What the viewer's caption is at a topic of the manual; at the contents for no number.
+std::string CaptionAt(const TestFolder& folder, std::uint32_t number = 0) {
+    const auto file = topics::HelpFile::open(folder.get("Vexa.hlp"));
+    if (!file) return "no help file";
+    const auto offset = file->index().offsetOfNumber(static_cast<std::int32_t>(number));
+    const auto topic = offset ? file->topicAt(*offset) : file->contentsTopic();
+    return file->system().title + " - " + file->topic(topic.value_or(0)).title;
+}
+
+std::string CaptionAt(const TestFolder& folder, CommandId id) {
+    return CaptionAt(folder, static_cast<std::uint32_t>(id));
+}
+
+TEST_F(QuickHelpWindowTest, TheManualOpensWhereItIsAskedFor) {
+    folder.putFromProgramFolder("Vexa.hlp");
+    const Editor editor(folder, {"a.c"});
+    editor.keys("{F1}");
+    EXPECT_TRUE(viewerShows(CaptionAt(folder)));
+    editor.takePicture("manual-contents");
+    editor.command(CommandId::HelpOnKeys);
+    EXPECT_TRUE(viewerShows(CaptionAt(folder, CommandId::HelpOnKeys)));
+    editor.takePicture("manual-keys");
+    editor.command(CommandId::HelpOnHelp);
+    EXPECT_TRUE(viewerShows(CaptionAt(folder, CommandId::HelpOnHelp)));
+    editor.keys("{Esc}");
+    ASSERT_TRUE(hasKeyboard(editor.frame()));
+    editor.keys("{Alt+F}{Down*3}{F1}");
+    EXPECT_TRUE(viewerShows(CaptionAt(folder, CommandId::FileSave)));
+    editor.takePicture("manual-from-menu");
+    ASSERT_TRUE(hasKeyboard(FindWindowA("VexaHelp", nullptr))) << "the menu has let it go";
+    editor.keys("{Esc}x");
+    EXPECT_TRUE(editor.hasCaption("*"));
+}
+
+TEST_F(QuickHelpWindowTest, DialogsAreExplainedByTheirButtonAndKey) {
+    folder.putFromProgramFolder("Vexa.hlp");
+    const Editor editor(folder, {"a.c"});
+    editor.command(CommandId::GotoLine);
+    const HWND modal = editor.dialog("Goto Line");
+    PostMessageA(modal, WM_COMMAND, IDHELP, 0);
+    EXPECT_TRUE(viewerShows(CaptionAt(folder, kHelpOnDialogs + IDD_GOTO_LINE)));
+    editor.takePicture("manual-from-dialog");
+    EXPECT_TRUE(Press(modal, IDCANCEL));
+    editor.command(CommandId::ChangeOptions);
+    ASSERT_TRUE(hasKeyboard(editor.dialog("Editor Options")));
+    editor.keys("{F1}");
+    EXPECT_TRUE(viewerShows(CaptionAt(folder, kHelpOnDialogs + IDD_EDITOR_OPTIONS)));
+    EXPECT_TRUE(Press(editor.dialog("Editor Options"), IDCANCEL));
+    editor.command(CommandId::Find);
+    ASSERT_TRUE(hasKeyboard(editor.dialog("Find")));
+    editor.keys("{F1}");
+    EXPECT_TRUE(viewerShows(CaptionAt(folder, kHelpOnDialogs + IDD_FIND)));
 }
 
 std::vector<std::string> RealHelpFiles() {

@@ -49,7 +49,7 @@ TestFolder::TestFolder() {
             std::to_string(NextNumber());
     fs::create_directories(path_);
     fs::copy_file(ProgramUnderTest(), program());
-    fs::copy_file(ProgramUnderTest().replace_filename("VexaDOS.PIF"), path("VexaDOS.PIF"));
+    putFromProgramFolder("VexaDOS.PIF");
 }
 
 TestFolder::~TestFolder() {
@@ -64,6 +64,10 @@ void TestFolder::putTestProgram() const {
     char self[MAX_PATH];
     GetModuleFileNameA(nullptr, self, sizeof self);
     fs::copy_file(fs::path(self).replace_filename("test_program.exe"), path("test_program.exe"));
+}
+
+void TestFolder::putFromProgramFolder(const std::string& name) const {
+    fs::copy_file(ProgramUnderTest().replace_filename(name), path(name));
 }
 
 void TestFolder::put(const std::string& name, const std::string& bytes) const {

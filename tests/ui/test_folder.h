@@ -17,6 +17,8 @@ class TestFolder {
     std::string program() const { return path("vexa.exe"); }
     // The program of the tests that the editor can run.
     void putTestProgram() const;
+    // A file that stands beside the program under test.
+    void putFromProgramFolder(const std::string& name) const;
     void put(const std::string& name, const std::string& bytes) const;
     // Empty for a missing file.
     std::string get(const std::string& name) const;

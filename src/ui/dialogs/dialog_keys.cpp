@@ -8,6 +8,8 @@ namespace vexa {
 
 namespace {
 
+constexpr std::uint16_t kHelpKey = 0x70;  // F1, which explains the dialog
+
 struct FieldKey {
     std::uint16_t key;
     bool control;
@@ -41,6 +43,7 @@ char MnemonicOf(const std::string& controlText) {
 }
 
 DialogKeyUse DialogKeyUseOf(const KeyEvent& event, std::span<const std::string> controlTexts, bool inField) {
+    if (event == KeyEvent{.key = kHelpKey}) return DialogKeyUse::Own;
     const auto isWorked = [&event](const std::string& text) { return event.key == MnemonicOf(text); };
     if (event.alt)
         return !event.control && std::ranges::any_of(controlTexts, isWorked) ? DialogKeyUse::Own : DialogKeyUse::None;

@@ -6,9 +6,8 @@
 
 namespace vexa {
 
-// The topics of the dialogs have the dialogs' numbers.
 void EditorDialog::onHelp() {
-    ShowHelp(window(), HELP_CONTEXT, static_cast<DWORD>(dialog_));
+    ShowHelp(window(), HELP_CONTEXT, kHelpOnDialogs + static_cast<DWORD>(dialog_));
 }
 
 void EditorDialog::tell(const std::string& text) const {

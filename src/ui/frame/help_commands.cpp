@@ -19,7 +19,7 @@ void HelpCommands::registerCommands(CommandDispatcher& dispatcher) {
 }
 
 void HelpCommands::showHelpOnHelp() {
-    ShowHelp(frame_.window(), HELP_HELPONHELP);
+    ShowHelp(frame_.window(), HELP_HELPONHELP, static_cast<DWORD>(CommandId::HelpOnHelp));
 }
 
 void HelpCommands::showIndex() {

@@ -166,6 +166,11 @@ void VexaFrame::showItemHelp(std::optional<WORD> id) {
     }
 }
 
+// The topics of the commands have the commands' numbers.
+void VexaFrame::explainItem(WORD id) {
+    ShowHelp(window(), HELP_CONTEXT, id);
+}
+
 // The notice of the command before goes first: what the dispatcher says of this one is to be read.
 void VexaFrame::runCommand(WORD id, bool fromKey) {
     notices_.clearStatus();

@@ -57,6 +57,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     void runCommand(WORD id, bool fromKey) override;
     std::optional<ItemState> itemState(WORD id) const override;
     void showItemHelp(std::optional<WORD> id) override;
+    void explainItem(WORD id) override;
     void layOut() override { placeClient(bars_.place(clientArea())); }
     bool mayClose() override { return documents_.closeForExit(); }
     bool pumpMessages() override { return notices_.pumpMessages(); }

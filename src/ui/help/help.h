@@ -3,16 +3,16 @@
 
 #include <windows.h>
 
+#include "quickhelp/topic_numbers.h"
+
 namespace vexa {
 
 class HelpDesk;
 
-// The topic about the keys.
-inline constexpr DWORD kHelpOnKeys = 49153;
-
 // What shows help from now on; nothing does without one.
 void SetHelpDesk(HelpDesk* desk);
-// Opens "Vexa.hlp" from the program's directory: HELP_INDEX, HELP_HELPONHELP, or HELP_CONTEXT with a topic's number.
+// Opens "Vexa.hlp" from the program's directory: HELP_INDEX, HELP_CONTEXT with a topic's number, or HELP_HELPONHELP
+// with that of the topic for a viewer that has no help on itself.
 void ShowHelp(HWND owner, UINT command, DWORD topic = 0);
 
 // The program ends: lets go of the system's viewer.

@@ -65,8 +65,8 @@ void HelpDesk::showOwnHelp(HWND owner, UINT command, DWORD topic) {
         callSystem(owner, file, command, topic);
         return;
     }
-    const bool isShown = command == HELP_CONTEXT ? window_.showNumber(file, static_cast<std::int32_t>(topic))
-                                                 : window_.showContents(file);
+    const bool isShown =
+        topic != 0 ? window_.showNumber(file, static_cast<std::int32_t>(topic)) : window_.showContents(file);
     if (!isShown) tellMissing(file);
 }
 

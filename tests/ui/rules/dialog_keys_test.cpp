@@ -45,9 +45,9 @@ std::set<CommandId> CommandsThatLose(const std::vector<std::string>& texts, bool
 TEST(DialogKeys, EachModelessDialogKeepsItsMnemonicsAndEditingKeysFromTheFrame) {
     using enum CommandId;
     const std::map<std::string, std::set<CommandId>> byMnemonic = {
-        {"IDD_FIND", {FileSave, Exit, Find, NextWindow}},
-        {"IDD_REPLACE", {FileSave, Print, Exit, Find, NextWindow}},
-        {"IDD_PRINTING", {}},
+        {"IDD_FIND", {FileSave, Exit, Find, NextWindow, HelpIndex}},
+        {"IDD_REPLACE", {FileSave, Print, Exit, Find, NextWindow, HelpIndex}},
+        {"IDD_PRINTING", {HelpIndex}},
     };
     const std::set<CommandId> ofFields = {Undo,  Redo,        Cut,       Copy,          Paste,
                                           Clear, WindowStart, WindowEnd, DocumentStart, DocumentEnd};
