@@ -33,7 +33,7 @@ class AppFrameCL : public WindowCL {
     // Shows the help text of the item that the user is looking at; none when he leaves the menu.
     virtual void showItemHelp(std::optional<WORD> id) = 0;
     // The user has pressed F1 on the item of a command in an open menu, which is closed now.
-    virtual void explainItem(WORD /*id*/) {}
+    virtual void explainItem(WORD id) = 0;
     // Puts everything in its place inside the client area.
     virtual void layOut() = 0;
     // The user wants to leave; true when the frame may close.

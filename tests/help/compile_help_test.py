@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Shows that a small manual becomes a help file, the same each time, and that each kind of fault is told with its line."""
+"""Shows that a small manual becomes a help file, the same each time, and that each kind of fault is told with its
+line."""
 
 import random
 import shutil

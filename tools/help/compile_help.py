@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Makes a help file of the chapters of a manual. What is wrong with them is told with file and line, and then no file is
-made.
+"""Makes a help file of the chapters of a manual. What is wrong with them is told with file and line, and then no file
+is made.
 
 usage: compile_help.py ROOT MANUAL OUTPUT    the project's folder, that of the chapters, and the help file
 """

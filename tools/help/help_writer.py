@@ -6,7 +6,7 @@ from btree import BTree
 from container import help_file
 from context_hash import context_hash
 from fonts import Fonts
-from manual import Picture, SubHeading
+from manual import BULLET, Paragraph, Picture, Run, SubHeading
 from packing import long, short, text, ushort
 from paragraphs import ParagraphWriter
 from pictures import picture_bytes
@@ -78,14 +78,20 @@ class HelpWriter:
 
     def written(self, topic):
         """A title stays when its topic is scrolled, but not in a pop-up, which shows all of itself."""
-        records, marks = [self.writer.title(topic.title)], {}
-        for block in topic.blocks:
+        records, marks = [self.writer.title(topic)], {}
+        for block in topic.blocks + self.list_of_chapter(topic):
             if isinstance(block, SubHeading):
                 marks[block.slug] = len(records)
             records += self.writer.block(block)
         placed = placed_topic(text(topic.title)[:-1], records, 0 if topic.is_pop_up else 1, not topic.is_pop_up)
         placed.marks = {slug: placed.records[number] for slug, number in marks.items()}
         return placed
+
+    def list_of_chapter(self, topic):
+        """Leads from the first topic of a chapter to the others, which the viewer shows one at a time."""
+        chapter = next(chapter for chapter in self.manual.chapters if chapter.name == topic.chapter)
+        return [Paragraph([Run(other.title, link=other.link())], 1, BULLET)
+                for other in chapter.topics if topic.is_first and other is not topic]
 
     def offset_of(self, topic):
         return self.placed[topic.context()].header.offset

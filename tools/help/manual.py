@@ -5,6 +5,7 @@ from pathlib import Path
 
 CONTENTS = "contents"
 GLOSSARY = "glossary"
+BULLET = "\N{BULLET}"
 
 
 @dataclass(frozen=True)
@@ -45,7 +46,7 @@ class Link:
 
     @property
     def is_pop_up(self):
-        return self.chapter == GLOSSARY
+        return self.chapter == GLOSSARY and bool(self.slug)
 
 
 @dataclass(frozen=True)
@@ -66,6 +67,7 @@ class Paragraph:
     runs: list
     indent: int = 0  # depth of the list that it stands in
     marker: str = ""  # in front of the first paragraph of a list's item
+    ends_list: bool = False
 
 
 @dataclass
@@ -79,6 +81,7 @@ class SubHeading:
 class Code:
     lines: list
     indent: int = 0
+    ends_list: bool = False
 
 
 @dataclass
@@ -93,6 +96,7 @@ class Picture:
     path: Path
     position: Position
     indent: int = 0
+    ends_list: bool = False
 
 
 @dataclass
@@ -107,6 +111,7 @@ class Topic:
     slug: str
     title: str
     position: Position
+    is_first: bool  # of its chapter
     keywords: list = field(default_factory=list)
     commands: list = field(default_factory=list)
     dialogs: list = field(default_factory=list)
@@ -114,7 +119,10 @@ class Topic:
 
     @property
     def is_pop_up(self):
-        return self.chapter == GLOSSARY
+        return self.chapter == GLOSSARY and not self.is_first
+
+    def link(self):
+        return Link(self.chapter, self.slug, self.position)
 
     def context(self, slug=None):
         """The name under which the help file knows this topic or a heading in it."""

@@ -6,7 +6,7 @@ from pathlib import Path
 from markdown_it import MarkdownIt
 from markdown_it.tree import SyntaxTreeNode
 
-from manual import (CONTENTS, Chapter, Code, GeneratedTable, Link, Paragraph, Picture, Position, Run, Style,
+from manual import (BULLET, CONTENTS, Chapter, Code, GeneratedTable, Link, Paragraph, Picture, Position, Run, Style,
                     SubHeading, Table, Topic)
 from packing import ENCODING
 
@@ -16,7 +16,6 @@ PARTS = ("keywords", "commands", "dialogs")
 DESCRIPTIONS = tuple(f"{part}:" for part in PARTS)
 COMMENT = re.compile(r"<!--(.*?)-->", re.DOTALL)
 GENERATED = re.compile(r"table:\s*([\w ]+)$")
-BULLET = "\N{BULLET}"
 STYLES = {"strong": {"bold": True}, "em": {"italic": True}, "code_inline": {"code": True}}
 
 
@@ -140,7 +139,7 @@ class ChapterReader:
         if node.tag == "h3":
             self.add(node, SubHeading(runs, slug_of(title), self.position(node)))
         elif node.tag == ("h2" if self.chapter.topics else "h1"):
-            self.topic = Topic(self.chapter.name, slug_of(title), title, self.position(node))
+            self.topic = Topic(self.chapter.name, slug_of(title), title, self.position(node), not self.chapter.topics)
             self.chapter.topics.append(self.topic)
         else:
             self.faults.add(self.position(node), f"a heading of this level ({node.tag}) has no meaning here")
@@ -161,12 +160,17 @@ class ChapterReader:
         self.add(node, Code([line.expandtabs(4) for line in node.content.splitlines()], indent))
 
     def read_bullet_list(self, node, indent, _marker):
-        for item in node.children:
-            self.read_item(item, indent + 1, BULLET)
+        self.read_items([(item, BULLET) for item in node.children], indent + 1)
 
     def read_ordered_list(self, node, indent, _marker):
-        for number, item in enumerate(node.children, node.attrs.get("start", 1)):
-            self.read_item(item, indent + 1, f"{number}.")
+        numbers = enumerate(node.children, node.attrs.get("start", 1))
+        self.read_items([(item, f"{number}.") for number, item in numbers], indent + 1)
+
+    def read_items(self, items, indent):
+        for item, marker in items:
+            self.read_item(item, indent, marker)
+        for block in self.topic.blocks[-1:] if self.topic and indent == 1 else []:
+            block.ends_list = True
 
     def read_item(self, item, indent, marker):
         if indent > DEEPEST_LIST:

@@ -131,8 +131,8 @@ class ParagraphWriter:
         group.add_runs(runs, self.contexts, size)
         return self.ended(paragraph_info({ABOVE: above, BELOW: SMALL_SPACE}), group)
 
-    def title(self, text):
-        return self.heading([Run(text)], TITLE, SMALL_SPACE)
+    def title(self, topic):
+        return self.heading([Run(topic.title)], SUB_HEADING if topic.is_pop_up else TITLE, SMALL_SPACE)
 
     def block(self, block):
         """The records of a block."""
@@ -144,7 +144,7 @@ class ParagraphWriter:
     def write_paragraph(self, block):
         group = self.group()
         left = LIST_INDENT * block.indent
-        measures = {BELOW: SMALL_SPACE if block.indent else SPACE, LEFT: left}
+        measures = {BELOW: SMALL_SPACE if block.indent and not block.ends_list else SPACE, LEFT: left}
         if block.marker:
             measures[FIRST_LINE] = -MARKER_WIDTH
             group.add_text(block.marker)

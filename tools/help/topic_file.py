@@ -70,7 +70,7 @@ class TopicFile:
     def place(self):
         address, block, characters = 0, NONE, 0
         for entry in self.entries:
-            # The header of a record is never cut by the end of a block, and that of a topic stays whole with what it says.
+            # The end of a block never cuts the header of a record, nor what that of a topic says.
             whole = RECORD_HEADER + (HEADER_FORMAT if entry.kind == TOPIC else 0)
             if BLOCK_DATA - address % BLOCK_DATA < whole:
                 address += BLOCK_DATA - address % BLOCK_DATA
