@@ -22,13 +22,14 @@ from PIL import Image  # noqa: E402
 PROJECT = {
     "src/shell/commands.def": 'VEXA_MENU(Bar, "&Help")\n'
                               'VEXA_COMMAND(Find, 306, "&Find...\\tAlt+S", "Alt+S, F5", "Search", Silent, Document)\n'
-                              'VEXA_COMMAND(HelpOnKeys, 702, "&Keys", "F5", "Show the keys", Silent, Nothing)\n',
+                              'VEXA_COMMAND(HelpOnKeys, 702, "&Keys", "F5", "Show the keys", Silent, Nothing)\n'
+                              'VEXA_COMMAND(LineEnd, 904, "", "End", "Go to the end", Silent, Document)\n',
     "src/ui/resources/dialogs.rc": "IDD_FIND DIALOG 0, 0, 9, 9\n",
     "src/ui/resources/dialog_controls.h": "#define IDD_FIND 1100\n",
     "docs/keys.md": "| Key | What it does |\n|---|---|\n| Left | Go left |\n",
     "manual/contents.md": "# Sample\n\n- [Finding](find.md)\n- [Words](glossary.md)\n",
     "manual/find.md": "# Finding\n"
-                      "<!-- keywords: find; search | commands: Find, HelpOnKeys | dialogs: IDD_FIND -->\n\n"
+                      "<!-- keywords: find; search | commands: Find, HelpOnKeys, LineEnd | dialogs: IDD_FIND -->\n\n"
                       "**Bold** `code` and a [word](glossary.md#word), [below](#more-about-it).\n\n"
                       "1. one\n   - two\n\n     still two\n\n"
                       "<!-- table: commands -->\n\n<!-- table: keys -->\n\n<!-- table: editing keys -->\n\n"
@@ -59,7 +60,7 @@ class ManualTest(unittest.TestCase):
         content, faults = self.compiled()
         self.assertEqual(faults, [])
         self.assertEqual(content, self.compiled()[0])
-        for text in [b"Sample\0", b"What one is.", b"find\0", b"search\0", b"Go left", b"|bm0\0"]:
+        for text in [b"Sample\0", b"What one is.", b"find\0", b"search\0", b"Go left", b"Line end", b"|bm0\0"]:
             self.assertIn(text, content)
         self.assertNotIn(b"Search\0\1", content)  # the index has one spelling of it
 

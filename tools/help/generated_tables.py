@@ -16,7 +16,8 @@ def link_to(topic, text):
 
 
 def name_of(command):
-    return command.text or command.status or command.name
+    """As the menus show it; the words of its name for one that no menu shows."""
+    return command.text or re.sub(r"(?<=[a-z])(?=[A-Z0-9])", " ", command.name).capitalize()
 
 
 def table(heading, rows):

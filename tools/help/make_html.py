@@ -24,7 +24,8 @@ def page_of(chapter, tables, manual):
     source = GENERATED.sub(lambda found: generated_table(found[1], tables, manual),
                            chapter.path.read_text(encoding="utf-8"))
     options = ["--from=gfm", "--to=html5", "--standalone", f"--css={STYLE}", f"--lua-filter={HERE / 'links.lua'}",
-               f"--include-before-body={HERE / 'page_head.html'}", f"--metadata=pagetitle:{chapter.topics[0].title}"]
+               f"--include-before-body={HERE / 'page_head.html'}", f"--metadata=pagetitle:{chapter.topics[0].title}",
+               "--metadata=lang:en"]
     return subprocess.run(["pandoc", *options], input=source, text=True, encoding="utf-8", stdout=subprocess.PIPE,
                           check=True).stdout
 
