@@ -43,17 +43,34 @@ if(VEXA_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# Compiles what waits for the user or for a device in the fewest bytes; -Os stands behind the -O of the build.
+# Compiles what waits for the user or for a device in the fewest bytes; -Os stands after the -O of the build. In the 32-bit
+# program, arguments are pushed, which takes fewer bytes than stores into room made for them; GCC permits it only without
+# the probing of the stack page by page, so that no function may have a frame of a page. Calls need not align the stack
+# either: the functions with vector instructions align their own.
+set(vexa_small_options -Os)
+if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+  list(APPEND vexa_small_options -mno-stack-arg-probe -mpreferred-stack-boundary=2 -Wframe-larger-than=4000)
+endif()
+
 function(vexa_small name)
   if(WIN32)
-    target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-Os>)
+    target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:${vexa_small_options}>)
   endif()
 endfunction()
 
 # The same for single files of a library that is fast elsewhere.
 function(vexa_small_sources)
   if(WIN32)
-    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "-Os")
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "${vexa_small_options}")
+  endif()
+endfunction()
+
+# Makes the program's unwind table smaller once it is linked.
+function(vexa_share_unwind_heads name)
+  if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    set(script ${CMAKE_SOURCE_DIR}/cmake/share_unwind_heads.py)
+    add_custom_command(TARGET ${name} POST_BUILD COMMAND /usr/bin/python3 -B ${script} $<TARGET_FILE:${name}> VERBATIM)
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${script})
   endif()
 endfunction()
 

@@ -44,7 +44,7 @@ class HelpFileReader {
     std::uint64_t allowed_ = 0;
     std::uint64_t blockStart_ = 0;
     std::size_t blockSize_ = 0;
-    std::array<char, 4096> block_;
+    std::array<char, 2048> block_;
     bool failed_ = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -56,12 +57,12 @@ int RunEditor(const vexa::CommandLine& commandLine, int showCommand, StartTurn& 
     {
         vexa::Application application(vexa::platform::ProgramPath());
         vexa::ApplyStartDirectory(application.options);
-        vexa::VexaFrame frame(application);
-        const bool isOpen = frame.open(showCommand);
+        const auto frame = std::make_unique<vexa::VexaFrame>(application);
+        const bool isOpen = frame->open(showCommand);
         turn.reset();
         if (isOpen) {
-            frame.openFirstFiles(files, commandLine.arguments.empty());
-            exitCode = frame.run();
+            frame->openFirstFiles(files, commandLine.arguments.empty());
+            exitCode = frame->run();
         }
     }
     vexa::platform::DeleteGlobalMarker(vexa::kActiveMarker);
