@@ -74,9 +74,17 @@ function(vexa_share_unwind_heads name)
   endif()
 endfunction()
 
+# The Windows program has one thread, so that nothing need guard the making of a static object.
+function(vexa_one_thread name)
+  if(WIN32)
+    target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-threadsafe-statics>)
+  endif()
+endfunction()
+
 # One library a folder of src/. The libraries named after DEPENDS are the folders below it, the only ones it may include.
 function(vexa_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC vexa_compile ${ARG_DEPENDS})
+  vexa_one_thread(${name})
 endfunction()

@@ -19,6 +19,7 @@
 #endif
 
 #ifdef VEXA_SSE2
+#include <cpuid.h>
 #include <emmintrin.h>
 #endif
 
@@ -33,10 +34,16 @@ char FoldOf(char folded, LetterCase letterCase) {
 }
 
 #ifdef VEXA_SSE2
+// Asks the processor itself: what the compiler has for it knows every processor by name, in 6 KB.
 Instructions DetectInstructions() {
-    __builtin_cpu_init();
-    if (__builtin_cpu_supports("ssse3")) return Instructions::Ssse3;
-    return __builtin_cpu_supports("sse2") ? Instructions::Sse2 : Instructions::Plain;
+    constexpr unsigned kFeatures = 1;
+    unsigned signature = 0;
+    unsigned brand = 0;
+    unsigned newer = 0;
+    unsigned older = 0;
+    if (__get_cpuid(kFeatures, &signature, &brand, &newer, &older) == 0) return Instructions::Plain;
+    if ((newer & bit_SSSE3) != 0) return Instructions::Ssse3;
+    return (older & bit_SSE2) != 0 ? Instructions::Sse2 : Instructions::Plain;
 }
 #else
 Instructions DetectInstructions() {
