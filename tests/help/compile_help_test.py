@@ -60,6 +60,7 @@ class ManualTest(unittest.TestCase):
         content, faults = self.compiled()
         self.assertEqual(faults, [])
         self.assertEqual(content, self.compiled()[0])
+        self.assertEqual(content.count(b"In this chapter"), 1)  # that of the glossary has no links of its own
         for text in [b"Sample\0", b"What one is.", b"find\0", b"search\0", b"Go left", b"Line end", b"|bm0\0"]:
             self.assertIn(text, content)
         self.assertNotIn(b"Search\0\1", content)  # the index has one spelling of it
@@ -98,6 +99,10 @@ class ManualTest(unittest.TestCase):
                 self.assertIsNone(content)
                 self.assertTrue(any(fault in told for told in faults), faults)
                 self.write(f"manual/{name}", text)
+
+    def test_a_chapter_that_is_no_text_is_told(self):
+        (self.root / "manual/find.md").write_bytes(b"# Finding\n\n\xff\n")
+        self.assertIn("find.md:3: is no text in UTF-8", self.compiled()[1][0])
 
     def test_names_of_one_hash_are_told(self):
         self.assertEqual(context_hash("contents"), 0x25F4558A)

@@ -6,7 +6,7 @@ from btree import BTree
 from container import help_file
 from context_hash import context_hash
 from fonts import Fonts
-from manual import BULLET, Paragraph, Picture, Run, SubHeading
+from manual import BULLET, Paragraph, Picture, Run, Style, SubHeading, runs_of
 from packing import long, short, text, ushort
 from paragraphs import ParagraphWriter
 from pictures import picture_bytes
@@ -88,10 +88,16 @@ class HelpWriter:
         return placed
 
     def list_of_chapter(self, topic):
-        """Leads from the first topic of a chapter to the others, which the viewer shows one at a time."""
+        """Leads from the first topic of a chapter to the others, which a viewer shows one at a time; nothing where the
+        topic's own links do so."""
         chapter = next(chapter for chapter in self.manual.chapters if chapter.name == topic.chapter)
-        return [Paragraph([Run(other.title, link=other.link())], 1, BULLET)
-                for other in chapter.topics if topic.is_first and other is not topic]
+        reached = {run.link.slug for block in topic.blocks for run in runs_of(block)
+                   if run.link and run.link.chapter == topic.chapter}
+        others = [other for other in chapter.topics[1:] if topic.is_first]
+        if reached.issuperset(other.slug for other in others):
+            return []
+        heading = Paragraph([Run("In this chapter", Style(bold=True))])
+        return [heading, *(Paragraph([Run(other.title, link=other.link())], 1, BULLET) for other in others)]
 
     def offset_of(self, topic):
         return self.placed[topic.context()].header.offset

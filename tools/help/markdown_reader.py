@@ -104,8 +104,16 @@ class ChapterReader:
         self.topic = None
         self.may_describe = False  # right below a topic's heading
 
+    def text(self):
+        try:
+            return self.chapter.path.read_text(encoding="utf-8")
+        except UnicodeDecodeError as error:
+            line = error.object.count(b"\n", 0, error.start) + 1
+            self.faults.add(Position(self.chapter.path, line), "is no text in UTF-8")
+            return ""
+
     def read(self):
-        for node in parse(self.chapter.path.read_text(encoding="utf-8")).children:
+        for node in parse(self.text()).children:
             self.read_block(node, 0)
             self.may_describe = node.type == "heading"
         if not self.chapter.topics:
