@@ -61,6 +61,14 @@ std::string TextOf(HWND window) {
     return text;
 }
 
+std::string NameShownBy(HWND window) {
+    std::string text = TextOf(window);
+    const std::size_t directory = text.find(":\\");
+    if (directory == std::string::npos) return text;
+    const std::size_t begin = text.rfind(" - ", directory);
+    return text.erase(begin, text.size() - begin - (text.ends_with(']') ? 1 : 0));
+}
+
 std::string ClassOf(HWND window) {
     char name[100] = "";
     GetClassNameA(window, name, sizeof name);
@@ -152,7 +160,7 @@ bool Editor::hasCaption(const std::string& part) const {
 std::vector<std::string> Editor::documents() const {
     std::vector<std::string> captions;
     for (const HWND window : ChildrenOf(frame_, "MDIchildCL"))
-        captions.push_back(TextOf(window));
+        captions.push_back(NameShownBy(window));
     return captions;
 }
 
@@ -171,10 +179,16 @@ HWND Editor::activePane() const {
     return nullptr;
 }
 
-std::string Editor::pane(std::size_t index) const {
+HWND Editor::paneWindow(std::size_t index) const {
     const std::vector<HWND> bars = ChildrenOf(frame_, "StatusBarCL");
     const std::vector<HWND> panes = bars.empty() ? bars : ChildrenOf(bars[0], "CtrlWindowCL");
-    return index < panes.size() ? TextOf(panes[index]) : std::string();
+    return index < panes.size() ? panes[index] : nullptr;
+}
+
+LONG Editor::paneWidth(std::size_t index) const {
+    RECT area{};
+    GetWindowRect(paneWindow(index), &area);
+    return area.right - area.left;
 }
 
 bool Editor::showsMessage(const std::string& text) const {

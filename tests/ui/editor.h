@@ -15,6 +15,8 @@ namespace vexa::test {
 
 // The text of any window of any program.
 std::string TextOf(HWND window);
+// The same for a window whose caption names a document, without the document's directory.
+std::string NameShownBy(HWND window);
 std::string ClassOf(HWND window);
 std::vector<HWND> ChildrenOf(HWND parent, const std::string& className);
 
@@ -52,15 +54,17 @@ class Editor {
 
     HANDLE process() const { return program_.process(); }
     HWND frame() const { return frame_; }
-    std::string caption() const { return TextOf(frame_); }
+    std::string caption() const { return NameShownBy(frame_); }
     bool hasCaption(const std::string& part) const;  // waits for it
-    // The captions of the document windows, in the order in which they lie on each other.
+    // The names that the document windows show, in the order in which they lie on each other.
     std::vector<std::string> documents() const;
     HWND activeDocument() const;
     HWND activePane() const;
 
     // ---- status bar ----
 
+    // In pixels; 0 for one without a text.
+    LONG paneWidth(std::size_t index) const;
     std::string message() const { return pane(0); }
     std::string recording() const { return pane(1); }
     std::string readOnly() const { return pane(2); }
@@ -108,7 +112,8 @@ class Editor {
     void takePicture(const std::string& name) const;
 
   private:
-    std::string pane(std::size_t index) const;
+    HWND paneWindow(std::size_t index) const;
+    std::string pane(std::size_t index) const { return TextOf(paneWindow(index)); }
     HWND findFrame() const;
     // A place of the active pane; the flags say which button goes up or down there.
     void moveMouse(POINT place, DWORD flags) const;

@@ -57,6 +57,11 @@ TEST_F(SessionTest, SameFilesComeBackAtTheSameLines) {
         ASSERT_TRUE(has(again, 0));
         end(again);
     }
+    {
+        const Editor nothing(folder, {"*.zzz"});
+        ASSERT_TRUE(nothing.runCommand(CommandId::FileNew));
+        EXPECT_TRUE(has(nothing, 1)) << "wildcards without a match open nothing, an untitled document neither";
+    }
     const Editor last(folder);  // what was closed before the end does not come back
     EXPECT_TRUE(last.hasCaption("[untitled.txt]"));
     EXPECT_EQ(last.documents().size(), 1u);
@@ -146,7 +151,8 @@ TEST_F(SessionTest, WorkingDirectoryComesBack) {
     { end(Editor(folder)); }
     const Editor again(folder, {}, folder.path("elsewhere"));
     EXPECT_TRUE(ExecuteByDde("[open(\"c.txt\")]"));
-    EXPECT_TRUE(again.hasCaption(folder.path("c.txt")));
+    EXPECT_TRUE(again.hasCaption("c.txt]"));
+    EXPECT_EQ(TextOf(again.frame()), "Vexa 95 - [c.txt - " + folder.path() + "]");
 }
 
 TEST_F(SessionTest, KilledEditorLosesNothingThatWasSaved) {

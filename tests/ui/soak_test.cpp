@@ -117,7 +117,7 @@ class Soak : public ::testing::Test {
         if (editor.mode() == "OVR") editor.keys("{Alt+I}");
         editor.keys("{Ctrl+Home}z{Backspace}");
         EXPECT_TRUE(hasUsedKeys(editor));
-        EXPECT_TRUE(TextOf(editor.activeDocument()).ends_with(" *"));
+        EXPECT_TRUE(NameShownBy(editor.activeDocument()).ends_with(" *"));
         editor.command(CommandId::FileSave);
         EXPECT_TRUE(editor.showsMessage("Write successful.")) << editor.message();
         return folder.get(name);

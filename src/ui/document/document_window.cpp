@@ -1,10 +1,19 @@
 #include "ui/document/document_window.h"
 
+#include <algorithm>
+
+#include "base/directories.h"
 #include "base/platform.h"
 #include "framework/mdi_frame.h"
 #include "ui/resources/resource.h"
 
 namespace vexa {
+
+namespace {
+
+constexpr std::size_t kRootLength = 3;  // "C:\\", which keeps its backslash
+
+}  // namespace
 
 const WindowClass kDocumentWindowClass{.name = "MDIchildCL", .icon = IDI_DOCUMENT};
 
@@ -22,7 +31,11 @@ DocumentWindow::DocumentWindow(MDIframeCL& frame, DocumentHost& host, Applicatio
 }
 
 std::string DocumentWindow::caption() const {
-    return document_.isModified() ? document_.fullPath() + " *" : document_.fullPath();
+    const std::string directory = DirectoryOf(document_.fullPath());
+    std::string text = document_.fullPath().substr(directory.size());
+    if (document_.isModified()) text += " *";
+    if (!directory.empty()) text += " - " + directory.substr(0, std::max(directory.size() - 1, kRootLength));
+    return text;
 }
 
 bool DocumentWindow::onCreate() {

@@ -45,7 +45,8 @@ class DocumentWindow : public MDIchildCL, public TextWindow, private PaneHost, p
     RECT screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
         return pane_.screenPlaceOf(line, from, to);
     }
-    // The document's path, marked while it has changes that are not saved.
+    // The document's name, marked while it has changes that are not saved, and the directory behind it: where there is
+    // room for the beginning alone, as in tiled windows, that tells more.
     std::string caption() const;
     // Whether the file could not be saved, as it was when the window last became the active one.
     bool isReadOnly() const { return isReadOnly_; }
