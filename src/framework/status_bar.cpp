@@ -94,7 +94,9 @@ void StatusBarCL::refreshFont() {
 }
 
 void StatusBarCL::setPane(std::size_t pane, const std::string& text, bool highlighted) {
+    const bool comesOrGoes = panes_[pane]->text().empty() != text.empty();
     panes_[pane]->show(text, highlighted);
+    if (comesOrGoes) layOut();
 }
 
 void StatusBarCL::setPaneAction(std::size_t pane, std::function<void()> action) {
@@ -111,9 +113,10 @@ void StatusBarCL::layOut() {
     const int margins = 2 * Scaled(kTextMargin, DpiOf(window())) + gap_;
     LONG right = client.right - gap_;
     for (std::size_t i = widestTexts_.size(); i > 0; --i) {
-        const LONG left = right - TextWidth(window(), font_.get(), widestTexts_[i - 1]) - margins;
+        const bool isEmpty = panes_[i]->text().empty();
+        const LONG left = isEmpty ? right : right - TextWidth(window(), font_.get(), widestTexts_[i - 1]) - margins;
         panes_[i]->place({left, gap_, right, client.bottom - gap_});
-        right = left - gap_;
+        if (!isEmpty) right = left - gap_;
     }
     panes_[0]->place({gap_, gap_, right > gap_ ? right : gap_, client.bottom - gap_});
 }

@@ -36,7 +36,8 @@ class StatusPaneCL : public WindowCL {
     OffScreenBitmap picture_;
 };
 
-// The first pane takes the room that the others leave; those are as wide as the widest text they will show.
+// The first pane takes the room that the others leave; those are as wide as the widest text they will show, and take
+// no room while they show none.
 class StatusBarCL : public WindowCL {
   public:
     // One text for each pane after the first, at its widest.

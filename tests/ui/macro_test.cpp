@@ -66,7 +66,7 @@ TEST_F(MacroTest, RepeatedPlaybackStopsAtThePlayThatFails) {
     editor.keys("9999{Enter}");
     EXPECT_TRUE(editor.showsMessage("No macro recorded!"));
     EXPECT_FALSE(editor.hasDialog());
-    EXPECT_FALSE(TextOf(editor.activeDocument()).ends_with(" *"));
+    EXPECT_FALSE(NameShownBy(editor.activeDocument()).ends_with(" *"));
 }
 
 TEST_F(MacroTest, WhatCannotBeDoneIsRefusedInTheStatusBar) {
@@ -77,6 +77,7 @@ TEST_F(MacroTest, WhatCannotBeDoneIsRefusedInTheStatusBar) {
     EXPECT_TRUE(editor.showsMessage("Can't playback macro while recording!"));
     editor.takePicture("macro-refused");
     EXPECT_EQ(editor.recording(), "REC");
+    EXPECT_GT(editor.paneWidth(1), 0);
     const char* const kUnrecorded = "You can't record this action as a macro!";
     for (const CommandId id : {CommandId::ToggleToolBar, CommandId::Copy}) {
         editor.command(id);
@@ -90,6 +91,7 @@ TEST_F(MacroTest, WhatCannotBeDoneIsRefusedInTheStatusBar) {
     editor.keys("{F7}");
     EXPECT_TRUE(editor.showsMessage("Macro recording complete"));
     EXPECT_EQ(editor.recording(), "");
+    EXPECT_EQ(editor.paneWidth(1), 0) << "an empty pane takes no room";
 }
 
 TEST_F(MacroTest, KeysWaitForTheEndOfAPlaybackAndEscStopsIt) {
