@@ -205,6 +205,24 @@ TEST_F(Write, AProgramThatEndsAtAnyStepLeavesTheOldTextWhole) {
     EXPECT_EQ(disk_.count(), 1u) << "what an earlier end left of a copy in the making";
 }
 
+TEST_F(Write, FilesThatBearTheNamesOfCopiesAreNotWrittenOver) {
+    load(LargeText('o'));
+    disk_.put("A.TXT.vx~", "mine");
+    disk_.put("A.TXT.vxa", LargeText('o') + "and more");
+    disk_.put("A.TXT.vx0", "mine too");
+    type("x");
+    plan = {FileStep::Write, 4, 1000, false};
+    SetFileFault(Strike);
+    EXPECT_FALSE(document_.write());
+    SetFileFault(nullptr);
+    EXPECT_EQ(disk_.get("A.TXT.vx1"), LargeText('o'));
+    EXPECT_TRUE(document_.write());
+    EXPECT_EQ(disk_.get("A.TXT.vx~"), "mine");
+    EXPECT_EQ(disk_.get("A.TXT.vxa"), LargeText('o') + "and more");
+    EXPECT_EQ(disk_.get("A.TXT.vx0"), "mine too");
+    EXPECT_EQ(disk_.count(), 5u);
+}
+
 TEST_F(Write, ACopyThatCannotLieBesideTheFileLiesAmongTheBackups) {
     disk_.makeDirectory("vbackup");
     const std::string names[] = {std::string(254, 'n'), "A.TXT"};  // the first leaves no room for ".vx0"

@@ -17,7 +17,9 @@ using platform::OpenMode;
 constexpr std::size_t kBlock = std::size_t{1} << 18;
 constexpr std::size_t kLongestPath = 259;
 constexpr std::size_t kLargestInMemory = std::size_t{1} << 28;
+// What follows the stem in a copy's name, and while it is being written.
 constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kTemporaryMarks = "~abcdefghij";
 
 // Names of one base name in several directories are told apart by a mark of the path.
 std::string StemInBackups(const std::string& path) {
@@ -33,12 +35,38 @@ std::array<std::string, 2> StemsOf(const std::string& path) {
     return {path + ".vx", StemInBackups(path)};
 }
 
+// The first name that is free in the eyes of a function; empty when none is.
+template <class IsFree>
+std::string FirstName(const std::string& stem, std::string_view marks, IsFree isFree) {
+    const auto mark = std::ranges::find_if(marks, [&](char c) { return isFree(stem + c); });
+    return mark == marks.end() ? std::string() : stem + *mark;
+}
+
 std::string FreeName(const std::string& stem) {
-    const auto digit = std::ranges::find_if(kDigits, [&](char c) { return !platform::PathExists(stem + c); });
-    return digit == kDigits.end() ? std::string() : stem + *digit;
+    return FirstName(stem, kDigits, [](const std::string& name) { return !platform::PathExists(name); });
+}
+
+// Whether a file holds nothing but the beginning of another one, or all of it.
+bool IsPartOf(const std::string& name, File& file) {
+    File part(name, OpenMode::Read);
+    std::string block(kBlock, '\0');
+    std::string expected(kBlock, '\0');
+    if (!part.isOpen() || !file.seek(0)) return false;
+    for (std::optional<std::size_t> count = kBlock; *count == kBlock;) {
+        count = part.read(block.data(), kBlock);
+        if (!count || file.read(expected.data(), *count) != count) return false;
+        if (block.compare(0, *count, expected, 0, *count) != 0) return false;
+    }
+    return true;
 }
 
 }  // namespace
+
+// What an interruption left of a copy is written over. Another file of such a name is somebody's own.
+std::string SafetyCopy::temporaryName(const std::string& stem, File& file) {
+    return FirstName(stem, kTemporaryMarks,
+                     [&file](const std::string& name) { return !platform::PathExists(name) || IsPartOf(name, file); });
+}
 
 SafetyCopy::SafetyCopy(const std::string& path, File& file) {
     for (const std::string& stem : StemsOf(path)) {
@@ -51,9 +79,8 @@ SafetyCopy::SafetyCopy(const std::string& path, File& file) {
 CopyFault SafetyCopy::copyTo(const std::string& stem, File& file) {
     if (stem.size() + 1 > kLongestPath) return CopyFault::NameTooLong;
     name_ = FreeName(stem);
-    if (name_.empty()) return CopyFault::AllNamesTaken;
-    // Left by an interruption it holds what the file itself still has, so it may be written over.
-    const std::string temporary = stem + "~";
+    const std::string temporary = temporaryName(stem, file);
+    if (name_.empty() || temporary.empty()) return CopyFault::AllNamesTaken;
     CopyFault fault = copyAs(temporary, file);
     if (fault == CopyFault::None && !platform::RenameFile(temporary, name_)) fault = CopyFault::NoRoom;
     if (fault != CopyFault::None) platform::RemoveFile(temporary);

@@ -38,6 +38,7 @@ class SafetyCopy {
   private:
     SafetyCopy() = default;
     CopyFault copyTo(const std::string& stem, File& file);
+    static std::string temporaryName(const std::string& stem, File& file);
     CopyFault copyAs(const std::string& temporary, File& file);
 
     CopyFault fault_ = CopyFault::None;
