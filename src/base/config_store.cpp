@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t kPathLimit = 255;
 constexpr std::size_t kGuardAndTerminator = 3;
+constexpr const char* kNoValue = "\n";  // what no value of the file can be
 
 // Readers of a settings file take blanks around a value and one pair of quotes off; a further pair saves the text's
 // own.
@@ -35,10 +36,14 @@ std::int32_t ConfigStore::ReadInt(const std::string& section, const std::string&
     return platform::ReadIntSetting(path_, section, key, fallback);
 }
 
-// A value with a line end in it would put lines of its own into the file, so it ends there.
+// A value with a line end in it would put lines of its own into the file, so it ends there. One that the file has already
+// is not written: each that is makes the system read and write the whole file.
 void ConfigStore::WriteString(const std::string& section, const std::string& key, const std::string& value) {
     using namespace std::string_view_literals;
-    platform::WriteSetting(path_, section, key, value.substr(0, value.find_first_of("\r\n\0"sv)));
+    const std::string kept = value.substr(0, value.find_first_of("\r\n\0"sv));
+    const std::size_t oneMoreAndTerminator = kept.size() + 2;
+    if (ReadString(section, key, kNoValue, oneMoreAndTerminator) == kept) return;
+    platform::WriteSetting(path_, section, key, kept);
 }
 
 std::string ConfigStore::ReadGuarded(const std::string& section, const std::string& key, const std::string& fallback,

@@ -85,6 +85,8 @@ TEST_F(Settings, WritingLeavesOtherLinesAlone) {
     store.WriteInt("First", "c", -7);
     store.WriteString("Fresh", "d", "text");
     const std::string after = disk.get("VEXA.INI");
+    store.WriteInt("First", "a", 1);
+    EXPECT_EQ(disk.get("VEXA.INI"), after) << "what the file has already is not written";
     for (const char* kept : {"; mine\r\n[First]\r\n", "strange line\r\n", "[Main]\r\n", "b=2\r\n"})
         EXPECT_NE(after.find(kept), std::string::npos) << kept << "\n" << after;
     EXPECT_EQ(after.find("old"), std::string::npos);
