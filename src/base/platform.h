@@ -185,6 +185,12 @@ std::optional<std::uint32_t> ExitCodeOf(ProcessHandle process);
 // Lets go of the handle. The program runs on.
 void CloseProcess(ProcessHandle process);
 
+// ---- characters --------------------------------------------------------------------------------------------------
+
+// A character, given by its Unicode number, in the ANSI code page, which takes several bytes for one in some countries;
+// empty when it lacks it. The host's code page holds the first 256.
+std::string AnsiCharacter(char32_t character);
+
 // ---- the rest ----------------------------------------------------------------------------------------------------
 
 // Seconds since the beginning of 1970, as the system's clock has it; it may be set back.

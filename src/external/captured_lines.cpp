@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/file.h"
+#include "base/utf8.h"
 
 namespace vexa {
 
@@ -28,7 +29,7 @@ std::optional<CutLine> CutFirst(std::string_view text, bool atEnd) {
     const bool fits = end <= kCapturedLineLimit || (end == kCapturedLineLimit + 1 && text[end - 1] == '\r');
     if (end != std::string_view::npos && fits) return CutLine{UpToCarriageReturn(text.substr(0, end)), end + 1};
     if (text.size() < kLongestWithEnd && !atEnd) return std::nullopt;
-    const std::string_view line = text.substr(0, kCapturedLineLimit);
+    const std::string_view line = text.substr(0, CutOfUtf8(text, kCapturedLineLimit));
     return CutLine{UpToCarriageReturn(line), line.size()};
 }
 
@@ -39,7 +40,8 @@ std::optional<std::string_view> HandOver(std::string_view text, bool atEnd,
         const std::optional<CutLine> cut = CutFirst(text, atEnd);
         if (!cut) break;
         text.remove_prefix(cut->taken);
-        if (!take(cut->line)) return std::nullopt;
+        const std::optional<std::string> ansi = AnsiOfUtf8(cut->line);
+        if (!take(ansi ? *ansi : cut->line)) return std::nullopt;
     }
     return text;
 }

@@ -12,8 +12,9 @@ namespace vexa {
 inline constexpr std::size_t kCapturedLineLimit = 255;
 
 // Hands each line to a function until that returns false. A line ends at CR LF or LF, and what follows a CR inside it
-// is not part of it; other bytes are as they are. The file is shared with programs that still write. False when it
-// cannot be opened; after an error in the middle of the file, what was read before it counts.
+// is not part of it. A line in UTF-8 is handed over in the ANSI code page; all other bytes are as they are. The file is
+// shared with programs that still write. False when it cannot be opened; after an error in the middle of the file, what
+// was read before it counts.
 bool ReadCapturedLines(const std::string& path, const std::function<bool(std::string_view)>& take);
 
 }  // namespace vexa

@@ -17,7 +17,7 @@ void ListLines::addLast(std::string_view text) {
         used_ = 0;
     }
     char* const start = blocks_.back().get() + used_;
-    *std::ranges::copy(text, start).out = '\0';
+    start[text.copy(start, text.size())] = '\0';
     lines_.push_back({static_cast<std::uint32_t>(blocks_.size() - 1), static_cast<std::uint16_t>(used_),
                       static_cast<std::uint16_t>(text.size())});
     used_ += text.size() + 1;

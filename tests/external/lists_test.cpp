@@ -46,6 +46,10 @@ TEST_F(Lists, LinesAreCutAtTheirEndsAndAtTheirLimit) {
     const std::string full(kCapturedLineLimit, 'x');
     EXPECT_EQ(linesOf(full + "\r\n" + full + "\n" + full), (Texts{full, full, full}));
     EXPECT_EQ(linesOf(full + "yz\n"), (Texts{full, "yz"}));
+    const std::string quote = "\xE2\x80\x98";
+    EXPECT_EQ(linesOf(quote + "\xFC\n" + quote + "\xC3\xBC\n"), (Texts{quote + "\xFC", "'\xFC"}));
+    const std::string almostFull(kCapturedLineLimit - 2, 'x');
+    EXPECT_EQ(linesOf(almostFull + quote + "y\n"), (Texts{almostFull, "'y"})) << "no character is cut apart";
     const Texts many = linesOf(std::string(1 << 20, 'x'));
     EXPECT_EQ(many.size(), (1u << 20) / kCapturedLineLimit + 1);
     EXPECT_FALSE(ReadCapturedLines(disk.path(), [](std::string_view) { return true; })) << "a directory";
