@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/list_rows.h"
 #include "base/notices.h"
 #include "external/error_line_parser.h"
 #include "external/list_lines.h"
-#include "external/list_rows.h"
 #include "external/source_document.h"
 
 namespace vexa {

@@ -16,9 +16,14 @@ std::string_view OnOff(bool on) {
 
 }  // namespace
 
-bool FindCommands::has(const EditView* view) {
-    if (view == nullptr) tellError(LoadText(TextId::NeedsOpenFile));
-    return view != nullptr;
+bool FindCommands::has(const SearchTarget& target) {
+    const bool isThere = target.view || target.rows;
+    if (!isThere) tellError(LoadText(TextId::NeedsOpenFile));
+    return isThere;
+}
+
+bool FindCommands::findIn(const SearchTarget& target) {
+    return target.view ? finder_.findNext(*target.view) : finder_.findNext(*target.rows);
 }
 
 void FindCommands::tellNotFound() {
@@ -27,24 +32,25 @@ void FindCommands::tellNotFound() {
     tellError(FillText(options_.forward() ? TextId::NotFoundForward : TextId::NotFoundBackward, {options_.findText()}));
 }
 
-void FindCommands::findNext(EditView* view) {
+void FindCommands::findNext(const SearchTarget& target) {
     options_.setForward(true);
-    find(view);
+    find(target);
 }
 
-void FindCommands::findPrevious(EditView* view) {
+void FindCommands::findPrevious(const SearchTarget& target) {
     options_.setForward(false);
-    if (!has(view)) return;
-    if (!finder_.findNext(*view)) tellNotFound();
+    if (!has(target)) return;
+    if (!findIn(target)) tellNotFound();
 }
 
 // What the caret is at counts as found already, so that the search goes on after it.
-void FindCommands::findAtCaret(EditView* view) {
-    if (!has(view)) return;
-    const TextDocument& document = view->document();
+bool FindCommands::findAtCaret(const SearchTarget& target) {
+    if (!has(target) || !target.view) return false;
+    const TextDocument& document = target.view->document();
     const LineIndex line = document.currentLine();
     const std::optional<CharSpan> span = SpanAtCaret(document);
-    if (!span) return tellError(LoadText(TextId::NoWordAtCursor));
+    if (!span) tellError(LoadText(TextId::NoWordAtCursor));
+    if (!span) return false;
     options_.setFindText(FindTextFor(TextOf(document, line, *span), options_.regularExpression()), true);
     options_.lastMatch.line = line;
     options_.lastMatch.column = span->begin;
@@ -52,12 +58,13 @@ void FindCommands::findAtCaret(EditView* view) {
     options_.lastMatch.cursorColumn = document.column();
     options_.setMatchPending(true);
     options_.setPastLineEnd(false);
-    findNext(view);
+    findNext(target);
+    return true;
 }
 
-bool FindCommands::find(EditView* view) {
-    if (!has(view)) return false;
-    if (finder_.findNext(*view)) {
+bool FindCommands::find(const SearchTarget& target) {
+    if (!has(target)) return false;
+    if (findIn(target)) {
         tell(LoadText(TextId::SearchCompleted));
     } else {
         tellNotFound();

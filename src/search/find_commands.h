@@ -10,7 +10,15 @@
 
 namespace vexa {
 
-// Each command is given the edit view of the active window; none when that is no document's.
+// What is searched: the document of the active window, or its rows, which cannot be changed; neither when it has none.
+struct SearchTarget {
+    SearchTarget(EditView* searchedView, ListRows* searchedRows = nullptr) : view(searchedView), rows(searchedRows) {}
+
+    EditView* view;
+    ListRows* rows;
+};
+
+// What changes the text is given an edit view alone; none when the active window is no document's.
 class FindCommands {
   public:
     FindCommands(SearchOptions& options, Notices& notices, SearchWatch& watch)
@@ -21,14 +29,14 @@ class FindCommands {
     void setFailureListener(std::function<void(bool isUserStop)> listener) { failureListener_ = std::move(listener); }
 
     // Find Next (307) and Find Previous (308) also change the direction that is kept.
-    void findNext(EditView* view);
-    void findPrevious(EditView* view);
+    void findNext(const SearchTarget& target);
+    void findPrevious(const SearchTarget& target);
     // Searches forward for what is marked in the caret's line, or for the word at the caret; tells the user when there
-    // is neither.
-    void findAtCaret(EditView* view);
+    // is neither, and is false then.
+    bool findAtCaret(const SearchTarget& target);
 
     // What the dialogs do once the options are set. False when there was no document to work on.
-    bool find(EditView* view);
+    bool find(const SearchTarget& target);
     bool replace(EditView* view);
 
     void toggleRegularExpression();
@@ -38,7 +46,8 @@ class FindCommands {
 
   private:
     // Tells the user when there is none.
-    bool has(const EditView* view);
+    bool has(const SearchTarget& target);
+    bool findIn(const SearchTarget& target);
     void tell(std::string_view text) { notices_.status(text, false, false); }
     void tellError(std::string_view text) { notices_.status(text, true, true); }
     void tellNotFound();

@@ -5,14 +5,22 @@
 namespace vexa {
 
 FindDialogModel::FindDialogModel(FindCommands& commands, HistoryList& findHistory)
-    : findText(commands.options().findText()),
-      wholeWord(commands.options().wholeWord()),
-      matchCase(commands.options().matchCase()),
-      regularExpression(commands.options().regularExpression()),
-      forward(commands.options().forward()),
-      commands_(commands),
-      findHistory_(findHistory),
-      snapshot_(commands.options().snapshot()) {}
+    : commands_(commands), findHistory_(findHistory), snapshot_(commands.options().snapshot()) {
+    takeOptions();
+}
+
+void FindDialogModel::takeOptions() {
+    findText = options().findText();
+    wholeWord = options().wholeWord();
+    matchCase = options().matchCase();
+    regularExpression = options().regularExpression();
+    forward = options().forward();
+}
+
+void FindDialogModel::takeSearch() {
+    takeOptions();
+    noteSearch(true);
+}
 
 void FindDialogModel::storeFindFields(bool pending) {
     options().setWholeWord(wholeWord);
@@ -28,7 +36,7 @@ void FindDialogModel::patternChanged() {
 }
 
 // A match of another text that is still under the cursor is stepped over, so its search counts as one.
-void FindDialogModel::findNext(EditView* active) {
+void FindDialogModel::findNext(const SearchTarget& active) {
     if (!canSearch()) return;
     storeFindFields(true);
     noteSearch(commands_.find(active));

@@ -28,8 +28,10 @@ class FindDialogModel {
     bool canSearch() const { return !findText.empty(); }
     // To be called when the find text or its being a regular expression has changed.
     void patternChanged();
-    // Searches the active document (none if there is no document window) with the fields as the new options.
-    void findNext(EditView* active);
+    // Searches with the fields as the new options.
+    void findNext(const SearchTarget& active);
+    // A search from outside the dialog has changed the options, which the fields now follow.
+    void takeSearch();
     // Puts the options back as they were when the dialog opened, unless it has searched since.
     void cancel();
 
@@ -41,6 +43,8 @@ class FindDialogModel {
     void noteSearch(bool ran) { searched_ = searched_ || ran; }
 
   private:
+    void takeOptions();
+
     FindCommands& commands_;
     HistoryList& findHistory_;
     SearchOptions::Values snapshot_;

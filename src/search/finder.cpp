@@ -181,6 +181,20 @@ bool Finder::findNext(EditView& view) {
     return found;
 }
 
+bool Finder::findNext(ListRows& rows) {
+    SearchProgress progress(notices_, watch_);
+    LineSearch search(options_, {});
+    const std::size_t count = rows.rowCount();
+    const std::size_t step = options_.forward() ? 1 : SIZE_MAX;
+    std::size_t row = rows.selectedRow().value_or(options_.forward() ? SIZE_MAX : count) + step;
+    while (row < count && !search.find(rows.rowText(row), CharColumn(0)) && !progress.mustStop())
+        row += step;
+    stopped_ = progress.stopped();
+    if (row >= count || stopped_) return false;
+    rows.selectRow(row);
+    return true;
+}
+
 std::int32_t Finder::replace(EditView& view) {
     SearchProgress progress(notices_, watch_);
     SearchRun(view, options_, progress).replace();

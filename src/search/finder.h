@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "base/list_rows.h"
 #include "base/notices.h"
 #include "document/view/edit_view.h"
 #include "search/search_options.h"
@@ -23,6 +24,9 @@ class Finder {
     // Moves the cursor to the next match, marks it and brings both into sight. False, with nothing changed, when there
     // is none.
     bool findNext(EditView& view);
+    // Selects the next row in which the find text is, after the selected one or, backward, before it. False, with
+    // nothing changed, when there is none.
+    bool findNext(ListRows& rows);
 
     // Replaces the pending match where it is still marked, else the next one, and leaves the cursor after the new
     // text. With the replace all option every match from there on is replaced and the cursor stays. The number of

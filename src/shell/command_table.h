@@ -15,7 +15,7 @@ enum class CommandNeed : std::uint8_t {
     Nothing,
     Window,    // some window inside the frame
     Document,  // the active window shows a document
-    EditArea,  // the active window takes the editing commands: a document, or a list of output lines
+    EditArea,  // the active window takes editing commands or can be searched: a document, or a list of output lines
 };
 
 // How a command that runs while a macro is recorded becomes a step of it.

@@ -121,10 +121,11 @@ class User {
     }
     void search() {
         setSearch();
-        using Search = void (FindCommands::*)(EditView*);
-        static constexpr Search kSearches[] = {&FindCommands::findNext, &FindCommands::findPrevious,
-                                               &FindCommands::findAtCaret};
-        (find_.*kSearches[input_.byte() % std::size(kSearches)])(&view_);
+        using Search = void (*)(FindCommands&, EditView&);
+        static constexpr Search kSearches[] = {[](FindCommands& find, EditView& view) { find.findNext(&view); },
+                                               [](FindCommands& find, EditView& view) { find.findPrevious(&view); },
+                                               [](FindCommands& find, EditView& view) { find.findAtCaret(&view); }};
+        kSearches[input_.byte() % std::size(kSearches)](find_, view_);
     }
     void replace() {
         setSearch();

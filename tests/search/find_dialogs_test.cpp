@@ -114,6 +114,19 @@ TEST_F(FindDialogs, AnotherTextInReplaceLeavesTheOldMatchAlone) {
     EXPECT_EQ(notices.lastStatus(), "Replacement completed with 2 occurrences changed.");
 }
 
+TEST_F(FindDialogs, FieldsFollowASearchFromOutside) {
+    FindDialogModel model(commands, findHistory);
+    model.findText = "typed";
+    model.regularExpression = true;
+    view.goTo(LineIndex(0), CharColumn(5));
+    EXPECT_TRUE(commands.findAtCaret(&view));
+    model.takeSearch();
+    EXPECT_EQ(model.findText, "bar");
+    EXPECT_FALSE(model.regularExpression);
+    model.cancel();
+    EXPECT_EQ(options.findText(), "bar") << "what was searched for stays";
+}
+
 TEST_F(FindDialogs, CancelRestoresWhatWasBeforeOnlyWithoutASearch) {
     ReplaceDialogModel changed(commands, findHistory, replaceHistory);
     commands.toggleMatchCase();

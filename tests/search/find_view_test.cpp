@@ -20,6 +20,41 @@ class FindView : public testing::Test, protected FindSession {
     }
 };
 
+struct FakeRows : ListRows {
+    std::size_t rowCount() const override { return rows.size(); }
+    std::string_view rowText(std::size_t row) const override { return rows[row]; }
+    RowKind rowKind(std::size_t) const override { return RowKind::Plain; }
+    std::size_t longestRow() const override { return 0; }
+    std::optional<std::size_t> selectedRow() const override { return selected; }
+    void selectRow(std::size_t row) override { selected = row; }
+    void activateRow() override {}
+    void clearRows() override {}
+
+    std::vector<std::string> rows;
+    std::optional<std::size_t> selected;
+};
+
+TEST_F(FindView, RowsAreSearchedFromTheSelectedOneOn) {
+    FakeRows list;
+    options.setFindText("b", false);
+    commands.findNext({nullptr, &list});
+    EXPECT_EQ(list.selected, std::nullopt);
+    list.rows = {"ab", "a", "cb", "b"};
+    commands.findNext({nullptr, &list});
+    EXPECT_EQ(list.selected, 0u);
+    commands.findNext({nullptr, &list});
+    EXPECT_EQ(list.selected, 2u);
+    EXPECT_EQ(notices.lastStatus(), "Search completed.");
+    commands.findPrevious({nullptr, &list});
+    EXPECT_EQ(list.selected, 0u);
+    commands.findPrevious({nullptr, &list});
+    EXPECT_EQ(list.selected, 0u);
+    EXPECT_NE(notices.lastStatus(), "Search completed.");
+    list.selected.reset();
+    commands.findPrevious({nullptr, &list});
+    EXPECT_EQ(list.selected, 3u);
+}
+
 TEST_F(FindView, AMatchIsBroughtIntoSightWithItsEnd) {
     view.resize(10, 40);
     put(0, std::string(35, ' ') + "long match");

@@ -33,7 +33,7 @@ void ReplaceDialog::saveHistories() {
 
 void ReplaceDialog::onControl(int control, UINT notification) {
     if (control == IDC_REPLACE && notification == BN_CLICKED) {
-        run([this](EditView* active) { model_.replace(active); });
+        run([this](const SearchTarget& active) { model_.replace(active.view); });
     } else {
         SearchDialog::onControl(control, notification);
     }

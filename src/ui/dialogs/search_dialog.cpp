@@ -82,6 +82,14 @@ void SearchDialog::refreshOptions(const SearchOptions& options) {
     setChecked(IDC_REGULAR_EXPRESSION, options.regularExpression());
 }
 
+void SearchDialog::takeSearch() {
+    if (!window()) return;
+    readFields();
+    model().takeSearch();
+    showFields();
+    enableButtons();
+}
+
 bool SearchDialog::useKey(MSG& message, const KeyEvent& event) {
     const HWND focus = GetFocus();
     if (!window() || !IsChild(window(), focus)) return false;
@@ -161,7 +169,7 @@ void SearchDialog::run(const SearchHost::Search& search) {
 }
 
 void SearchDialog::onAccept() {
-    run([this](EditView* active) { model().findNext(active); });
+    run([this](const SearchTarget& active) { model().findNext(active); });
 }
 
 void SearchDialog::onCancel() {

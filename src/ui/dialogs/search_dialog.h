@@ -16,10 +16,10 @@ namespace vexa {
 // What the dialogs ask of the frame.
 class SearchHost {
   public:
-    using Search = std::function<void(EditView* active)>;
+    using Search = std::function<void(const SearchTarget& active)>;
 
     virtual ~SearchHost() = default;
-    // Lets a search run on the active document and shows what it has done.
+    // Lets a search run on the active document or list and shows what it has done.
     virtual void search(const Search& search) = 0;
     virtual bool isShuttingDown() const = 0;
     virtual void searchDialogGone() = 0;
@@ -31,6 +31,8 @@ class SearchDialog : public EditorDialog {
 
     // Shows options that have been switched from outside.
     void refreshOptions(const SearchOptions& options);
+    // Shows the fields as a search from outside has set them.
+    void takeSearch();
     // Uses a key that means something to the dialog while it has the focus, so that none of the frame's commands gets
     // it; false for any other key.
     bool useKey(MSG& message, const KeyEvent& event);

@@ -70,7 +70,7 @@ ListWindow* ExternalCommands::activeList() const {
     return dynamic_cast<ListWindow*>(documents_.frame().activeChild());
 }
 
-// What is copied is the row of a list where one is active.
+// What is copied are the rows of a list where one is active.
 void ExternalCommands::copy() {
     if (ListWindow* list = activeList()) return list->copy();
     documents_.operate(&OnView<&EditView::copy>);

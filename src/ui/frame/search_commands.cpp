@@ -3,6 +3,7 @@
 #include "ui/dialogs/find_dialog.h"
 #include "ui/dialogs/replace_dialog.h"
 #include "ui/frame/command_rows.h"
+#include "ui/lists/list_window.h"
 
 namespace vexa {
 
@@ -47,15 +48,17 @@ void SearchCommands::openReplace() {
 }
 
 void SearchCommands::findNext() {
-    search([this](EditView* active) { commands_.findNext(active); });
+    search([this](const SearchTarget& active) { commands_.findNext(active); });
 }
 
 void SearchCommands::findPrevious() {
-    search([this](EditView* active) { commands_.findPrevious(active); });
+    search([this](const SearchTarget& active) { commands_.findPrevious(active); });
 }
 
 void SearchCommands::findAtCaret() {
-    search([this](EditView* active) { commands_.findAtCaret(active); });
+    search([this](const SearchTarget& active) {
+        if (commands_.findAtCaret(active) && dialog_) dialog_->takeSearch();
+    });
 }
 
 void SearchCommands::toggleMatchCase() {
@@ -71,8 +74,10 @@ void SearchCommands::toggleRegularExpression() {
 // The keyboard stays where it is, so that a dialog that searches can search on.
 void SearchCommands::search(const Search& search) {
     DocumentWindow* active = documents_.active();
+    const auto* list = dynamic_cast<const ListWindow*>(documents_.frame().activeChild());
     notices_.clearStatus();
-    search(active ? &active->view() : nullptr);
+    search({active ? &active->view() : nullptr, list ? &list->rows() : nullptr});
+    if (list && dialog_) dialog_->keepClearOf(list->screenPlaceOfSelection());
     if (!active) return;
     active->refresh();
     showMatchBesideDialog(*active);

@@ -56,6 +56,7 @@ void ListPane::refresh() {
     if (!window()) return;
     const auto count = static_cast<std::int32_t>(list_.rowCount());
     if (count == 0) left_ = widest_ = 0;
+    if (!list_.selectedRow()) selection_.clear();
     top_ = std::clamp(top_, 0, std::max(count - rowsInWindow(), 0));
     drawRows();
     for (const int bar : {SB_VERT, SB_HORZ})
@@ -70,12 +71,19 @@ void ListPane::drawRows() {
                [this](std::int32_t row) { return render(static_cast<std::size_t>(top_ + row)); });
 }
 
+bool ListPane::needsMarks() const {
+    const COLORREF plain = colours_.colourOf(ColourOf(RowKind::Plain));
+    const COLORREF error = colours_.colourOf(ColourOf(RowKind::Error));
+    const COLORREF warning = colours_.colourOf(ColourOf(RowKind::Warning));
+    return plain == error || plain == warning || error == warning;
+}
+
 ViewRow ListPane::render(std::size_t row) {
-    const std::int32_t columns = columnsInWindow() + 1;  // the last one may be seen in part
-    if (row >= list_.rowCount()) return RenderListRow({}, RowKind::Plain, false, left_, columns);
+    const RowView view{left_, columnsInWindow() + 1, needsMarks()};  // the last column may be seen in part
+    if (row >= list_.rowCount()) return RenderListRow({}, RowKind::Plain, false, view);
     const std::string_view text = list_.rowText(row);
     widest_ = std::max(widest_, ListRowWidth(text));
-    return RenderListRow(text, list_.rowKind(row), list_.selectedRow() == row, left_, columns);
+    return RenderListRow(text, list_.rowKind(row), selection().holds(row), view);
 }
 
 bool ListPane::onEraseBackground(HDC /*dc*/) {
@@ -105,7 +113,7 @@ void ListPane::showSelection() {
 ScrollState ListPane::scrollState(int bar) const {
     if (bar == SB_VERT) return {static_cast<std::int32_t>(list_.rowCount()) - 1, rowsInWindow(), top_};
     const std::int32_t longest = std::max(static_cast<std::int32_t>(list_.longestRow()), widest_);
-    return {longest + 1, columnsInWindow(), left_};
+    return {longest + 1 + (needsMarks() ? kMarkWidth : 0), columnsInWindow(), left_};
 }
 
 void ListPane::scrollTo(int bar, std::int32_t position) {
@@ -133,7 +141,8 @@ bool ListPane::onWheel(const WheelMessage& turn) {
 
 // ---- keys and mouse ----------------------------------------------------------------------------------------------
 
-void ListPane::selectAndShow(std::size_t row) {
+void ListPane::selectAndShow(std::size_t row, bool extends) {
+    selection_.move(list_.selectedRow(), row, extends);
     list_.selectRow(row);
     showSelection();
 }
@@ -143,7 +152,7 @@ bool ListPane::onKey(const KeyMessage& key) {
     host_.userActs();
     const ListExtent extent{list_.rowCount(), static_cast<std::size_t>(rowsInWindow())};
     if (const auto row = RowAfterKey(key.key, list_.selectedRow(), extent)) {
-        selectAndShow(*row);
+        selectAndShow(*row, key.shift);
     } else if (key.key == VK_LEFT || key.key == VK_RIGHT) {
         onScroll(SB_HORZ, key.key == VK_LEFT ? SB_LINELEFT : SB_LINERIGHT);
     } else if (key.key == VK_RETURN && list_.selectedRow()) {
@@ -165,16 +174,33 @@ bool ListPane::onMousePress(const MouseButtonMessage& press) {
     host_.userActs();
     const auto row = rowAt(press.place);
     if (!row) return true;
-    selectAndShow(*row);
-    if (press.isDouble) list_.activateRow();
+    selectAndShow(*row, press.shift);
+    if (press.isDouble) {
+        list_.activateRow();
+    } else {
+        SetCapture(window());
+    }
     return true;
 }
 
-POINT ListPane::menuPosition() const {
+bool ListPane::onMouseMove(POINT place) {
+    if (GetCapture() != window()) return false;
+    const auto row = rowAt({place.x, std::max<LONG>(place.y, 0)});
+    if (row && row != list_.selectedRow()) selectAndShow(*row, true);
+    return true;
+}
+
+bool ListPane::onMouseRelease() {
+    if (GetCapture() == window()) ReleaseCapture();
+    return true;
+}
+
+RECT ListPane::screenPlaceOfSelection() const {
     const auto row = static_cast<LONG>(list_.selectedRow().value_or(0));
-    POINT position{0, std::clamp<LONG>(row - top_, 0, rowsInWindow()) * painter_.cellHeight()};
-    ClientToScreen(window(), &position);
-    return position;
+    const LONG height = painter_.cellHeight();
+    POINT corner{0, std::clamp<LONG>(row - top_, 0, rowsInWindow()) * height};
+    ClientToScreen(window(), &corner);
+    return {corner.x, corner.y, corner.x + clientArea().right, corner.y + height};
 }
 
 bool ListPane::onContextMenu(std::optional<POINT> screenPosition) {
@@ -182,9 +208,11 @@ bool ListPane::onContextMenu(std::optional<POINT> screenPosition) {
     if (screenPosition) {
         POINT position = *screenPosition;
         ScreenToClient(window(), &position);
-        if (const auto row = rowAt(position)) selectAndShow(*row);
+        const auto row = rowAt(position);
+        if (row && !selection().holds(*row)) selectAndShow(*row, false);
     }
-    host_.showContextMenu(screenPosition ? *screenPosition : menuPosition());
+    const RECT selected = screenPlaceOfSelection();
+    host_.showContextMenu(screenPosition ? *screenPosition : POINT{selected.left, selected.top});
     return true;
 }
 

@@ -10,17 +10,17 @@ namespace {
 
 constexpr std::int32_t kTabSize = 8;  // as the programs expect whose output is listed
 
-// The colours of the editor's text that stand out from it in all the colour schemes that have colours.
-ColourElement ColourOf(RowKind kind) {
-    switch (kind) {
-        case RowKind::Error:
-            return ColourElement::Keywords;
-        case RowKind::Warning:
-            return ColourElement::Strings;
-        case RowKind::Plain:
-            break;
-    }
-    return ColourElement::DefaultText;
+// In the order of the kinds. The colours are those of the editor's text that stand out from it in all the colour
+// schemes that have colours.
+struct KindLook {
+    ColourElement colour;
+    std::string_view mark;
+};
+constexpr KindLook kLooks[] = {
+    {ColourElement::DefaultText, "  "}, {ColourElement::Keywords, "! "}, {ColourElement::Strings, "? "}};
+
+const KindLook& LookOf(RowKind kind) {
+    return kLooks[static_cast<std::size_t>(kind)];
 }
 
 using Step = std::size_t (*)(std::size_t row, std::size_t page, std::size_t last);
@@ -40,10 +40,16 @@ constexpr KeyRow kKeys[] = {
 
 }  // namespace
 
-ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, std::int32_t left, std::int32_t columns) {
-    const CellRun run{0, columns, isSelected ? ColourElement::MarkingText : ColourOf(kind),
+ColourElement ColourOf(RowKind kind) {
+    return LookOf(kind).colour;
+}
+
+ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, const RowView& view) {
+    const CellRun run{0, view.columns, isSelected ? ColourElement::MarkingText : ColourOf(kind),
                       isSelected ? ColourElement::MarkingBackground : ColourElement::Background};
-    return {VisibleCells(text, kTabSize, DisplayColumn(left), columns), {run}};
+    std::string marked(view.hasMarks ? LookOf(kind).mark : std::string_view());
+    marked += text;
+    return {VisibleCells(marked, kTabSize, DisplayColumn(view.left), view.columns), {run}};
 }
 
 std::int32_t ListRowWidth(std::string_view text) {
@@ -59,6 +65,19 @@ std::optional<std::size_t> RowAfterKey(unsigned key, std::optional<std::size_t> 
     // A row at the edge of a page stays in sight after the next.
     const std::size_t page = std::max<std::size_t>(extent.page, 2) - 1;
     return found->step(std::min(selected.value_or(0), last), page, last);
+}
+
+void RowSelection::move(std::optional<std::size_t> from, std::size_t to, bool extends) {
+    if (!extends) anchor_ = to;
+    if (extends && from != end_) anchor_ = from.value_or(to);
+    end_ = to;
+}
+
+RowSpan RowSelection::span(std::optional<std::size_t> selected) const {
+    if (!selected) return {};
+    const std::size_t other = selected == end_ ? anchor_ : *selected;
+    const std::size_t first = std::min(other, *selected);
+    return {first, std::max(other, *selected) - first + 1};
 }
 
 std::size_t TopShowing(std::size_t row, std::size_t top, std::size_t page) {

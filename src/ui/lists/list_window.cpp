@@ -59,20 +59,20 @@ void ListWindow::userActs() {
     host_.userActs();
 }
 
-void ListWindow::copyRows(std::size_t first, std::size_t count) {
+void ListWindow::copyRows(RowSpan span) {
     std::string text;
-    for (std::size_t row = first; row < first + count; ++row)
+    for (std::size_t row = span.first; row < span.first + span.count; ++row)
         text.append(rows_.rowText(row)).append("\r\n");
     std::ranges::replace(text, '\0', ' ');  // the clipboard would end there
     clipboard_.put(text, MarkMode::Lines);
 }
 
 void ListWindow::copy() {
-    if (const auto row = rows_.selectedRow()) copyRows(*row, 1);
+    if (rows_.selectedRow()) copyRows(pane_.selection());
 }
 
 void ListWindow::copyAll() {
-    copyRows(0, rows_.rowCount());
+    copyRows({0, rows_.rowCount()});
 }
 
 void ListWindow::showContextMenu(POINT screenPosition) {

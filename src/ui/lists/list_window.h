@@ -29,7 +29,9 @@ class ListWindow : public MDIchildCL, public TextWindow, private ListPaneHost {
 
     ListWindow(MDIframeCL& frame, ListHost& host, ListRows& rows, Application& application, Gone gone);
 
-    // The selected row goes to the clipboard as a line of text.
+    ListRows& rows() const { return rows_; }
+    RECT screenPlaceOfSelection() const { return pane_.screenPlaceOfSelection(); }
+    // The selected rows go to the clipboard as lines of text.
     void copy();
     void copyAll();
     void refresh() { pane_.refresh(); }
@@ -49,7 +51,7 @@ class ListWindow : public MDIchildCL, public TextWindow, private ListPaneHost {
     void userActs() override;
     void zoom(std::int32_t steps) override { host_.zoom(steps); }
     void showContextMenu(POINT screenPosition) override;
-    void copyRows(std::size_t first, std::size_t count);
+    void copyRows(RowSpan span);
 
     ListHost& host_;
     ListRows& rows_;

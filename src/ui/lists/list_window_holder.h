@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "base/list_rows.h"
 #include "base/strings.h"
-#include "external/list_rows.h"
 #include "framework/mdi_frame.h"
 #include "ui/lists/list_window.h"
 

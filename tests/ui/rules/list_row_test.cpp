@@ -6,15 +6,44 @@ namespace vexa {
 namespace {
 
 TEST(ListRow, KindsAndSelectionAreToldApartByColour) {
-    const ViewRow error = RenderListRow("a\tb", RowKind::Error, false, 0, 12);
+    const ViewRow error = RenderListRow("a\tb", RowKind::Error, false, {0, 12});
     EXPECT_EQ(error.cells, "a       b");
-    EXPECT_EQ(RenderListRow("a\tb", RowKind::Error, false, 7, 12).cells, " b");
-    const ViewRow warning = RenderListRow("a\tb", RowKind::Warning, false, 0, 12);
-    const ViewRow plain = RenderListRow("a\tb", RowKind::Plain, false, 0, 12);
+    EXPECT_EQ(RenderListRow("a\tb", RowKind::Error, false, {7, 12}).cells, " b");
+    const ViewRow warning = RenderListRow("a\tb", RowKind::Warning, false, {0, 12});
+    const ViewRow plain = RenderListRow("a\tb", RowKind::Plain, false, {0, 12});
     EXPECT_FALSE(error == warning || error == plain || warning == plain);
-    EXPECT_EQ(RenderListRow("x", RowKind::Error, true, 0, 9).runs,
+    EXPECT_EQ(RenderListRow("x", RowKind::Error, true, {0, 9}).runs,
               (std::vector<CellRun>{{0, 9, ColourElement::MarkingText, ColourElement::MarkingBackground}}));
     EXPECT_EQ(ListRowWidth("a\tb"), 9);
+}
+
+TEST(ListRow, WithoutColoursMarksTellTheKindsApart) {
+    EXPECT_EQ(RenderListRow("x", RowKind::Error, true, {0, 9, true}).cells, "! x");
+    EXPECT_EQ(RenderListRow("x", RowKind::Warning, false, {0, 9, true}).cells, "? x");
+    EXPECT_EQ(RenderListRow("x", RowKind::Plain, false, {1, 9, true}).cells, " x");
+}
+
+TEST(ListRow, RowsAreSelectedFromWhereTheSelectionBegan) {
+    struct Move {
+        std::optional<std::size_t> from;
+        std::size_t to;
+        bool extends;
+        std::size_t first;
+        std::size_t count;
+    };
+    const Move moves[] = {{{}, 5, false, 5, 1}, {5, 7, true, 5, 3}, {7, 3, true, 3, 3},
+                          {3, 4, false, 4, 1},  {9, 8, true, 8, 2},  // the list itself has gone on to row 9
+                          {{}, 2, true, 2, 1}};
+    RowSelection selection;
+    for (const Move& move : moves) {
+        selection.move(move.from, move.to, move.extends);
+        const RowSpan span = selection.span(move.to);
+        EXPECT_EQ(span.first, move.first) << move.to;
+        EXPECT_EQ(span.count, move.count) << move.to;
+    }
+    selection.move(2, 6, true);
+    EXPECT_EQ(selection.span(4).count, 1u) << "the list has selected a row of itself";
+    EXPECT_EQ(selection.span({}).count, 0u);
 }
 
 TEST(ListRow, KeysMoveTheSelectionWithinTheList) {
