@@ -4,6 +4,7 @@
 #include "ui/clipboard.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/key_script.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa::test {
@@ -88,6 +89,47 @@ TEST_F(External, ACommandLineFillsTheOutputWindowWhoseLinesOpenFiles) {
     EXPECT_TRUE(isActive(editor, "found.txt"));
 }
 
+TEST_F(External, RowsOfBothListsAreFoundSelectedAndCopied) {
+    folder.put("rows.txt", "alpha\r\nbeta\r\ngamma\r\n");
+    setUpCompiler("type rows.txt");
+    const Editor editor(folder, {"a.c"});
+    const auto copies = [&](const std::string& keys, const std::string& rows) {
+        editor.keys(keys + "{Ctrl+C}");
+        EXPECT_TRUE(WaitUntil([&] { return ClipboardText() == rows; })) << ClipboardText();
+    };
+    runCommandLine(editor, "type rows.txt");
+    ASSERT_TRUE(editor.showsMessage("Command has completed."));
+    ASSERT_TRUE(openDialog(editor, "{Alt+S}", "Find"));
+    editor.keys("BETA{Enter}");
+    EXPECT_TRUE(editor.showsMessage("Search completed."));
+    editor.takePicture("list-find");
+    editor.keys("{Esc}");
+    copies("{Shift+Down}", "beta\r\ngamma\r\n");
+    editor.takePicture("list-rows-selected");
+    copies("{Up*3}{Shift+Down}", "\r\nalpha\r\n");
+    editor.drag({{5, 3}, {5, 40}});
+    editor.keys("{Ctrl+C}");
+    EXPECT_TRUE(WaitUntil([&] { return ClipboardText().starts_with(std::string(80, '-') + "\r\n  "); }));
+    editor.keys("{Ctrl+Minus}{Alt+F10}");
+    ASSERT_TRUE(editor.showsMessage("Compilation completed successfully."));
+    ASSERT_TRUE(isActive(editor, "Message Window"));
+    copies("{F3}{Shift+Up}", "alpha\r\nbeta\r\n");
+}
+
+TEST_F(External, AShellIsOpenedWhereTheEditorIs) {
+    const Editor editor(folder, {"a.c"});
+    editor.keys("{Alt+Z}");
+    DWORD process = GetProcessId(editor.process());
+    ASSERT_TRUE(WaitUntil([&] {
+        GetWindowThreadProcessId(GetForegroundWindow(), &process);
+        return GetForegroundWindow() && process != GetProcessId(editor.process());
+    }));
+    editor.takePicture("dos-shell");
+    PressKeys("echo x>shell.out{Enter}exit{Enter}");
+    EXPECT_TRUE(WaitUntil([&] { return folder.has("shell.out"); }));
+    EXPECT_TRUE(editor.showsMessage("COMMAND.COM "));
+}
+
 TEST_F(External, ASecondCommandLineWaitsForTheFirst) {
     const Editor editor(folder, {"a.c"});
     runCommandLine(editor, "test_program wait go");
@@ -169,10 +211,25 @@ TEST_F(External, ToolsAreMadeInTheDialogAndStayInTheMenu) {
         const auto hasTools = [&](int count) {
             return WaitUntil([&] { return SendDlgItemMessageA(dialog, IDC_TOOLS, LB_GETCOUNT, 0, 0) == count; });
         };
+        const HWND find = openDialog(editor, "{Alt+F}", "Find Tool");
+        editor.takePicture("find-tool");
+        ASSERT_TRUE(EnterFileName(find, folder.path("test_program.exe")));
+        EXPECT_TRUE(WaitUntil([&] {
+            return TextOf(GetDlgItem(dialog, IDC_TOOL_PROGRAM)).ends_with("\\test_program.exe");
+        })) << TextOf(GetDlgItem(dialog, IDC_TOOL_PROGRAM));
+        editor.keys("{Alt+M}To be deleted{Enter}");
+        ASSERT_TRUE(hasTools(1));
+        editor.keys("{Alt+D}");
+        ASSERT_TRUE(inFront(editor.dialog("Vexa 95")));
+        editor.keys("{Enter}");
+        ASSERT_TRUE(hasTools(0));
+        // Five are run without capture, five with it, and five ask.
         editor.keys("{Alt+L}{Alt+E}");
         for (int i = 1; i <= 15; ++i) {
             const std::string number = std::to_string(i);
-            editor.keys("{Alt+R}echo x>made" + number + "{Alt+M}Tool " + number + "{Enter}");
+            if (i == 6 || i == 11) editor.keys("{Alt+O}");
+            if (i == 11 || i == 15) editor.keys("{Alt+K}");
+            editor.keys("{Alt+R}copy a.c made" + number + "{Alt+M}Tool " + number + "{Enter}");
             ASSERT_TRUE(hasTools(i));
         }
         editor.keys("{Alt+K}{Alt+U}{Alt+M}One more");
@@ -191,13 +248,21 @@ TEST_F(External, ToolsAreMadeInTheDialogAndStayInTheMenu) {
     EXPECT_EQ(file.size(), 1 + 15 * 815u);
     EXPECT_EQ(file.front(), 15);
     const Editor editor(folder, {"a.c"});
-    editor.keys("{Shift+F7}");
-    EXPECT_TRUE(WaitUntil([&] { return folder.has("made5"); }));
-    editor.command(CommandId::Tool15);
-    ASSERT_TRUE(inFront(editor.dialog("Program Arguments")));
-    editor.takePicture("program-arguments");
-    editor.keys("{Enter}");
-    EXPECT_TRUE(WaitUntil([&] { return folder.has("made15"); }));
+    editor.keys("{Alt+F}{Right*5}");
+    editor.takePicture("tools-menu");
+    editor.keys("{Esc*3}");
+    for (int i = 1; i <= 15; ++i) {
+        editor.keys("{Shift+F" + std::to_string(i <= 4 ? i : i + 2) + "}");
+        if (i > 10) {
+            ASSERT_TRUE(inFront(editor.dialog("Program Arguments"))) << i;
+            if (i == 15) editor.takePicture("program-arguments");
+            editor.keys("{Enter}");
+        }
+        EXPECT_TRUE(WaitUntil([&] { return folder.has("made" + std::to_string(i)); })) << i;
+        const bool isCaptured = i > 5 && i <= 10;
+        EXPECT_TRUE(!isCaptured || editor.showsMessage("Command has completed.")) << i;
+        EXPECT_TRUE(!isCaptured || isActive(editor, "Output Window")) << i;
+    }
     EXPECT_EQ(folder.get("vConfig\\VexaTool.INF"), file);
 }
 

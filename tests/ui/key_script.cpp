@@ -28,7 +28,11 @@ constexpr NamedKey kNamedKeys[] = {
     {"F3", VK_F3, false},          {"F4", VK_F4, false},
     {"F5", VK_F5, false},          {"F6", VK_F6, false},
     {"F7", VK_F7, false},          {"F8", VK_F8, false},
-    {"F10", VK_F10, false},
+    {"F10", VK_F10, false},        {"F2", VK_F2, false},
+    {"F9", VK_F9, false},          {"F11", VK_F11, false},
+    {"F12", VK_F12, false},        {"F13", VK_F13, false},
+    {"F14", VK_F14, false},        {"F15", VK_F15, false},
+    {"F16", VK_F16, false},        {"F17", VK_F17, false},
 };
 
 struct Modifier {
