@@ -56,4 +56,16 @@ std::string FillText(TextId id, std::initializer_list<std::string_view> argument
     return FillText(LoadText(id), arguments);
 }
 
+std::string BreakLongWords(std::string_view text, std::size_t longest) {
+    std::string broken;
+    std::size_t length = 0;
+    for (const char c : text) {
+        const bool ends = c == ' ' || c == '\n';
+        if (length == longest && !ends) broken += '\n';
+        length = ends ? 0 : length % longest + 1;
+        broken += c;
+    }
+    return broken;
+}
+
 }  // namespace vexa

@@ -33,4 +33,8 @@ std::string FillText(std::string_view format, std::initializer_list<std::string_
 // LoadText and FillText in one.
 std::string FillText(TextId id, std::initializer_list<std::string_view> arguments);
 
+// The text with line breaks in words that are longer than that many characters, such as long paths: a message box
+// breaks lines at blanks alone.
+std::string BreakLongWords(std::string_view text, std::size_t longest);
+
 }  // namespace vexa

@@ -25,6 +25,12 @@ TEST(Strings, PlacesAreFilledInTurn) {
     EXPECT_EQ(FillText(TextId::UnexpectedError, {"VEXA", "12"}), "Unexpected Vexa error at File: VEXA Line: 12");
 }
 
+TEST(Strings, LongWordsAreBroken) {
+    EXPECT_EQ(BreakLongWords("abcd ef", 4), "abcd ef");
+    EXPECT_EQ(BreakLongWords("abcde ef", 4), "abcd\ne ef");
+    EXPECT_EQ(BreakLongWords("abcdefghi\nabcd\n", 4), "abcd\nefgh\ni\nabcd\n");
+}
+
 TEST(Ascii, LeadingIntegersStopAtTheNearestNumber) {
     EXPECT_EQ(LeadingInteger("99999999999999999999999"), INT32_MAX);
     EXPECT_EQ(LeadingInteger("-99999999999999999999999"), INT32_MIN);

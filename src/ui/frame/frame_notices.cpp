@@ -1,5 +1,6 @@
 #include "ui/frame/frame_notices.h"
 
+#include "base/strings.h"
 #include "framework/message_box.h"
 #include "ui/frame/status_panes.h"
 
@@ -56,7 +57,9 @@ void FrameNotices::endHelp() {
 BoxAnswer FrameNotices::box(std::string_view text, std::string_view caption, BoxButtons buttons) {
     const HWND frame = frame_.window();
     const HWND owner = IsWindowEnabled(frame) ? frame : GetLastActivePopup(frame);
-    return AnswerOf(ShowBox(owner, std::string(text), std::string(caption), ButtonsOf(buttons)), buttons);
+    constexpr std::size_t kLongestWord = 80;
+    return AnswerOf(ShowBox(owner, BreakLongWords(text, kLongestWord), std::string(caption), ButtonsOf(buttons)),
+                    buttons);
 }
 
 void FrameNotices::setBusy(bool busy) {
