@@ -148,6 +148,10 @@ TEST_F(Programs, OldOutputIsNeverTakenForNew) {
     EXPECT_EQ(notices.lastStatus(), "Can't open error file '" + disk.path("VexaPip.dat") + "'.");
     EXPECT_EQ(printed(), Texts{});
     disk.setReadOnly("VexaPip.dat", false);
+    notices.statuses.clear();
+    run("rm " + disk.path("VexaPip.dat"));  // a program that takes its own output away
+    ASSERT_TRUE(finish());
+    EXPECT_EQ(notices.lastStatus(), "Can't open error file '" + disk.path("VexaPip.dat") + "'.");
 }
 
 TEST_F(Programs, AToolWithoutCaptureIsStartedAndForgotten) {

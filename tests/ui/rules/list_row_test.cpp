@@ -33,7 +33,7 @@ TEST(ListRow, RowsAreSelectedFromWhereTheSelectionBegan) {
     };
     const Move moves[] = {{{}, 5, false, 5, 1}, {5, 7, true, 5, 3}, {7, 3, true, 3, 3},
                           {3, 4, false, 4, 1},  {9, 8, true, 8, 2},  // the list itself has gone on to row 9
-                          {{}, 2, true, 2, 1}};
+                          {{}, 2, true, 2, 1},  {1, 6, false, 6, 1}};
     RowSelection selection;
     for (const Move& move : moves) {
         selection.move(move.from, move.to, move.extends);
