@@ -36,8 +36,8 @@ std::int32_t ConfigStore::ReadInt(const std::string& section, const std::string&
     return platform::ReadIntSetting(path_, section, key, fallback);
 }
 
-// A value with a line end in it would put lines of its own into the file, so it ends there. One that the file has already
-// is not written: each that is makes the system read and write the whole file.
+// A value with a line end in it would put lines of its own into the file, so it ends there. One that the file has
+// already is not written: each that is makes the system read and write the whole file.
 void ConfigStore::WriteString(const std::string& section, const std::string& key, const std::string& value) {
     using namespace std::string_view_literals;
     const std::string kept = value.substr(0, value.find_first_of("\r\n\0"sv));
