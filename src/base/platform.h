@@ -54,6 +54,15 @@ struct FileFacts {
 };
 // None for what is missing or no file; a file that another program holds has facts all the same.
 std::optional<FileFacts> FactsOf(const std::string& path);
+// Tells whether a file has been written since; asked for without opening it, which takes far longer on some systems.
+struct FileStamp {
+    std::uint64_t size = 0;
+    std::uint64_t writeTime = 0;
+
+    bool operator==(const FileStamp&) const = default;
+};
+// None for what is missing or no file.
+std::optional<FileStamp> StampOf(const std::string& path);
 // Whether anything (a file or a directory) of that name exists.
 bool PathExists(const std::string& path);
 bool DirectoryExists(const std::string& path);

@@ -1,37 +1,23 @@
-// Reads a keyword index (.ZIX). Any bytes give lines.
+// Reads the text of a keyword index (.ZIX). Any bytes give lines.
 #pragma once
 
-#include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
-
-#include "base/file.h"
 
 namespace vexa {
 
-// Reads as far as lines are asked for, and nothing twice.
 class HelpIndexReader {
   public:
-    explicit HelpIndexReader(const std::string& path) : file_(path, platform::OpenMode::Read) {}
+    // The text must live as long as its lines are used.
+    explicit HelpIndexReader(std::string_view text) : rest_(text) {}
 
-    bool isOpen() const { return file_.isOpen(); }
-    // The next line without its end, which stays until the next call; a line of 64 KB and more may come in parts. None
-    // at the end of the file, or when it cannot be read further.
+    // The next line without its end; none at the end of the text.
     std::optional<std::string_view> nextLine();
     // Whether one of the lines that are left begins with a keyword, letter case ignored.
     bool hasLineThatBeginsWith(std::string_view keyword);
-    // Whether the end has been met because the rest of the file could not be read.
-    bool failed() const { return failed_; }
 
   private:
-    bool readMore();
-
-    File file_;
-    std::string block_;
-    std::size_t start_ = 0;  // of what is in the block and has not been given
-    bool atEnd_ = false;
-    bool failed_ = false;
+    std::string_view rest_;
 };
 
 }  // namespace vexa

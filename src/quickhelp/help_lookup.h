@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/notices.h"
+#include "base/platform.h"
 
 namespace vexa {
 
@@ -20,7 +21,8 @@ struct HelpMatch {
 
 enum class LookupResult { OneMatch, SeveralMatches, NoMatch, NoIndexes };
 
-// One for the program: keyword, matches and choice stay until the next look-up.
+// One for the program: keyword, matches and choice stay until the next look-up, and so do the texts of the indexes, of
+// which one that has been written since is read anew.
 class HelpLookup {
   public:
     static constexpr std::size_t kMostMatches = 20;
@@ -41,6 +43,14 @@ class HelpLookup {
     const HelpMatch* chosen() const { return chosen_ ? &matches_[*chosen_] : nullptr; }
 
   private:
+    struct Index {
+        std::string path;
+        platform::FileStamp stamp;
+        std::string text;
+    };
+    // Null for an index that cannot be read; valid until the next call.
+    const std::string* textOf(const std::string& path);
+    std::size_t keptBytes() const;
     // Adds the help file of an index if it matches; false when it is gone.
     bool readIndex(const std::string& path);
 
@@ -49,6 +59,7 @@ class HelpLookup {
     std::string keyword_;
     std::vector<HelpMatch> matches_;
     std::optional<std::size_t> chosen_;
+    std::vector<Index> read_;
 };
 
 // What the status line says of a result; empty when there are matches.

@@ -2,6 +2,7 @@
 
 #include "base/ascii.h"
 #include "base/directories.h"
+#include "base/file.h"
 #include "base/file_name.h"
 #include "base/platform.h"
 #include "quickhelp/help_index.h"
@@ -15,8 +16,9 @@ std::string NameIn(const std::string& path) {
 }
 
 std::string HelpFileOfIndex(const std::string& path) {
-    HelpIndexReader index(path);
-    if (!index.isOpen()) return {};
+    constexpr std::size_t kFirstLines = 1024;  // bytes, and more than two of them take
+    const std::string text = File(path, platform::OpenMode::Read).readUpTo(kFirstLines).value_or(std::string());
+    HelpIndexReader index(text);
     index.nextLine();  // the number of keywords
     return std::string(index.nextLine().value_or(std::string_view()));
 }

@@ -58,6 +58,16 @@ TEST_F(HelpLookupTest, TheIndexOfAHelpFileThatHasGoneIsDeleted) {
     EXPECT_TRUE(notices.statuses.empty());
 }
 
+TEST_F(HelpLookupTest, AnIndexWrittenAnewIsReadAnew) {
+    install("A", "First", {"key"});
+    EXPECT_EQ(lookup.Lookup("other"), LookupResult::NoMatch);
+    install("A", "Second", {"key", "other"});
+    EXPECT_EQ(lookup.Lookup("other"), LookupResult::OneMatch);
+    EXPECT_EQ(lookup.matches()[0].title, "Second");
+    disk.remove("vHelp\\A.ZIX");
+    EXPECT_EQ(lookup.Lookup("other"), LookupResult::NoIndexes);
+}
+
 TEST_F(HelpLookupTest, AnIndexThatCannotBeReadIsPassedOver) {
     install("A", "First", {"key"});
     install("B", "Second", {"key"});

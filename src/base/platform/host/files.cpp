@@ -25,6 +25,12 @@ std::optional<struct stat> StatusOf(const std::string& hostPath) {
     return info;
 }
 
+std::uint64_t WriteTimeOf(const struct stat& info) {
+    constexpr std::uint64_t kNanoseconds = 1'000'000'000;
+    return static_cast<std::uint64_t>(info.st_mtim.tv_sec) * kNanoseconds +
+           static_cast<std::uint64_t>(info.st_mtim.tv_nsec);
+}
+
 // Windows looks at the file's own attribute, whoever asks, so the mode bits count even for the superuser.
 bool MayBeOpened(const struct stat& info, Access access) {
     const mode_t needed = access == Access::Reading ? S_IRUSR : S_IWUSR;
@@ -159,10 +165,13 @@ bool CloseFile(FileHandle file) {
 std::optional<FileFacts> FactsOf(const std::string& path) {
     const auto info = StatusOf(HostPath(path));
     if (!info || !S_ISREG(info->st_mode)) return std::nullopt;
-    constexpr std::uint64_t kNanoseconds = 1'000'000'000;
-    const auto written = static_cast<std::uint64_t>(info->st_mtim.tv_sec) * kNanoseconds +
-                         static_cast<std::uint64_t>(info->st_mtim.tv_nsec);
-    return FileFacts{info->st_dev, info->st_ino, written, (info->st_mode & S_IWUSR) == 0};
+    return FileFacts{info->st_dev, info->st_ino, WriteTimeOf(*info), (info->st_mode & S_IWUSR) == 0};
+}
+
+std::optional<FileStamp> StampOf(const std::string& path) {
+    const auto info = StatusOf(HostPath(path));
+    if (!info || !S_ISREG(info->st_mode)) return std::nullopt;
+    return FileStamp{static_cast<std::uint64_t>(info->st_size), WriteTimeOf(*info)};
 }
 
 bool PathExists(const std::string& path) {

@@ -58,6 +58,10 @@ std::uint64_t Joined(DWORD high, DWORD low) {
     return std::uint64_t{high} << 32 | low;
 }
 
+std::uint64_t TimeOf(const FILETIME& time) {
+    return Joined(time.dwHighDateTime, time.dwLowDateTime);
+}
+
 // The lower half of a 64-bit quantity that the system gives in two; its failure value is also a valid half.
 bool Failed(DWORD low) {
     return low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR;
@@ -174,8 +178,15 @@ std::optional<FileFacts> FactsOf(const std::string& path) {
     CloseHandle(file);
     if (!isKnown) return std::nullopt;
     return FileFacts{info.dwVolumeSerialNumber, Joined(info.nFileIndexHigh, info.nFileIndexLow),
-                     Joined(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime),
-                     (info.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0};
+                     TimeOf(info.ftLastWriteTime), (info.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0};
+}
+
+std::optional<FileStamp> StampOf(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    const bool isFile = GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data) &&
+                        !(data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
+    if (!isFile) return std::nullopt;
+    return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow), TimeOf(data.ftLastWriteTime)};
 }
 
 bool PathExists(const std::string& path) {
