@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "print/page_picture.h"
+#include "quickhelp/topics/made_help_file.h"
 #include "support/recording_notices.h"
+#include "ui/print/document_pages.h"
+#include "ui/print/topic_pages.h"
 
 namespace vexa::test {
 namespace {
@@ -181,6 +184,36 @@ TEST_F(PrintTest, AMetafileShowsWhatABitmapShows) {
     EXPECT_GT(played.count([](int, int, std::uint32_t colour) { return !IsGrey(colour); }), 100);
 }
 
+TEST_F(PrintTest, ATopicOfHelpTakesPagesOfItsOwnSize) {
+    topics::ShownTopic shown;
+    shown.path = "C:\\MADE.HLP";
+    shown.file = topics::HelpFile::open(topics::test::MakeHelpFile());
+    topics::Topic topic = shown.file->topic(1);
+    for (int i = 0; i < 100; ++i)
+        topic.parts.push_back(topic.parts[i % 2]);
+    shown.topic = std::make_shared<const topics::Topic>(std::move(topic));
+    const PagePicture picture(kPortrait);
+    const PagePainter painter(picture.dc(), kPortrait, look);
+    TopicPages pages(shown);
+    pages.layOut(painter, look, PrintArea::Document);
+    EXPECT_EQ(pages.name(), "Made - Second");
+    ASSERT_EQ(pages.count(), 3);
+    pages.paint(1);
+    picture.save("print-topic");
+    expectWithinMargins(picture, kPortrait);
+    EXPECT_GT(picture.count([](int, int, std::uint32_t colour) { return !IsGrey(colour); }), 100);
+    const PagePicture last(kPortrait);
+    TopicPages black(shown);
+    look.options.colours = false;
+    look.options.header = false;
+    const PagePainter plain(last.dc(), kPortrait, look);
+    black.layOut(plain, look, PrintArea::Document);
+    black.paint(black.count());
+    last.save("print-topic-last");
+    EXPECT_EQ(last.count([](int, int, std::uint32_t colour) { return !IsGrey(colour); }), 0);
+    EXPECT_LT(last.printed().bottom, kPortrait.reachedHeight / 2);
+}
+
 // A device that is no printer is like one that has gone.
 TEST_F(PrintTest, AJobOnAPrinterThatHasGoneFails) {
     struct Progress : PrintProgress {
@@ -188,9 +221,10 @@ TEST_F(PrintTest, AJobOnAPrinterThatHasGoneFails) {
     } progress;
     const PagePicture picture(kPortrait);
     const PagePainter painter(picture.dc(), kPortrait, look);
-    const PrintLayout layout = layoutFor(painter);
-    PrinterTarget target(picture.dc(), "SAMPLE.C", painter, layout);
-    EXPECT_EQ(RunPrint(layout, PrintSequence({}, layout.pageCount()), target, progress), PrintResult::Failed);
+    DocumentPages pages(document);
+    pages.layOut(painter, look, PrintArea::Document);
+    PrinterTarget target(picture.dc(), pages);
+    EXPECT_EQ(RunPrint(PrintSequence({}, pages.count()), target, progress), PrintResult::Failed);
     EXPECT_FALSE(document.isModified());
 }
 

@@ -1,6 +1,7 @@
 // Printing, with a printer and without one, and the "Page Setup" dialog.
 #include <gtest/gtest.h>
 
+#include "quickhelp/topics/made_help_file.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
 #include "ui/test_printer.h"
@@ -152,6 +153,20 @@ TEST_F(PrinterTest, ADocumentComesOutOnPagesAndStaysAsItIs) {
     EXPECT_TRUE(printsPages(3));
     editor.keys("x");  // the editor has the keys again
     EXPECT_TRUE(editor.hasCaption("a.c *]"));
+}
+
+TEST_F(PrinterTest, ATopicOfHelpComesOutOnAPage) {
+    folder.put("vexa.ini", "[Editor Options]\r\nHelpViewer=Own\r\n");
+    folder.put("Vexa.hlp", topics::test::MakeHelpFile());
+    const Editor editor(folder);
+    editor.keys("{F1}");
+    ASSERT_TRUE(WaitUntil([] { return GetForegroundWindow() == FindWindowA("VexaHelp", nullptr); }));
+    const HWND viewer = FindWindowA("VexaHelp", nullptr);
+    editor.keys("{Ctrl+P}");
+    const HWND dialog = editor.dialog("Print");
+    ASSERT_TRUE(dialog && Press(dialog, IDOK));
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(ChildrenOf(viewer, "Static").at(0)) == "Printing completed."; }));
+    EXPECT_TRUE(printsPages(1));
 }
 
 TEST_F(PrinterTest, WhatIsMarkedIsOfferedFirst) {

@@ -37,6 +37,14 @@ class QuickHelpWindowTest : public ::testing::Test {
         return WaitUntil([&] { return GetForegroundWindow() == window; });
     }
 
+    // Of the program that a window belongs to.
+    static HWND focusOf(HWND window) {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof(info);
+        GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+        return info.hwndFocus;
+    }
+
     TestFolder folder;
 };
 
@@ -65,6 +73,12 @@ TEST_F(QuickHelpWindowTest, AHelpFileIsInstalledAndShownAtTheWord) {
     EXPECT_TRUE(viewerShows("Made - Second"));
     editor.keys("{Backspace}");
     EXPECT_TRUE(viewerShows("Made - First"));
+    editor.keys("{Alt+G}");
+    editor.takePicture("help-viewer-menu");
+    editor.keys("b");
+    EXPECT_TRUE(viewerShows("Made - Second"));
+    editor.keys("{Alt+C}");
+    EXPECT_TRUE(viewerShows("Made - First"));
     editor.keys("{Esc}");
     EXPECT_TRUE(WaitUntil([&] { return !IsWindow(viewer); }));
 }
@@ -77,6 +91,7 @@ TEST_F(QuickHelpWindowTest, SeveralFilesLeaveTheChoiceAndNoneIsTold) {
     const HWND dialog = editor.dialog("Quick Help");
     ASSERT_TRUE(hasKeyboard(dialog));
     EXPECT_TRUE(rowsAre(dialog, IDC_HELP_MATCHES, 2));
+    EXPECT_TRUE(WaitUntil([&] { return focusOf(dialog) == GetDlgItem(dialog, IDC_HELP_MATCHES); }));
     editor.takePicture("quick-help-several");
     editor.keys("{Enter}");
     EXPECT_TRUE(viewerShows("Made - Second"));

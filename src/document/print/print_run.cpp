@@ -16,22 +16,20 @@ std::int32_t PrintSequence::pageAt(std::int64_t i) const {
 
 namespace {
 
-PrintResult PrintPages(const PrintLayout& layout, const PrintSequence& sequence, PrintTarget& target,
-                       PrintProgress& progress) {
+PrintResult PrintPages(const PrintSequence& sequence, PrintTarget& target, PrintProgress& progress) {
     for (std::int64_t i = 0; i < sequence.count(); ++i) {
         if (!progress.pageComes(i + 1, sequence.count())) return PrintResult::Cancelled;
-        if (!target.printPage(layout.page(sequence.pageAt(i)))) return PrintResult::Failed;
+        if (!target.printPage(sequence.pageAt(i))) return PrintResult::Failed;
     }
     return target.endJob() ? PrintResult::Done : PrintResult::Failed;
 }
 
 }  // namespace
 
-PrintResult RunPrint(const PrintLayout& layout, const PrintSequence& sequence, PrintTarget& target,
-                     PrintProgress& progress) {
+PrintResult RunPrint(const PrintSequence& sequence, PrintTarget& target, PrintProgress& progress) {
     if (sequence.count() == 0) return PrintResult::NothingToPrint;
     if (!target.beginJob()) return PrintResult::Failed;
-    const PrintResult result = PrintPages(layout, sequence, target, progress);
+    const PrintResult result = PrintPages(sequence, target, progress);
     if (result != PrintResult::Done) target.abortJob();
     return result;
 }

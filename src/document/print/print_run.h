@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-#include "document/print/print_layout.h"
-
 namespace vexa {
 
 // The pages in the order in which they leave the printer.
@@ -31,12 +29,12 @@ class PrintSequence {
     bool collate_;
 };
 
-// A printer. After a step that is false the job is to be aborted.
+// A printer, which knows the pages by their numbers. After a step that is false the job is to be aborted.
 class PrintTarget {
   public:
     virtual ~PrintTarget() = default;
     virtual bool beginJob() = 0;
-    virtual bool printPage(const PrintedPage& page) = 0;
+    virtual bool printPage(std::int32_t number) = 0;
     virtual bool endJob() = 0;
     virtual void abortJob() = 0;
 };
@@ -49,10 +47,18 @@ class PrintProgress {
     virtual bool pageComes(std::int64_t i, std::int64_t count) = 0;
 };
 
-enum class PrintResult { Done, NothingToPrint, Cancelled, Failed };
+enum class PrintResult {
+    Done,
+    NothingToPrint,
+    Cancelled,
+    NoPrinter,
+    NoAnswer,  // the printer gives none
+    NoRoom,    // between the margins
+    Failed,
+    NotAsked  // the user has not asked for the job after all
+};
 
 // A job that is cancelled or fails is aborted, so that what the printer already has of it is thrown away.
-PrintResult RunPrint(const PrintLayout& layout, const PrintSequence& sequence, PrintTarget& target,
-                     PrintProgress& progress);
+PrintResult RunPrint(const PrintSequence& sequence, PrintTarget& target, PrintProgress& progress);
 
 }  // namespace vexa

@@ -5,12 +5,14 @@
 #include <utility>
 
 #include "base/ascii.h"
+#include "base/directories.h"
 
 namespace vexa::topics {
 namespace {
 
 constexpr std::size_t kMostRefused = 50;
 constexpr std::size_t kMostFound = 1000;
+constexpr std::string_view kMainWindow = "main";
 
 // What starts programs, calls libraries or writes. Other macros that are not carried out only dress the viewer.
 constexpr std::string_view kUnsafe[] = {
@@ -37,11 +39,6 @@ std::optional<Keyword> BestKeyword(const std::vector<Keyword>& keywords, std::st
     return best;
 }
 
-// "FILE.HLP>window" names a window too.
-std::string FileNameOf(const std::string& argument) {
-    return std::string(TrimBlanks(std::string_view(argument).substr(0, argument.find('>'))));
-}
-
 // Decimal or, behind "0x", hexadecimal.
 std::int32_t NumberOf(std::string_view text) {
     const bool isHexadecimal = BeginsWith(text, "0x");
@@ -65,6 +62,15 @@ std::optional<std::uint32_t> OffsetOf(const HelpIndex& index, const std::string&
 
 std::shared_ptr<const HelpFile> Read(const std::string& path) {
     return HelpFile::openPath(path);
+}
+
+std::optional<std::uint32_t> ContentsOf(const HelpFile& file) {
+    const auto topic = file.contentsTopic();
+    return topic ? std::optional(file.topicOffset(*topic)) : std::nullopt;
+}
+
+std::shared_ptr<const Topic> TopicAt(const TopicPlace& place) {
+    return std::make_shared<const Topic>(place.file->topic(place.file->topicAt(place.offset).value_or(0)));
 }
 
 std::vector<std::string> Words(const std::string& list) {
@@ -135,20 +141,38 @@ struct MacroTable {
     }
 };
 
+std::string ShownTopic::caption() const {
+    const HelpSystem& system = file->system();
+    const HelpWindow* look = system.window(window);
+    std::string name = look && !look->caption.empty() ? look->caption : system.title;
+    if (name.empty()) name = path.substr(DirectoryOf(path).size());
+    return topic->title.empty() ? name : name + " - " + topic->title;
+}
+
+std::optional<Colour> ShownTopic::background(bool isFixed) const {
+    const HelpWindow* look = file->system().window(window);
+    if (!look) return std::nullopt;
+    return isFixed ? look->fixedBackground : look->background;
+}
+
 // ---- opening -----------------------------------------------------------------------------------------------------
 
+BrowserOutcome HelpBrowser::open(const std::string& path, const std::shared_ptr<const HelpFile>& file,
+                                 std::optional<std::uint32_t> offset) {
+    if (!file || !offset) return BrowserOutcome::Nothing;
+    return visit({file, path, *offset, file->system().windowNamed(kMainWindow)});
+}
+
 BrowserOutcome HelpBrowser::openContents(const std::string& path) {
-    auto file = Read(path);
-    if (!file) return BrowserOutcome::Nothing;
-    const auto topic = file->contentsTopic();
-    return visit(file, path, topic ? std::optional(file->topicOffset(*topic)) : std::nullopt);
+    const auto file = Read(path);
+    return open(path, file, file ? ContentsOf(*file) : std::nullopt);
 }
 
 BrowserOutcome HelpBrowser::openNumber(const std::string& path, std::int32_t number) {
-    auto file = Read(path);
+    const auto file = Read(path);
     if (!file) return BrowserOutcome::Nothing;
     const auto offset = file->index().offsetOfNumber(number);
-    return offset ? visit(file, path, offset) : openContents(path);
+    return open(path, file, offset ? offset : ContentsOf(*file));
 }
 
 BrowserOutcome HelpBrowser::openKeyword(const std::string& path, std::string_view keyword) {
@@ -159,80 +183,77 @@ BrowserOutcome HelpBrowser::openKeyword(const std::string& path, std::string_vie
 
 // ---- going -------------------------------------------------------------------------------------------------------
 
-BrowserOutcome HelpBrowser::visit(std::shared_ptr<const HelpFile> file, std::string path,
-                                  std::optional<std::uint32_t> offset) {
-    if (!offset || !file->topicAt(*offset)) return BrowserOutcome::Nothing;
-    const bool isSame = current_.file == file && current_.offset == *offset;
-    if (current_.file && !isSame) history_.push_back({current_.file, current_.path, current_.offset});
+BrowserOutcome HelpBrowser::visit(const TopicPlace& place) {
+    if (!place.file->topicAt(place.offset)) return BrowserOutcome::Nothing;
+    const bool isSame = current_.file == place.file && current_.offset == place.offset;
+    if (current_.file && !isSame) history_.push_back(current_);
     if (history_.size() > kLongestHistory) history_.erase(history_.begin());
-    return show(std::move(file), std::move(path), *offset);
+    return show(place);
 }
 
-BrowserOutcome HelpBrowser::show(std::shared_ptr<const HelpFile> file, std::string path, std::uint32_t offset) {
-    const auto number = file->topicAt(offset);
-    if (!number) return BrowserOutcome::Nothing;
-    if (file != current_.file) refuseUnsafe(file->system().configMacros);
-    Topic topic = file->topic(*number);
-    refuseUnsafe(topic.macros);
-    current_ = {std::move(file), std::move(path), offset, std::move(topic)};
+BrowserOutcome HelpBrowser::show(const TopicPlace& place) {
+    if (place.file != current_.file) refuseUnsafe(place.file->system().configMacros);
+    current_ = {place, TopicAt(place)};
+    refuseUnsafe(current_.topic->macros);
     return BrowserOutcome::Show;
 }
 
-BrowserOutcome HelpBrowser::showPopUp(std::shared_ptr<const HelpFile> file, std::string path, std::uint32_t offset) {
-    const auto number = file->topicAt(offset);
-    if (!number) return BrowserOutcome::Nothing;
-    Topic topic = file->topic(*number);
-    popUp_ = {std::move(file), std::move(path), offset, std::move(topic)};
+BrowserOutcome HelpBrowser::lead(TopicPlace& place, const std::optional<std::uint32_t>& offset, LinkAction action) {
+    if (!offset || !place.file->topicAt(*offset)) return BrowserOutcome::Nothing;
+    place.offset = *offset;
+    if (action == LinkAction::Jump) return visit(place);
+    popUp_ = {place, TopicAt(place)};
     return BrowserOutcome::PopUp;
 }
 
 BrowserOutcome HelpBrowser::goTo(std::uint32_t offset) {
-    return current_.file ? visit(current_.file, current_.path, offset) : BrowserOutcome::Nothing;
+    if (!current_.file) return BrowserOutcome::Nothing;
+    return visit({current_.file, current_.path, offset, current_.window});
 }
 
 BrowserOutcome HelpBrowser::toContents() {
-    const auto topic = current_.file ? current_.file->contentsTopic() : std::nullopt;
-    return topic ? goTo(current_.file->topicOffset(*topic)) : BrowserOutcome::Nothing;
+    const auto file = current_.file;
+    return open(std::string(current_.path), file, file ? ContentsOf(*file) : std::nullopt);
 }
 
 BrowserOutcome HelpBrowser::back() {
     if (history_.empty()) return BrowserOutcome::Nothing;
-    Visit last = std::move(history_.back());
+    const TopicPlace last = history_.back();
     history_.pop_back();
-    return show(std::move(last.file), std::move(last.path), last.offset);
+    return show(last);
 }
 
 BrowserOutcome HelpBrowser::previous() {
-    const auto offset = current_.topic.previous;
-    return offset ? goTo(*offset) : BrowserOutcome::Nothing;
+    return canGoPrevious() ? goTo(*current_.topic->previous) : BrowserOutcome::Nothing;
 }
 
 BrowserOutcome HelpBrowser::next() {
-    const auto offset = current_.topic.next;
-    return offset ? goTo(*offset) : BrowserOutcome::Nothing;
+    return canGoNext() ? goTo(*current_.topic->next) : BrowserOutcome::Nothing;
 }
 
 // ---- links and macros --------------------------------------------------------------------------------------------
 
-std::shared_ptr<const HelpFile> HelpBrowser::fileOfName(const ShownTopic& from, const std::string& name,
-                                                        std::string& path) const {
-    path = from.path;
-    if (name.empty()) return from.file;
-    const auto found = findFile_(name, from.path);
-    if (!found) return nullptr;
-    path = *found;
-    return EqualIgnoringCase(path, from.path) ? from.file : Read(path);
+// In another file, or in another window that the author has defined; the offset is left open. Without a file where it
+// is not to be found.
+TopicPlace HelpBrowser::placeIn(const ShownTopic& from, std::string_view name, std::string_view window) const {
+    TopicPlace place = {from.file, from.path, 0, from.window};
+    if (!name.empty()) {
+        place.path = findFile_(std::string(name), from.path).value_or(std::string());
+        if (!EqualIgnoringCase(place.path, from.path)) place.file = Read(place.path);
+    }
+    if (!place.file) return place;
+    const HelpSystem& system = place.file->system();
+    if (place.file != from.file) place.window = system.windowNamed(kMainWindow);
+    if (!window.empty()) place.window = system.windowNamed(window);
+    return place;
 }
 
 BrowserOutcome HelpBrowser::follow(const ShownTopic& from, const Link& link) {
     if (link.action == LinkAction::Macro) return run(from, std::string(link.macro));
-    const bool isPopUp = link.action == LinkAction::PopUp;
-    std::string path;
-    auto file = fileOfName(from, link.file, path);
-    const auto offset = file ? file->offsetOf(link) : std::nullopt;
-    if (!offset) return BrowserOutcome::Nothing;
-    return isPopUp ? showPopUp(std::move(file), std::move(path), *offset)
-                   : visit(std::move(file), std::move(path), offset);
+    TopicPlace place = placeIn(from, link.file, link.window);
+    if (!place.file) return BrowserOutcome::Nothing;
+    if (place.file->system().window(link.windowNumber)) place.window = link.windowNumber;
+    return lead(place, place.file->offsetOf(link), link.action);
 }
 
 // What a macro shows ends it: the topic that it stands in may be gone.
@@ -249,17 +270,17 @@ BrowserOutcome HelpBrowser::run(const ShownTopic& from, const std::string& macro
     return BrowserOutcome::Nothing;
 }
 
-// The arguments: a file, empty for this one, and a context by its name, its hash or its number.
+// The arguments: a file, empty for this one, with a window behind ">", and a context by its name, its hash or its
+// number.
 BrowserOutcome HelpBrowser::leadTo(const ShownTopic& from, const MacroCall& call, LinkAction action,
                                    ContextKind context) {
     if (call.arguments.size() < 2) return BrowserOutcome::Nothing;
-    std::string path;
-    auto file = fileOfName(from, FileNameOf(call.arguments[0]), path);
-    if (!file) return BrowserOutcome::Nothing;
-    const auto offset = OffsetOf(file->index(), call.arguments[1], context);
-    if (!offset) return BrowserOutcome::Nothing;
-    return action == LinkAction::PopUp ? showPopUp(std::move(file), std::move(path), *offset)
-                                       : visit(std::move(file), std::move(path), offset);
+    const std::string_view target = call.arguments[0];
+    const std::size_t end = std::min(target.find('>'), target.size());
+    const std::string_view window = target.substr(std::min(end + 1, target.size()));
+    TopicPlace place = placeIn(from, TrimBlanks(target.substr(0, end)), TrimBlanks(window));
+    if (!place.file) return BrowserOutcome::Nothing;
+    return lead(place, OffsetOf(place.file->index(), call.arguments[1], context), action);
 }
 
 void HelpBrowser::refuseUnsafe(const std::vector<std::string>& macros) {

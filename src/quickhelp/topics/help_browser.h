@@ -18,11 +18,22 @@
 
 namespace vexa::topics {
 
-struct ShownTopic {
+// Where a topic is to be shown, and from which height on.
+struct TopicPlace {
     std::shared_ptr<const HelpFile> file;
     std::string path;
-    std::uint32_t offset = 0;  // what was asked for, which may lie in the middle of the topic
-    Topic topic;
+    std::uint32_t offset = 0;  // may lie in the middle of a topic
+    int window = -1;           // of those that the file's author has defined
+    int scroll = -1;           // pixels; where the offset leads to if it is below 0
+};
+
+struct ShownTopic : TopicPlace {
+    std::shared_ptr<const Topic> topic;
+
+    // Of the window: what the author or the file calls it, and the topic's title.
+    std::string caption() const;
+    // What the author wants behind the fixed part and behind the one that scrolls.
+    std::optional<Colour> background(bool isFixed) const;
 };
 
 struct FoundTopic {
@@ -63,30 +74,29 @@ class HelpBrowser {
     // The topics of a keyword of the file that is shown: goes there, or leaves the choice.
     BrowserOutcome showKeyword(const Keyword& keyword, char letter = 'K');
 
+    // How far the topic has been scrolled, for coming back to it.
+    void keepScroll(int scroll) { current_.scroll = scroll; }
+
     // Null before the first file is open.
     const ShownTopic* current() const { return current_.file ? &current_ : nullptr; }
     // Valid after the outcome PopUp.
     const ShownTopic& popUp() const { return popUp_; }
     const std::vector<FoundTopic>& found() const { return found_; }
     bool canGoBack() const { return !history_.empty(); }
-    bool canGoPrevious() const { return current_.topic.previous.has_value(); }
-    bool canGoNext() const { return current_.topic.next.has_value(); }
+    bool canGoPrevious() const { return current_.topic && current_.topic->previous; }
+    bool canGoNext() const { return current_.topic && current_.topic->next; }
     // The macros of the file, the topic and the links that were not carried out, since the last call.
     std::vector<std::string> takeRefused() { return std::exchange(refused_, {}); }
 
   private:
-    struct Visit {
-        std::shared_ptr<const HelpFile> file;
-        std::string path;
-        std::uint32_t offset;
-    };
     friend struct MacroTable;  // the macros that are carried out
 
-    std::shared_ptr<const HelpFile> fileOfName(const ShownTopic& from, const std::string& name,
-                                               std::string& path) const;
-    BrowserOutcome visit(std::shared_ptr<const HelpFile> file, std::string path, std::optional<std::uint32_t> offset);
-    BrowserOutcome show(std::shared_ptr<const HelpFile> file, std::string path, std::uint32_t offset);
-    BrowserOutcome showPopUp(std::shared_ptr<const HelpFile> file, std::string path, std::uint32_t offset);
+    TopicPlace placeIn(const ShownTopic& from, std::string_view name, std::string_view window) const;
+    BrowserOutcome open(const std::string& path, const std::shared_ptr<const HelpFile>& file,
+                        std::optional<std::uint32_t> offset);
+    BrowserOutcome lead(TopicPlace& place, const std::optional<std::uint32_t>& offset, LinkAction action);
+    BrowserOutcome visit(const TopicPlace& place);
+    BrowserOutcome show(const TopicPlace& place);
     BrowserOutcome showFound();
     BrowserOutcome run(const ShownTopic& from, const std::string& macro);
     BrowserOutcome leadTo(const ShownTopic& from, const MacroCall& call, LinkAction action, ContextKind context);
@@ -98,7 +108,7 @@ class HelpBrowser {
     FindFile findFile_;
     ShownTopic current_;
     ShownTopic popUp_;
-    std::vector<Visit> history_;
+    std::vector<TopicPlace> history_;
     std::vector<FoundTopic> found_;
     std::vector<std::string> refused_;
 };

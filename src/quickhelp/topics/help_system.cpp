@@ -1,5 +1,8 @@
 #include "quickhelp/topics/help_system.h"
 
+#include <algorithm>
+
+#include "base/ascii.h"
 #include "quickhelp/topics/byte_reader.h"
 
 namespace vexa::topics {
@@ -87,6 +90,17 @@ void ReadRecord(HelpSystem& system, int type, std::string_view data) {
 }
 
 }  // namespace
+
+const HelpWindow* HelpSystem::window(int number) const {
+    const bool isDefined = number >= 0 && static_cast<std::size_t>(number) < windows.size();
+    return isDefined ? &windows[static_cast<std::size_t>(number)] : nullptr;
+}
+
+int HelpSystem::windowNamed(std::string_view name) const {
+    const auto isMeant = [name](const HelpWindow& window) { return EqualIgnoringCase(window.name, name); };
+    const auto found = std::ranges::find_if(windows, isMeant);
+    return found == windows.end() ? -1 : static_cast<int>(found - windows.begin());
+}
 
 std::optional<HelpSystem> ReadHelpSystem(std::string_view file) {
     ByteReader in(file);

@@ -32,6 +32,10 @@ struct HelpSystem {
     std::vector<std::uint8_t> faceCharsets;  // by face of |FONT
     int language = 0;
 
+    // Null and -1 where the author has not defined the window.
+    const HelpWindow* window(int number) const;
+    int windowNamed(std::string_view name) const;
+
     // The first compiler counted places in bytes of |TOPIC.
     bool isFirstVersion() const { return minor <= 16; }
 };

@@ -68,4 +68,8 @@ TopicLayout LayOutTopic(const LayoutSource& source, int width) {
     return {LayOutParts(source, 0, fixed, usable), LayOutParts(source, fixed, topic.parts.size(), usable)};
 }
 
+LaidRegion LayOutWhole(const LayoutSource& source, int width) {
+    return LayOutParts(source, 0, source.topic.parts.size(), std::max(width, kNarrowest));
+}
+
 }  // namespace vexa::topics

@@ -75,5 +75,7 @@ struct TopicLayout {
 };
 
 TopicLayout LayOutTopic(const LayoutSource& source, int width);
+// All in one region, for paper.
+LaidRegion LayOutWhole(const LayoutSource& source, int width);
 
 }  // namespace vexa::topics

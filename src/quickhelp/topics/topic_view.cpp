@@ -78,6 +78,18 @@ void AppendPlain(std::string_view text, std::string& out) {
     }
 }
 
+// The lowest height above the end at which nothing is divided, and the end if there is none below the top.
+int PageEnd(const LaidRegion& region, int top, int end) {
+    int bottom = end;
+    for (int last = 0; last != bottom;) {
+        last = bottom;
+        for (const LaidRun& run : region.runs) {
+            if (run.box.top < bottom && run.box.bottom > bottom) bottom = run.box.top;
+        }
+    }
+    return bottom > top ? bottom : end;
+}
+
 // Cells of one row stand in one line of the text.
 std::string_view EndOf(const Topic& topic, std::uint32_t paragraph) {
     const bool isCell = paragraph + 1 < topic.paragraphs.size() &&
@@ -172,6 +184,16 @@ std::optional<int> TopOf(const LaidRegion& region, TextPosition position) {
         if (line.paragraph == position.paragraph && line.begin <= position.character) top = line.box.top;
     }
     return top;
+}
+
+std::vector<int> PageTops(const LaidRegion& region, int height) {
+    std::vector<int> tops = {0};
+    while (tops.back() < region.height) {
+        const int top = tops.back();
+        const int bottom = region.height - top <= height ? region.height : PageEnd(region, top, top + height);
+        tops.push_back(bottom);
+    }
+    return tops;
 }
 
 std::uint32_t ParagraphAt(const Topic& topic, std::uint32_t offset) {

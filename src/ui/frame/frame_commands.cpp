@@ -40,7 +40,7 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       printing_(documents, application, notices, loop),
       options_(documents, application, notices),
       help_(documents.frame()),
-      quickHelp_(documents, application, notices),
+      quickHelp_(documents, application, notices, printing_.desk()),
       external_(documents, application, notices) {
     RegisterCommandsOf(dispatcher_, macro_, search_, files_, editing_, textTools_, printing_, options_, help_,
                        quickHelp_, external_);

@@ -1,36 +1,28 @@
 // The commands of printing.
 #pragma once
 
-#include <string>
-
-#include "framework/message_loop.h"
 #include "shell/command_dispatcher.h"
 #include "ui/frame/open_documents.h"
-#include "ui/print/print_dialogs.h"
+#include "ui/print/print_desk.h"
 
 namespace vexa {
 
 class PrintCommands {
   public:
     PrintCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, MessageLoop& loop)
-        : documents_(documents), application_(application), notices_(notices), loop_(loop) {}
+        : documents_(documents), notices_(notices), desk_(application, notices, loop) {}
 
     void registerCommands(CommandDispatcher& dispatcher);
+    PrintDesk& desk() { return desk_; }
 
   private:
     void setUp();
     void printActive();
-    void print(const TextDocument& document, const PrintOrder& order);
-    PrintResult runJob(const TextDocument& document, const PrintLayout& layout, const PrintSequence& sequence,
-                       PrintTarget& target);
-    void tellResult(PrintResult result, const TextDocument& document);
-    void tellError(const std::string& text);
+    void tell(PrintResult result, const std::string& name);
 
     OpenDocuments& documents_;
-    Application& application_;
     FrameNotices& notices_;
-    MessageLoop& loop_;
-    PrinterChoice printer_;
+    PrintDesk desk_;
 };
 
 }  // namespace vexa

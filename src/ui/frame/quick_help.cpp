@@ -8,14 +8,14 @@
 
 namespace vexa {
 
-QuickHelp::QuickHelp(const OpenDocuments& documents, Application& application, Notices& notices)
+QuickHelp::QuickHelp(const OpenDocuments& documents, Application& application, Notices& notices, TopicPrinter& printer)
     : documents_(documents),
       application_(application),
       notices_(notices),
       indexDirectory_(application.directories.GetDirectory(kHelpDirectory)),
       lookup_(indexDirectory_, notices),
       commands_(lookup_, notices, *this),
-      desk_(application.store, indexDirectory_, notices) {}
+      desk_(application.store, indexDirectory_, notices, printer) {}
 
 void QuickHelp::registerCommands(CommandDispatcher& dispatcher) {
     static constexpr MethodRow<QuickHelp> kRows[] = {

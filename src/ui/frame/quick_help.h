@@ -16,7 +16,7 @@ namespace vexa {
 class QuickHelp : private QuickHelpHost {
   public:
     // All must live as long as this.
-    QuickHelp(const OpenDocuments& documents, Application& application, Notices& notices);
+    QuickHelp(const OpenDocuments& documents, Application& application, Notices& notices, TopicPrinter& printer);
 
     void registerCommands(CommandDispatcher& dispatcher);
 

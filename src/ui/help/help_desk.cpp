@@ -28,8 +28,8 @@ bool IsWine() {
 
 }  // namespace
 
-HelpDesk::HelpDesk(ConfigStore& store, std::string indexDirectory, Notices& notices)
-    : store_(store), notices_(notices), window_(store, std::move(indexDirectory)) {
+HelpDesk::HelpDesk(ConfigStore& store, std::string indexDirectory, Notices& notices, TopicPrinter& printer)
+    : store_(store), notices_(notices), window_(store, std::move(indexDirectory), printer) {
     SetHelpDesk(this);
 }
 

@@ -16,7 +16,7 @@ namespace vexa {
 class HelpDesk {
   public:
     // The directory of the indexes, without "\" at its end.
-    HelpDesk(ConfigStore& store, std::string indexDirectory, Notices& notices);
+    HelpDesk(ConfigStore& store, std::string indexDirectory, Notices& notices, TopicPrinter& printer);
     ~HelpDesk();
     HelpDesk(const HelpDesk&) = delete;
     HelpDesk& operator=(const HelpDesk&) = delete;

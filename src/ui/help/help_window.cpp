@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "base/ascii.h"
-#include "base/directories.h"
 #include "base/scoped_flag.h"
 #include "base/strings.h"
 #include "framework/dpi.h"
+#include "framework/menu.h"
 #include "quickhelp/linked_help_file.h"
 #include "shell/frame_placement.h"
 #include "ui/help/help.h"
@@ -22,7 +22,7 @@ constexpr WindowClass kHelpClass{.name = kHelpWindowClass, .background = COLOR_3
 constexpr const char* kSection = "Help Window";
 constexpr ScreenRect kFirstPlace{80, 60, 640, 520};
 constexpr UINT kAskMessage = WM_APP + 1;  // the outcome to ask about
-constexpr WORD kFirstButton = 1;
+constexpr WORD kFirstCommand = 1;
 constexpr int kGap = 3;  // pixels at the normal resolution, as is the other
 constexpr int kButtonEdges = 16;
 
@@ -51,18 +51,29 @@ char MnemonicOf(std::string_view text) {
 }  // namespace
 
 struct HelpWindowTables {
-    struct Button {
+    static constexpr TextId kMenus[] = {TextId::HelpTopicMenu, TextId::HelpEditMenu, TextId::HelpGoMenu};
+    enum Menu { kTopic, kEdit, kGo };
+
+    // In its menu, and where it has one as a button.
+    struct Command {
         TextId text;
+        Menu menu;
+        bool isButton;
         void (HelpWindow::*run)();
         bool (topics::HelpBrowser::*isEnabled)() const;  // always without one
     };
-    static constexpr Button kButtons[] = {
-        {TextId::HelpContentsButton, &HelpWindow::toContents, nullptr},
-        {TextId::HelpIndexButton, &HelpWindow::toIndex, nullptr},
-        {TextId::HelpBackButton, &HelpWindow::toLast, &topics::HelpBrowser::canGoBack},
-        {TextId::HelpPreviousButton, &HelpWindow::toPrevious, &topics::HelpBrowser::canGoPrevious},
-        {TextId::HelpNextButton, &HelpWindow::toNext, &topics::HelpBrowser::canGoNext},
-        {TextId::HelpFindButton, &HelpWindow::find, nullptr},
+    static constexpr Command kCommands[] = {
+        {TextId::HelpPrint, kTopic, false, &HelpWindow::print, nullptr},
+        {TextId::HelpClose, kTopic, false, &HelpWindow::leave, nullptr},
+        {TextId::HelpCopy, kEdit, false, &HelpWindow::copy, nullptr},
+        {TextId::HelpSelectAll, kEdit, false, &HelpWindow::selectAll, nullptr},
+        {TextId::HelpContents, kGo, true, &HelpWindow::toContents, nullptr},
+        {TextId::HelpIndex, kGo, true, &HelpWindow::toIndex, nullptr},
+        {TextId::HelpBack, kGo, true, &HelpWindow::toLast, &topics::HelpBrowser::canGoBack},
+        {TextId::HelpPrevious, kGo, true, &HelpWindow::toPrevious, &topics::HelpBrowser::canGoPrevious},
+        {TextId::HelpNext, kGo, true, &HelpWindow::toNext, &topics::HelpBrowser::canGoNext},
+        {TextId::HelpFind, kEdit, true, &HelpWindow::find, nullptr},
+        {TextId::HelpFindNext, kEdit, false, &HelpWindow::findNext, nullptr},
     };
 
     struct Key {
@@ -74,12 +85,40 @@ struct HelpWindowTables {
     static constexpr Key kKeys[] = {
         {VK_ESCAPE, false, false, &HelpWindow::leave}, {VK_BACK, false, false, &HelpWindow::toLast},
         {VK_LEFT, false, true, &HelpWindow::toLast},   {VK_F3, false, false, &HelpWindow::findNext},
-        {'F', true, false, &HelpWindow::find},
+        {'F', true, false, &HelpWindow::find},         {'P', true, false, &HelpWindow::print},
     };
 };
 
-HelpWindow::HelpWindow(ConfigStore& store, std::string indexDirectory)
+namespace {
+
+constexpr std::size_t kCommandCount = std::size(HelpWindowTables::kCommands);
+
+WORD NumberOf(std::size_t command) {
+    return static_cast<WORD>(kFirstCommand + command);
+}
+
+// Without the key that a menu shows.
+std::string ButtonText(std::size_t command) {
+    const std::string_view text = LoadText(HelpWindowTables::kCommands[command].text);
+    return std::string(text.substr(0, text.find('\t')));
+}
+
+std::vector<MenuRows> Menus() {
+    std::vector<MenuRows> menus;
+    for (const TextId heading : HelpWindowTables::kMenus)
+        menus.push_back({std::string(LoadText(heading)), {}});
+    for (std::size_t i = 0; i < kCommandCount; ++i) {
+        const HelpWindowTables::Command& command = HelpWindowTables::kCommands[i];
+        menus[command.menu].items.push_back({NumberOf(i), std::string(LoadText(command.text))});
+    }
+    return menus;
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(ConfigStore& store, std::string indexDirectory, TopicPrinter& printer)
     : store_(store),
+      printer_(printer),
       browser_([directory = std::move(indexDirectory)](const std::string& name, const std::string& from) {
           return FindLinkedHelpFile(name, from, directory);
       }),
@@ -138,11 +177,9 @@ void HelpWindow::showTopic() {
     closePopUp();
     tell({});
     const topics::ShownTopic& shown = *browser_.current();
-    const std::string& title = shown.file->system().title;
-    const std::string name = title.empty() ? shown.path.substr(DirectoryOf(shown.path).size()) : title;
-    setText(shown.topic.title.empty() ? name : name + " - " + shown.topic.title);
+    setText(shown.caption());
     pane_.show(shown);
-    refreshButtons();
+    refreshCommands();
     showRefused();
     SetFocus(pane_.window());
 }
@@ -177,17 +214,29 @@ bool HelpWindow::openWindow() {
 }
 
 bool HelpWindow::onCreate() {
-    const HINSTANCE program = GetModuleHandleA(nullptr);
-    buttons_.clear();
-    for (const HelpWindowTables::Button& button : HelpWindowTables::kButtons) {
-        const auto id = static_cast<UINT_PTR>(kFirstButton + buttons_.size());
-        buttons_.push_back(CreateWindowExA(0, "BUTTON", LoadText(button.text).data(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
-                                           window(), reinterpret_cast<HMENU>(id), program, nullptr));
-    }
-    foot_ = CreateWindowExA(0, "STATIC", "", WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window(), nullptr, program, nullptr);
-    if (!foot_ || std::ranges::count(buttons_, nullptr) > 0 || !pane_.open(window())) return false;
+    MenuHandle bar = MakeMenuBar(Menus());
+    if (SetMenu(window(), bar.get())) static_cast<void>(bar.release());  // the window now owns it
+    foot_ = CreateWindowExA(0, "STATIC", "", WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window(), nullptr,
+                            GetModuleHandleA(nullptr), nullptr);
+    if (!foot_ || !addButtons() || !pane_.open(window())) return false;
     refreshFont();
     return true;
+}
+
+bool HelpWindow::addButtons() {
+    bool areMade = true;
+    for (std::size_t i = 0; i < kCommandCount; ++i) {
+        if (!HelpWindowTables::kCommands[i].isButton) continue;
+        const auto id = static_cast<UINT_PTR>(NumberOf(i));
+        areMade &= CreateWindowExA(0, "BUTTON", ButtonText(i).c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, window(),
+                                   reinterpret_cast<HMENU>(id), GetModuleHandleA(nullptr), nullptr) != nullptr;
+    }
+    return areMade;
+}
+
+// None where the command has none.
+HWND HelpWindow::button(std::size_t command) const {
+    return GetDlgItem(window(), NumberOf(command));
 }
 
 void HelpWindow::placeFirst() {
@@ -227,8 +276,8 @@ bool HelpWindow::onSize(UINT kind) {
 void HelpWindow::refreshFont() {
     const LOGFONTA description = StatusFont(DpiOf(window()));
     FontHandle font(CreateFontIndirectA(&description));
-    for (const HWND button : buttons_)
-        SendMessageA(button, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    for (std::size_t i = 0; i < kCommandCount; ++i)
+        SendMessageA(button(i), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
     SendMessageA(foot_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
     font_ = std::move(font);
     layOut();
@@ -239,27 +288,33 @@ void HelpWindow::layOut() {
     const int dpi = DpiOf(window());
     const int gap = Scaled(kGap, dpi);
     const int lineHeight = static_cast<int>(MetricsOf(window(), font_.get()).tmHeight);
-    const int buttonHeight = lineHeight + Scaled(kButtonEdges, dpi) / 2;
-    int x = gap;
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const std::string_view text = LoadText(HelpWindowTables::kButtons[i].text);
-        const int width = TextWidth(window(), font_.get(), text) + Scaled(kButtonEdges, dpi);
-        MoveWindow(buttons_[i], x, gap, width, buttonHeight, TRUE);
-        x += width + gap;
-    }
     const bool hasFoot = GetWindowTextLengthA(foot_) > 0;
     const int footHeight = hasFoot ? lineHeight + 2 * gap : 0;
-    const LONG top = buttonHeight + 2 * gap;
+    const LONG top = layOutButtons(gap, lineHeight + Scaled(kButtonEdges, dpi) / 2);
     const LONG bottom = std::max(top, area.bottom - footHeight);
     pane_.place({0, top, area.right, bottom});
     MoveWindow(foot_, gap, static_cast<int>(bottom) + gap, static_cast<int>(area.right) - 2 * gap, lineHeight, TRUE);
     ShowWindow(foot_, hasFoot ? SW_SHOWNA : SW_HIDE);
 }
 
-void HelpWindow::refreshButtons() {
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const auto isEnabled = HelpWindowTables::kButtons[i].isEnabled;
-        EnableWindow(buttons_[i], !isEnabled || (browser_.*isEnabled)());
+// Gives the height that they take.
+int HelpWindow::layOutButtons(int gap, int height) {
+    int x = gap;
+    for (std::size_t i = 0; i < kCommandCount; ++i) {
+        if (!HelpWindowTables::kCommands[i].isButton) continue;
+        const int width = TextWidth(window(), font_.get(), ButtonText(i)) + Scaled(kButtonEdges, DpiOf(window()));
+        MoveWindow(button(i), x, gap, width, height, TRUE);
+        x += width + gap;
+    }
+    return height + 2 * gap;
+}
+
+void HelpWindow::refreshCommands() {
+    for (std::size_t i = 0; i < kCommandCount; ++i) {
+        const auto isEnabled = HelpWindowTables::kCommands[i].isEnabled;
+        const bool enabled = !isEnabled || (browser_.*isEnabled)();
+        EnableWindow(button(i), enabled);
+        EnableMenuItem(GetMenu(window()), NumberOf(i), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     }
 }
 
@@ -280,13 +335,12 @@ void HelpWindow::onSettingChange() {
     refreshFont();
 }
 
-// ---- buttons, keys and questions ---------------------------------------------------------------------------------
+// ---- commands, keys and questions --------------------------------------------------------------------------------
 
 bool HelpWindow::onCommand(WORD id, bool) {
-    const auto number = static_cast<std::size_t>(id) - kFirstButton;
-    if (id < kFirstButton || number >= buttons_.size()) return false;
+    if (id < kFirstCommand || id >= NumberOf(kCommandCount)) return false;
     SetFocus(pane_.window());
-    (this->*HelpWindowTables::kButtons[number].run)();
+    (this->*HelpWindowTables::kCommands[id - kFirstCommand].run)();
     return true;
 }
 
@@ -300,15 +354,21 @@ bool HelpWindow::useKey(const KeyMessage& key) {
     return true;
 }
 
+// Of a button; the menus have theirs by the system.
 bool HelpWindow::useMnemonic(unsigned char character) {
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const HelpWindowTables::Button& button = HelpWindowTables::kButtons[i];
-        const bool isMeant = MnemonicOf(LoadText(button.text)) == LowerAscii(static_cast<char>(character));
-        if (!isMeant || !IsWindowEnabled(buttons_[i])) continue;
-        (this->*button.run)();
+    for (std::size_t i = 0; i < kCommandCount; ++i) {
+        const HelpWindowTables::Command& command = HelpWindowTables::kCommands[i];
+        const bool isMeant = MnemonicOf(LoadText(command.text)) == LowerAscii(static_cast<char>(character));
+        if (!isMeant || !IsWindowEnabled(button(i))) continue;
+        (this->*command.run)();
         return true;
     }
     return false;
+}
+
+void HelpWindow::print() {
+    const topics::ShownTopic* shown = browser_.current();
+    if (shown && IsWindowEnabled(window())) tell(printer_.printTopic(window(), *shown));
 }
 
 void HelpWindow::leave() {
@@ -317,6 +377,10 @@ void HelpWindow::leave() {
     } else {
         PostMessageA(window(), WM_CLOSE, 0, 0);
     }
+}
+
+void HelpWindow::paneScrolled(TopicPane& pane, int y) {
+    if (&pane == &pane_) browser_.keepScroll(y);
 }
 
 void HelpWindow::panePressed(TopicPane& pane) {

@@ -10,13 +10,14 @@
 #include "framework/window.h"
 #include "quickhelp/topics/help_browser.h"
 #include "ui/help/topic_pane.h"
+#include "ui/help/topic_printer.h"
 
 namespace vexa {
 
 class HelpWindow : public WindowCL, private TopicPaneHost {
   public:
     // The directory of the indexes, without "\" at its end, says where linked help files may be.
-    HelpWindow(ConfigStore& store, std::string indexDirectory);
+    HelpWindow(ConfigStore& store, std::string indexDirectory, TopicPrinter& printer);
     ~HelpWindow() override;
 
     // Each opens the window in front of the others. False, and nothing has changed, when the file cannot be shown.
@@ -35,11 +36,12 @@ class HelpWindow : public WindowCL, private TopicPaneHost {
     bool onOther(Message& message) override;
 
   private:
-    friend struct HelpWindowTables;  // buttons and keys
+    friend struct HelpWindowTables;  // commands and keys
 
     void followLink(TopicPane& pane, const topics::Link& link) override;
     bool useKey(const KeyMessage& key) override;
     bool useMnemonic(unsigned char character) override;
+    void paneScrolled(TopicPane& pane, int y) override;
     void panePressed(TopicPane& pane) override;
     void paneLeft(TopicPane& pane) override;
 
@@ -52,14 +54,17 @@ class HelpWindow : public WindowCL, private TopicPaneHost {
     void placeFirst();
     void savePlace() const;
     void refreshFont();
+    bool addButtons();
+    HWND button(std::size_t command) const;
     void layOut();
-    void refreshButtons();
+    int layOutButtons(int gap, int height);
+    void refreshCommands();
     void closePopUp();
     void askLater(topics::BrowserOutcome outcome);
     void askForKeyword();
     void askForTopic();
 
-    // ---- buttons and keys ----
+    // ---- commands ----
     void toContents() { carryOut(browser_.toContents()); }
     void toIndex() { askForKeyword(); }
     void toLast() { carryOut(browser_.back()); }
@@ -67,15 +72,18 @@ class HelpWindow : public WindowCL, private TopicPaneHost {
     void toNext() { carryOut(browser_.next()); }
     void find();
     void findNext();
+    void copy() { pane_.copy(); }
+    void selectAll() { pane_.selectAll(); }
+    void print();
     void leave();
 
     ConfigStore& store_;
+    TopicPrinter& printer_;
     topics::HelpBrowser browser_;
     TopicPane pane_;
     TopicPane popUp_;
     FontHandle font_;
-    std::vector<HWND> buttons_;  // children, in the order of their table
-    HWND foot_ = nullptr;        // a child with a text, hidden without one
+    HWND foot_ = nullptr;  // a child with a text, hidden without one
     std::string findText_;
     bool isPopUpClosing_ = false;
 };

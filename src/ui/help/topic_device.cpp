@@ -63,16 +63,16 @@ const topics::Picture& TopicDevice::pictureOf(const topics::PictureUse& use) {
 }
 
 int TopicDevice::width(const topics::HelpFont& font, std::string_view text) {
-    const Selected selected(dc_.get(), fontOf(font));
+    const Selected selected(dc_, fontOf(font));
     SIZE size{};
-    GetTextExtentPoint32A(dc_.get(), text.data(), static_cast<int>(text.size()), &size);
+    GetTextExtentPoint32A(dc_, text.data(), static_cast<int>(text.size()), &size);
     return size.cx;
 }
 
 topics::FontHeight TopicDevice::height(const topics::HelpFont& font) {
-    const Selected selected(dc_.get(), fontOf(font));
+    const Selected selected(dc_, fontOf(font));
     TEXTMETRICA metrics{};
-    GetTextMetricsA(dc_.get(), &metrics);
+    GetTextMetricsA(dc_, &metrics);
     return {metrics.tmAscent, metrics.tmDescent};
 }
 

@@ -14,7 +14,9 @@ namespace vexa {
 
 class TopicDevice : public topics::TextMeasure {
   public:
-    TopicDevice() : dc_(CreateCompatibleDC(nullptr)) {}
+    // Without a device to measure on, that of the screen.
+    explicit TopicDevice(HDC device = nullptr)
+        : screen_(device ? nullptr : CreateCompatibleDC(nullptr)), dc_(device ? device : screen_.get()) {}
 
     // Fonts and pictures of the topic before are given back.
     void begin(std::shared_ptr<const topics::HelpFile> file, int dpi);
@@ -28,7 +30,8 @@ class TopicDevice : public topics::TextMeasure {
     topics::Extent pictureExtent(const topics::PictureUse& picture) override;
 
   private:
-    MemoryDc dc_;
+    MemoryDc screen_;
+    HDC dc_;
     int dpi_ = 96;
     std::shared_ptr<const topics::HelpFile> file_;
     std::map<const topics::HelpFont*, FontHandle> fonts_;

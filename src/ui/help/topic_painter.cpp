@@ -1,6 +1,7 @@
 #include "ui/help/topic_painter.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace vexa {
 namespace {
@@ -30,6 +31,21 @@ bool Meets(const RECT& a, const RECT& b) {
     return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
+COLORREF ColourRef(const topics::Colour& colour) {
+    return RGB(colour.red, colour.green, colour.blue);
+}
+
+// In 255ths.
+int Brightness(COLORREF colour) {
+    return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
+}
+
+// Whether a text can be read on a background.
+bool StandsOut(COLORREF text, COLORREF background) {
+    constexpr int kLeast = 48;
+    return std::abs(Brightness(text) - Brightness(background)) >= kLeast;
+}
+
 std::uint32_t PixelOf(COLORREF colour) {
     return static_cast<std::uint32_t>(GetRValue(colour) << 16 | GetGValue(colour) << 8 | GetBValue(colour));
 }
@@ -42,11 +58,15 @@ int CALLBACK PlayRecord(HDC dc, HANDLETABLE* handles, METARECORD* record, int co
 
 }  // namespace
 
-TopicColours SystemTopicColours(bool isPopUp) {
+TopicColours ScreenColours(bool isPopUp, const std::optional<topics::Colour>& background) {
     const bool isHigh = HasHighContrast();
-    return {GetSysColor(isPopUp ? COLOR_INFOTEXT : COLOR_WINDOWTEXT),
-            GetSysColor(isPopUp ? COLOR_INFOBK : COLOR_WINDOW), isHigh ? GetSysColor(kHotlightColour) : kLinkColour,
-            !isHigh};
+    TopicColours colours = {GetSysColor(isPopUp ? COLOR_INFOTEXT : COLOR_WINDOWTEXT),
+                            GetSysColor(isPopUp ? COLOR_INFOBK : COLOR_WINDOW),
+                            isHigh ? GetSysColor(kHotlightColour) : kLinkColour, !isHigh};
+    if (isHigh || !background) return colours;
+    colours.background = ColourRef(*background);
+    if (!StandsOut(colours.text, colours.background)) colours.text ^= RGB(255, 255, 255);
+    return colours;
 }
 
 void TopicPainter::draw(const topics::LaidRegion& region, POINT origin, const RECT& visible) {
@@ -67,13 +87,18 @@ void TopicPainter::draw(const topics::LaidRegion& region, POINT origin, const RE
     }
 }
 
+// The author has chosen it for a background that may not be the one shown.
+COLORREF TopicPainter::colourOf(const topics::HelpFont& font) const {
+    if (!font.colour || !colours_.areAuthors) return colours_.text;
+    const COLORREF colour = ColourRef(*font.colour);
+    return StandsOut(colour, colours_.background) ? colour : colours_.text;
+}
+
 void TopicPainter::drawText(const topics::LaidRun& run, const RECT& box, int baseline) {
     const topics::HelpFont& font = source_.file.font(run.font);
     const topics::Link* link = run.link < 0 ? nullptr : &source_.topic.links[static_cast<std::size_t>(run.link)];
     const bool isMarked = link && link->isMarked;
-    COLORREF colour = colours_.text;
-    if (font.colour && colours_.areAuthors) colour = RGB(font.colour->red, font.colour->green, font.colour->blue);
-    if (isMarked) colour = colours_.link;
+    const COLORREF colour = isMarked ? colours_.link : colourOf(font);
     const std::string_view text =
         std::string_view(source_.topic.paragraphs[run.paragraph].text).substr(run.begin, run.length);
     const Selected selected(dc_, device_.fontOf(font));

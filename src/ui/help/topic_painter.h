@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 #include "quickhelp/topics/topic_layout.h"
 #include "ui/help/topic_device.h"
 
@@ -15,7 +17,8 @@ struct TopicColours {
     COLORREF link = 0;
     bool areAuthors = true;
 };
-TopicColours SystemTopicColours(bool isPopUp);
+// Those of the system, and behind the text what the author wants where that holds.
+TopicColours ScreenColours(bool isPopUp, const std::optional<topics::Colour>& background);
 
 class TopicPainter {
   public:
@@ -27,6 +30,7 @@ class TopicPainter {
     void draw(const topics::LaidRegion& region, POINT origin, const RECT& visible);
 
   private:
+    COLORREF colourOf(const topics::HelpFont& font) const;
     void drawText(const topics::LaidRun& run, const RECT& box, int baseline);
     void underline(const RECT& box, int y, bool isDotted, COLORREF colour);
     void drawPicture(const topics::PictureUse& use, const RECT& box);

@@ -63,14 +63,12 @@ struct TopicPaneKeys {
 // ---- opening and layout ------------------------------------------------------------------------------------------
 
 bool TopicPane::open(HWND parent) {
-    colours_ = SystemTopicColours(isPopUp_);
     return create(kPaneClass,
                   {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {}, .parent = parent});
 }
 
 bool TopicPane::openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPlace) {
     isPopUp_ = true;
-    colours_ = SystemTopicColours(isPopUp_);
     if (!window() && !create(kPaneClass, {.style = WS_POPUP | WS_BORDER, .place = {}, .parent = owner})) return false;
     take(topic);
     const RECT screen = WorkAreaAt(screenPlace);
@@ -95,20 +93,21 @@ void TopicPane::take(const topics::ShownTopic& topic) {
     focusedLink_ = -1;
     pressedLink_.reset();
     isSelecting_ = false;
+    refreshColours();
 }
 
 void TopicPane::show(const topics::ShownTopic& topic) {
     take(topic);
     layOut(static_cast<int>(clientArea().right) - 2 * margin());
-    const std::uint32_t paragraph = topics::ParagraphAt(shown_.topic, shown_.offset);
-    const auto top = topics::TopOf(layout_.scrolling, {paragraph, 0});
-    scrollTo(0, paragraph == 0 ? 0 : top.value_or(0));
+    const std::uint32_t paragraph = topics::ParagraphAt(*shown_.topic, shown_.offset);
+    const int top = paragraph == 0 ? 0 : topics::TopOf(layout_.scrolling, {paragraph, 0}).value_or(0);
+    scrollTo(0, shown_.scroll >= 0 ? shown_.scroll : top);
 }
 
 void TopicPane::layOut(int width) {
     layout_ = topics::LayOutTopic(source(), width);
-    fixedAreas_ = topics::LinkAreas(layout_.fixed, shown_.topic);
-    scrollingAreas_ = topics::LinkAreas(layout_.scrolling, shown_.topic);
+    fixedAreas_ = topics::LinkAreas(layout_.fixed, *shown_.topic);
+    scrollingAreas_ = topics::LinkAreas(layout_.scrolling, *shown_.topic);
 }
 
 bool TopicPane::onSize(UINT) {
@@ -122,7 +121,11 @@ bool TopicPane::onSize(UINT) {
 }
 
 void TopicPane::refreshColours() {
-    colours_ = SystemTopicColours(isPopUp_);
+    const auto coloursOf = [this](bool isFixed) {
+        return ScreenColours(isPopUp_, hasTopic() && !isPopUp_ ? shown_.background(isFixed) : std::nullopt);
+    };
+    fixedColours_ = coloursOf(true);
+    colours_ = coloursOf(false);
     InvalidateRect(window(), nullptr, FALSE);
 }
 
@@ -153,6 +156,7 @@ void TopicPane::scrollTo(int x, int y) {
     scroll_.x = std::clamp(x, 0, std::max(0, right));
     scroll_.y = std::clamp(y, 0, std::max(0, layout_.scrolling.height - pageHeight()));
     if (!isPopUp_) updateBars();
+    host_.paneScrolled(*this, scroll_.y);
     InvalidateRect(window(), nullptr, FALSE);
 }
 
@@ -219,11 +223,12 @@ void TopicPane::lineDown() {
 // ---- painting ----------------------------------------------------------------------------------------------------
 
 TopicPane::Part TopicPane::fixedPart() {
-    return {&layout_.fixed, &fixedAreas_, {margin() - scroll_.x, margin() / 2}};
+    return {&layout_.fixed, &fixedAreas_, {margin() - scroll_.x, margin() / 2}, &fixedColours_};
 }
 
 TopicPane::Part TopicPane::scrollingPart() {
-    return {&layout_.scrolling, &scrollingAreas_, {margin() - scroll_.x, scrollingArea().top + margin() - scroll_.y}};
+    const int top = static_cast<int>(scrollingArea().top) + margin() - static_cast<int>(scroll_.y);
+    return {&layout_.scrolling, &scrollingAreas_, {margin() - scroll_.x, top}, &colours_};
 }
 
 bool TopicPane::onPaint(HDC dc, const RECT&) {
@@ -231,8 +236,11 @@ bool TopicPane::onPaint(HDC dc, const RECT&) {
     if (area.right <= 0 || area.bottom <= 0) return true;
     const HDC picture = picture_.prepare(dc, area.right, area.bottom);
     if (!picture) return true;
-    FillColour(picture, area, colours_.background);
-    if (hasTopic()) draw(picture);
+    if (hasTopic()) {
+        draw(picture);
+    } else {
+        FillColour(picture, area, colours_.background);
+    }
     picture_.show(dc, 0, 0, area.right, area.bottom);
     return true;
 }
@@ -251,7 +259,8 @@ void TopicPane::drawPart(HDC dc, const Part& part, const RECT& visible) {
     const int saved = SaveDC(dc);
     IntersectClipRect(dc, visible.left, visible.top, visible.right, visible.bottom);
     const topics::LayoutSource laid = source();
-    TopicPainter(dc, laid, device_, colours_).draw(*part.region, part.origin, visible);
+    FillColour(dc, visible, part.colours->background);
+    TopicPainter(dc, laid, device_, *part.colours).draw(*part.region, part.origin, visible);
     const auto moved = [&part](const topics::Box& box) {
         return RECT{part.origin.x + box.left, part.origin.y + box.top, part.origin.x + box.right,
                     part.origin.y + box.bottom};
@@ -263,8 +272,8 @@ void TopicPane::drawPart(HDC dc, const Part& part, const RECT& visible) {
             InvertRect(dc, &marked);
         }
     }
-    SetTextColor(dc, colours_.text);
-    SetBkColor(dc, colours_.background);
+    SetTextColor(dc, part.colours->text);
+    SetBkColor(dc, part.colours->background);
     for (const topics::LinkArea& area : *part.areas) {
         const RECT focused = moved(area.box);
         if (area.link == focusedLink_) DrawFocusRect(dc, &focused);
@@ -342,7 +351,7 @@ void TopicPane::select(topics::TextPosition from, topics::TextPosition to) {
 }
 
 void TopicPane::selectAll() {
-    const auto& paragraphs = shown_.topic.paragraphs;
+    const auto& paragraphs = shown_.topic->paragraphs;
     if (paragraphs.empty()) return;
     select({0, 0}, {static_cast<std::uint32_t>(paragraphs.size() - 1),
                     static_cast<std::uint32_t>(paragraphs.back().text.size())});
@@ -350,7 +359,7 @@ void TopicPane::selectAll() {
 
 void TopicPane::copy() {
     const auto [from, to] = std::minmax(anchor_, caret_);
-    const std::string text = topics::TextBetween(shown_.topic, from, to);
+    const std::string text = topics::TextBetween(*shown_.topic, from, to);
     if (text.empty() || !OpenClipboard(window())) return;
     EmptyClipboard();
     if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1)) {
@@ -364,8 +373,8 @@ void TopicPane::copy() {
 
 bool TopicPane::findNext(const std::string& text) {
     if (!hasTopic()) return false;
-    auto found = topics::FindText(shown_.topic, text, std::max(anchor_, caret_), false);
-    if (!found) found = topics::FindText(shown_.topic, text, {}, false);
+    auto found = topics::FindText(*shown_.topic, text, std::max(anchor_, caret_), false);
+    if (!found) found = topics::FindText(*shown_.topic, text, {}, false);
     if (!found) return false;
     select(*found, {found->paragraph, found->character + static_cast<std::uint32_t>(text.size())});
     if (const auto top = topics::TopOf(layout_.scrolling, *found))
@@ -392,7 +401,7 @@ void TopicPane::followFocusedLink() {
     if (focusedLink_ >= 0) followLink(focusedLink_);
 }
 
-// The link is copied: what it leads to takes the place of the topic.
+// What the link leads to takes the place of its topic, which is kept meanwhile.
 void TopicPane::followLink(int number) {
     focusedLink_ = number;
     InvalidateRect(window(), nullptr, FALSE);
@@ -402,8 +411,8 @@ void TopicPane::followLink(int number) {
         linkPlace_ = {part.origin.x + area->box.left, part.origin.y + area->box.bottom};
         ClientToScreen(window(), &linkPlace_);
     }
-    const topics::Link link = shown_.topic.links[static_cast<std::size_t>(number)];
-    host_.followLink(*this, link);
+    const std::shared_ptr<const topics::Topic> topic = shown_.topic;
+    host_.followLink(*this, topic->links[static_cast<std::size_t>(number)]);
 }
 
 bool TopicPane::onFocusGained() {

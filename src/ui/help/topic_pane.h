@@ -25,6 +25,7 @@ class TopicPaneHost {
     // A key that the pane has no use for; false when the viewer has none either.
     virtual bool useKey(const KeyMessage& key) = 0;
     virtual bool useMnemonic(unsigned char character) = 0;
+    virtual void paneScrolled(TopicPane& pane, int y) = 0;
     virtual void panePressed(TopicPane& pane) = 0;
     virtual void paneLeft(TopicPane& pane) = 0;  // the keyboard has gone elsewhere
 };
@@ -37,11 +38,12 @@ class TopicPane : public WindowCL {
     // Opens beside a point of the screen, as large as its topic needs.
     bool openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPlace);
     void closePopUp() { destroy(); }
-    // At the paragraph that the topic was asked for.
+    // Where it was scrolled to before, or at the paragraph that the topic was asked for.
     void show(const topics::ShownTopic& topic);
     const topics::ShownTopic& shown() const { return shown_; }
     void refreshColours();
     void copy();
+    void selectAll();
     // Selects the next place of a text behind the selection; false when there is none.
     bool findNext(const std::string& text);
     // On the screen, below the link that was followed last.
@@ -71,8 +73,9 @@ class TopicPane : public WindowCL {
         topics::LaidRegion* region;
         std::vector<topics::LinkArea>* areas;
         POINT origin;
+        const TopicColours* colours;
     };
-    topics::LayoutSource source() { return {*shown_.file, shown_.topic, device_}; }
+    topics::LayoutSource source() { return {*shown_.file, *shown_.topic, device_}; }
     bool hasTopic() const { return shown_.file != nullptr; }
     void take(const topics::ShownTopic& topic);
     void layOut(int width);
@@ -106,12 +109,11 @@ class TopicPane : public WindowCL {
     void toNextLink() { goToLink(true); }
     void toPreviousLink() { goToLink(false); }
     void followFocusedLink();
-    void selectAll();
 
     TopicPaneHost& host_;
     topics::ShownTopic shown_;
     TopicDevice device_;
-    TopicColours colours_;
+    TopicColours fixedColours_, colours_;
     topics::TopicLayout layout_;
     std::vector<topics::LinkArea> fixedAreas_;
     std::vector<topics::LinkArea> scrollingAreas_;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/notices.h"
+#include "document/print/print_layout.h"
 #include "document/print/print_run.h"
 #include "framework/handle.h"
 #include "ui/dialogs/editor_dialog.h"

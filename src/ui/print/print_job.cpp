@@ -30,21 +30,10 @@ std::string RightAligned(std::int32_t number, std::int32_t width) {
     return digits;
 }
 
-// Sets a device up for text; what was set before comes back. A printer forgets it with every page.
-class TextDrawing {
-  public:
-    explicit TextDrawing(HDC dc) : dc_(dc), saved_(SaveDC(dc)) {
-        SetBkMode(dc, TRANSPARENT);
-        SetTextAlign(dc, TA_LEFT | TA_TOP | TA_NOUPDATECP);
-    }
-    ~TextDrawing() { RestoreDC(dc_, saved_); }
-    TextDrawing(const TextDrawing&) = delete;
-    TextDrawing& operator=(const TextDrawing&) = delete;
-
-  private:
-    HDC dc_;
-    int saved_;
-};
+void SetUpForText(HDC dc) {
+    SetBkMode(dc, TRANSPARENT);
+    SetTextAlign(dc, TA_LEFT | TA_TOP | TA_NOUPDATECP);
+}
 
 }  // namespace
 
@@ -64,6 +53,7 @@ Paper PaperOf(HDC printer) {
 
 PagePainter::PagePainter(HDC dc, const Paper& paper, const PrintLook& look)
     : dc_(dc),
+      dotsPerInch_(paper.dotsPerInchY),
       area_(TextAreaOf(paper, look.options.margins)),
       fonts_{FontFor(dc, look.font, false, false), FontFor(dc, look.font, true, false),
              FontFor(dc, look.font, false, true)},
@@ -76,8 +66,15 @@ PageGrid PagePainter::grid() const {
     return {(area_.bottom - area_.top) / cellHeight_, (area_.right - area_.left) / cellWidth_};
 }
 
+DotArea PagePainter::textArea(bool hasHeader) const {
+    DotArea area = area_;
+    if (hasHeader) area.top += kHeaderRows * cellHeight_;
+    return area;
+}
+
 void PagePainter::paint(const PrintedPage& page, const PrintLayout& layout) const {
-    const TextDrawing drawing(dc_);
+    const DrawingState saved(dc_);
+    SetUpForText(dc_);
     const bool hasHeader = !page.header.empty();
     if (hasHeader) paintHeader(page.header);
     std::int32_t onPage = hasHeader ? kHeaderRows : 0;
@@ -87,6 +84,8 @@ void PagePainter::paint(const PrintedPage& page, const PrintLayout& layout) cons
 
 // A line under the text divides it from the document.
 void PagePainter::paintHeader(const std::string& text) const {
+    const DrawingState saved(dc_);
+    SetUpForText(dc_);
     paintText(text, 0, 0, kHeaderStyle);
     const int thickness = std::max(cellHeight_ / 16, 1);
     const int middle = top(1) + cellHeight_ / 3;
@@ -123,16 +122,25 @@ PagePainter::Face PagePainter::FaceOf(const PrintStyle& style) {
 // ---- jobs --------------------------------------------------------------------------------------------------------
 
 bool PrinterTarget::beginJob() {
+    const std::string name = pages_.name();
     DOCINFOA job{};
     job.cbSize = sizeof(job);
-    job.lpszDocName = jobName_.c_str();
+    job.lpszDocName = name.c_str();
     return StartDocA(printer_, &job) > 0;
 }
 
-bool PrinterTarget::printPage(const PrintedPage& page) {
+bool PrinterTarget::printPage(std::int32_t number) {
     if (StartPage(printer_) <= 0) return false;
-    painter_.paint(page, layout_);
+    pages_.paint(number);
     return EndPage(printer_) > 0;
+}
+
+std::string Now() {
+    char date[64] = "";
+    char time[64] = "";
+    GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, date, sizeof(date));
+    GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, nullptr, nullptr, time, sizeof(time));
+    return std::string(date) + ' ' + time;
 }
 
 }  // namespace vexa

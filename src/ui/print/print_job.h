@@ -29,22 +29,27 @@ class PagePainter {
   public:
     PagePainter(HDC dc, const Paper& paper, const PrintLook& look);
 
+    HDC dc() const { return dc_; }
+    int dotsPerInch() const { return dotsPerInch_; }
     PageGrid grid() const;
-    // Draws on the page that the device is at, and nothing outside the margins. Leaves the device as it was.
+    // Between the margins, and below the header where there is one.
+    DotArea textArea(bool hasHeader) const;
+    // Each draws on the page that the device is at, and nothing outside the margins. They leave the device as it was.
     void paint(const PrintedPage& page, const PrintLayout& layout) const;
+    void paintHeader(const std::string& text) const;
 
   private:
     // One for each way in which a PrintStyle differs from plain text.
     enum Face : std::size_t { kPlain, kBold, kItalic, kFaceCount };
 
     static Face FaceOf(const PrintStyle& style);
-    void paintHeader(const std::string& text) const;
     void paintRow(const PrintedRow& row, std::int32_t onPage, const PrintLayout& layout) const;
     void paintText(std::string_view text, std::int32_t row, std::int32_t column, const PrintStyle& style) const;
     int top(std::int32_t row) const { return area_.top + row * cellHeight_; }
     int left(std::int32_t column) const { return area_.left + column * cellWidth_; }
 
     HDC dc_;
+    int dotsPerInch_;
     DotArea area_;
     std::array<PaneFont, kFaceCount> fonts_;
     int cellWidth_;
@@ -53,22 +58,47 @@ class PagePainter {
     std::array<PrintStyle, kElementCount> styles_;
 };
 
+// What a job prints. It lives as long as the job, and so does the painter that it is laid out for.
+class PrintedPages {
+  public:
+    virtual ~PrintedPages() = default;
+    virtual std::string name() const = 0;
+    // Comes first.
+    virtual void layOut(const PagePainter& painter, const PrintLook& look, PrintArea area) = 0;
+    virtual std::int32_t count() const = 0;
+    // Draws a page, counted from 1, on the one that the device is at.
+    virtual void paint(std::int32_t number) = 0;
+};
+
 // A printer's device context as the target of a job.
 class PrinterTarget : public PrintTarget {
   public:
-    PrinterTarget(HDC printer, std::string jobName, const PagePainter& painter, const PrintLayout& layout)
-        : printer_(printer), jobName_(std::move(jobName)), painter_(painter), layout_(layout) {}
+    PrinterTarget(HDC printer, PrintedPages& pages) : printer_(printer), pages_(pages) {}
 
     bool beginJob() override;
-    bool printPage(const PrintedPage& page) override;
+    bool printPage(std::int32_t number) override;
     bool endJob() override { return EndDoc(printer_) > 0; }
     void abortJob() override { AbortDoc(printer_); }
 
   private:
     HDC printer_;
-    const std::string jobName_;
-    const PagePainter& painter_;
-    const PrintLayout& layout_;
+    PrintedPages& pages_;
 };
+
+// Keeps what is set on a device and puts it back. A printer forgets it with every page.
+class DrawingState {
+  public:
+    explicit DrawingState(HDC dc) : dc_(dc), saved_(SaveDC(dc)) {}
+    ~DrawingState() { RestoreDC(dc_, saved_); }
+    DrawingState(const DrawingState&) = delete;
+    DrawingState& operator=(const DrawingState&) = delete;
+
+  private:
+    HDC dc_;
+    int saved_;
+};
+
+// Date and time for a header, as the user has set them in the system.
+std::string Now();
 
 }  // namespace vexa

@@ -41,7 +41,7 @@ class HelpBrowserTest : public ::testing::Test {
   protected:
     HelpBrowserTest() { folder.put("MADE.HLP", MakeHelpFile()); }
 
-    std::string title() const { return browser.current() ? browser.current()->topic.title : "none"; }
+    std::string title() const { return browser.current() ? browser.current()->topic->title : "none"; }
     BrowserOutcome macro(const std::string& text) {
         Link link;
         link.action = LinkAction::Macro;
@@ -75,7 +75,7 @@ TEST_F(HelpBrowserTest, OpensAtContentsNumberAndKeyword) {
 TEST_F(HelpBrowserTest, JumpsAndComesBack) {
     ASSERT_EQ(browser.openContents(path), BrowserOutcome::Show);
     EXPECT_FALSE(browser.canGoBack());
-    const Link jump = browser.current()->topic.links.at(0);
+    const Link jump = browser.current()->topic->links.at(0);
     EXPECT_EQ(browser.follow(*browser.current(), jump), BrowserOutcome::Show);
     EXPECT_EQ(title(), "Second");
     EXPECT_EQ(browser.back(), BrowserOutcome::Show);
@@ -87,12 +87,47 @@ TEST_F(HelpBrowserTest, JumpsAndComesBack) {
     EXPECT_EQ(title(), "First");
 }
 
+TEST_F(HelpBrowserTest, ComesBackToWhereItHasScrolledTo) {
+    ASSERT_EQ(browser.openContents(path), BrowserOutcome::Show);
+    EXPECT_LT(browser.current()->scroll, 0);
+    browser.keepScroll(123);
+    EXPECT_EQ(macro("JumpId(`', `second')"), BrowserOutcome::Show);
+    EXPECT_LT(browser.current()->scroll, 0);
+    EXPECT_EQ(browser.back(), BrowserOutcome::Show);
+    EXPECT_EQ(browser.current()->scroll, 123);
+}
+
+TEST_F(HelpBrowserTest, ShowsTopicsAsTheWindowsOfTheAuthor) {
+    const auto look = [this] { return browser.current()->caption(); };
+    const Colour grey = {0xC0, 0xC0, 0xC0};
+    const Colour blue = {0, 0, 0x80};
+    ASSERT_EQ(browser.openContents(path), BrowserOutcome::Show);
+    EXPECT_EQ(look(), "Made - First");
+    EXPECT_EQ(browser.current()->background(true), grey);
+    EXPECT_EQ(browser.current()->background(false), std::nullopt);
+    EXPECT_EQ(macro("JumpId(`>side', `second')"), BrowserOutcome::Show);
+    EXPECT_EQ(look(), "Beside - Second");
+    EXPECT_EQ(browser.current()->background(true), blue);
+    EXPECT_EQ(browser.toContents(), BrowserOutcome::Show);
+    EXPECT_EQ(look(), "Made - First");
+    Link jump = browser.current()->topic->links.at(0);
+    jump.windowNumber = 1;
+    EXPECT_EQ(browser.follow(*browser.current(), jump), BrowserOutcome::Show);
+    EXPECT_EQ(look(), "Beside - Second");
+    jump.windowNumber = 99;
+    EXPECT_EQ(browser.follow(*browser.current(), jump), BrowserOutcome::Show);
+    EXPECT_EQ(look(), "Beside - Second") << "no such window";
+    EXPECT_EQ(macro("JumpId(`>none', `second')"), BrowserOutcome::Show);
+    EXPECT_EQ(look(), "Made - Second");
+    EXPECT_EQ(browser.current()->background(true), std::nullopt);
+}
+
 TEST_F(HelpBrowserTest, CarriesOutHarmlessMacrosAlone) {
     ASSERT_EQ(browser.openContents(path), BrowserOutcome::Show);
     EXPECT_EQ(macro("JumpId(`MADE.HLP>main', `second')"), BrowserOutcome::Show);
     EXPECT_EQ(title(), "Second");
     EXPECT_EQ(macro("PC(\"\", 7)"), BrowserOutcome::PopUp);
-    EXPECT_EQ(browser.popUp().topic.title, "Second");
+    EXPECT_EQ(browser.popUp().topic->title, "Second");
     EXPECT_EQ(macro("KL(`alpha;none')"), BrowserOutcome::Choice);
     EXPECT_EQ(macro("Exit()"), BrowserOutcome::Close);
     EXPECT_EQ(macro("ExecFile(`calc.exe'); Contents()"), BrowserOutcome::Show);

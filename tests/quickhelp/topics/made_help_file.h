@@ -131,18 +131,28 @@ inline std::string SystemRecord(int type, std::string_view data) {
     return Number(type, 2) + Number(static_cast<std::int64_t>(data.size()), 2) + std::string(data);
 }
 
+// A window with a name, a caption and the colour of its fixed part.
+inline std::string WindowRecord(std::string name, std::string caption, std::string_view fixedColour) {
+    name.resize(9);
+    caption.resize(51);
+    return SystemRecord(6, Number(0x206, 2) + std::string(10, '\0') + name + caption + std::string(14, '\0') +
+                               std::string(fixedColour) + '\0');
+}
+
 inline std::string FontDescriptor(int attributes, int halfPoints, std::string_view colour) {
     return Number(attributes, 1) + Number(halfPoints, 1) + Number(3, 1) + Number(0, 2) + std::string(colour) +
            std::string(3, '\0');
 }
 
-// A file of three topics with links, a table, a fixed region, phrases, two fonts and all indexes.
+// A file of three topics with links, a table, a fixed region, phrases, two fonts, two windows and all indexes.
 inline std::string MakeHelpFile() {
     using namespace std::string_literals;
     MadeHelpFile made;
     made.file("|SYSTEM", Number(0x036C, 2) + Number(21, 2) + Number(1, 2) + Number(0, 4) + Number(0, 2) +
                              SystemRecord(1, Text("Made")) + SystemRecord(3, Number(0, 4)) +
-                             SystemRecord(4, Text("BrowseButtons()")) + SystemRecord(99, "unknown"));
+                             SystemRecord(4, Text("BrowseButtons()")) + SystemRecord(99, "unknown") +
+                             WindowRecord("main", "", "\xC0\xC0\xC0") +
+                             WindowRecord("side", "Beside", "\x00\x00\x80"s));
     made.file("|FONT", Number(1, 2) + Number(2, 2) + Number(8, 2) + Number(28, 2) + "Arial" + std::string(15, '\0') +
                            FontDescriptor(1, 24, "\x01\x01\x00"s) + FontDescriptor(6, 20, "\x00\x00\x80"s));
     const std::string phrases = "thequick";

@@ -146,6 +146,18 @@ TEST_F(TopicLayoutTest, TextStandsBesideAPicture) {
     EXPECT_EQ(shown(region), "#@0,0|one @20,0|two@0,16|");
 }
 
+TEST_F(TopicLayoutTest, PagesEndBetweenLines) {
+    using Tops = std::vector<int>;
+    EXPECT_EQ(PageTops(LaidRegion(), 100), Tops{0});
+    for (const char* text : {"one", "two", "three", "four", "five"})
+        add(text);
+    const LaidRegion region = layOut(200);
+    ASSERT_EQ(region.height, 80);
+    EXPECT_EQ(PageTops(region, 80), (Tops{0, 80}));
+    EXPECT_EQ(PageTops(region, 47), (Tops{0, 32, 64, 80}));
+    EXPECT_EQ(PageTops(region, 10), (Tops{0, 10, 16, 26, 32, 42, 48, 58, 64, 74, 80})) << "lower than a line";
+}
+
 TEST_F(TopicLayoutTest, FindsLinksByMouseAndKeyboard) {
     add("a [two words] b [c]");
     const std::vector<LinkArea> areas = LinkAreas(layOut(40), topic);
