@@ -9,9 +9,12 @@
 
 #include "quickhelp/topics/picture.h"
 #include "quickhelp/topics/topic_layout.h"
+#include "support/session.h"
 
 namespace vexa::topics {
 namespace {
+
+using bench::AllocatedBytes;
 
 constexpr int kWidth = 640;
 
@@ -50,6 +53,22 @@ void OpenContents(benchmark::State& state) {
     }
 }
 BENCHMARK(OpenContents)->Unit(benchmark::kMillisecond);
+
+// Of the memory that an open file takes, and of its contents topic laid out, for each byte of the file.
+void MemoryOfFile(benchmark::State& state) {
+    const std::string bytes = HelpBytes();
+    for (auto _ : state) {
+        const double before = AllocatedBytes();
+        const auto file = HelpFile::open(bytes);
+        if (!file) return state.SkipWithError("VEXA_HELP_FILE names no help file");
+        FixedWidths measure(*file);
+        const Topic topic = file->topic(file->contentsTopic().value_or(0));
+        const TopicLayout layout = LayOutTopic({*file, topic, measure}, kWidth);
+        benchmark::DoNotOptimize(layout.scrolling.height);
+        state.counters["times_the_file"] = (AllocatedBytes() - before) / static_cast<double>(bytes.size());
+    }
+}
+BENCHMARK(MemoryOfFile)->Unit(benchmark::kMillisecond);
 
 void FollowJump(benchmark::State& state) {
     const auto file = HelpFile::open(HelpBytes());
