@@ -28,6 +28,14 @@ void CheckRegion(const topics::LaidRegion& region, const topics::LayoutSource& s
     TextBetween(source.topic, {}, end);
 }
 
+// Every page ends below its beginning, and none is higher than the paper.
+void CheckPages(const topics::LaidRegion& region) {
+    constexpr int kHeight = 200;
+    const std::vector<int> tops = PageTops(region, kHeight);
+    for (std::size_t i = 1; i < tops.size(); ++i)
+        Require(tops[i] > tops[i - 1] && tops[i] <= tops[i - 1] + kHeight);
+}
+
 void CheckTopic(const topics::HelpFile& file, const topics::Topic& topic) {
     topics::test::GridMeasure measure(file);
     const topics::LayoutSource source = {file, topic, measure};
@@ -35,6 +43,7 @@ void CheckTopic(const topics::HelpFile& file, const topics::Topic& topic) {
         const topics::TopicLayout layout = LayOutTopic(source, width);
         CheckRegion(layout.fixed, source);
         CheckRegion(layout.scrolling, source);
+        CheckPages(layout.scrolling);
     }
     for (const topics::PictureUse& picture : topic.pictures)
         topics::DecodePicture(file.pictureBytes(picture), 96);

@@ -8,6 +8,8 @@
 namespace vexa::topics {
 namespace {
 
+constexpr std::size_t kMostPages = 10'000;
+
 int Share(int part, int whole, int length) {
     return whole <= 0 ? 0 : static_cast<int>(static_cast<std::int64_t>(part) * length / whole);
 }
@@ -188,7 +190,7 @@ std::optional<int> TopOf(const LaidRegion& region, TextPosition position) {
 
 std::vector<int> PageTops(const LaidRegion& region, int height) {
     std::vector<int> tops = {0};
-    while (tops.back() < region.height) {
+    while (tops.back() < region.height && tops.size() <= kMostPages) {
         const int top = tops.back();
         const int bottom = region.height - top <= height ? region.height : PageEnd(region, top, top + height);
         tops.push_back(bottom);
