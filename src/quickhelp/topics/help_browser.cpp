@@ -157,6 +157,12 @@ std::optional<Colour> ShownTopic::background(bool isFixed) const {
 
 // ---- opening -----------------------------------------------------------------------------------------------------
 
+std::shared_ptr<const HelpFile> HelpBrowser::fileAt(const std::string& path) const {
+    const bool isShown = current_.file && EqualIgnoringCase(path, current_.path) && current_.file->stamp() &&
+                         current_.file->stamp() == platform::StampOf(path);
+    return isShown ? current_.file : Read(path);
+}
+
 BrowserOutcome HelpBrowser::open(const std::string& path, const std::shared_ptr<const HelpFile>& file,
                                  std::optional<std::uint32_t> offset) {
     if (!file || !offset) return BrowserOutcome::Nothing;
@@ -164,19 +170,22 @@ BrowserOutcome HelpBrowser::open(const std::string& path, const std::shared_ptr<
 }
 
 BrowserOutcome HelpBrowser::openContents(const std::string& path) {
-    const auto file = Read(path);
+    const auto file = fileAt(path);
     return open(path, file, file ? ContentsOf(*file) : std::nullopt);
 }
 
 BrowserOutcome HelpBrowser::openNumber(const std::string& path, std::int32_t number) {
-    const auto file = Read(path);
+    const auto file = fileAt(path);
     if (!file) return BrowserOutcome::Nothing;
     const auto offset = file->index().offsetOfNumber(number);
     return open(path, file, offset ? offset : ContentsOf(*file));
 }
 
 BrowserOutcome HelpBrowser::openKeyword(const std::string& path, std::string_view keyword) {
-    if (openContents(path) == BrowserOutcome::Nothing) return BrowserOutcome::Nothing;
+    const auto file = fileAt(path);
+    const bool isShown = file && file == current_.file;
+    if (!isShown && open(path, file, file ? ContentsOf(*file) : std::nullopt) == BrowserOutcome::Nothing)
+        return BrowserOutcome::Nothing;
     const auto best = BestKeyword(current_.file->index().keywords(), keyword);
     return best ? showKeyword(*best) : BrowserOutcome::Index;
 }

@@ -55,7 +55,8 @@ class HelpBrowser {
     using FindFile = std::function<std::optional<std::string>(const std::string& name, const std::string& from)>;
     explicit HelpBrowser(FindFile findFile) : findFile_(std::move(findFile)) {}
 
-    // Each reads the file anew. A failure leaves all as it was.
+    // Each reads the file, unless it is the one that is shown and has not changed since. A failure leaves all as it
+    // was.
     BrowserOutcome openContents(const std::string& path);
     // At a topic by the number that programs use, at the contents for an unknown one.
     BrowserOutcome openNumber(const std::string& path, std::int32_t number);
@@ -92,6 +93,7 @@ class HelpBrowser {
     friend struct MacroTable;  // the macros that are carried out
 
     TopicPlace placeIn(const ShownTopic& from, std::string_view name, std::string_view window) const;
+    std::shared_ptr<const HelpFile> fileAt(const std::string& path) const;
     BrowserOutcome open(const std::string& path, const std::shared_ptr<const HelpFile>& file,
                         std::optional<std::uint32_t> offset);
     BrowserOutcome lead(TopicPlace& place, const std::optional<std::uint32_t>& offset, LinkAction action);

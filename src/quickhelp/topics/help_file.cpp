@@ -46,9 +46,12 @@ std::unique_ptr<HelpFile> HelpFile::open(std::string bytes) {
 }
 
 std::unique_ptr<HelpFile> HelpFile::openPath(const std::string& path) {
+    const auto stamp = platform::StampOf(path);
     File file(path, platform::OpenMode::Read);
     auto bytes = file.readAll(kLargestHelpFile);
-    return bytes ? open(*std::move(bytes)) : nullptr;
+    auto opened = bytes ? open(*std::move(bytes)) : nullptr;
+    if (opened) opened->stamp_ = stamp;
+    return opened;
 }
 
 HelpFile::HelpFile(std::unique_ptr<HelpContainer> container, HelpSystem system)

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/platform.h"
 #include "quickhelp/topics/help_container.h"
 #include "quickhelp/topics/help_fonts.h"
 #include "quickhelp/topics/help_index.h"
@@ -27,6 +28,8 @@ class HelpFile {
     // None also when the file cannot be read.
     static std::unique_ptr<HelpFile> openPath(const std::string& path);
 
+    // Of the file when it was read; none for bytes.
+    const std::optional<platform::FileStamp>& stamp() const { return stamp_; }
     const HelpSystem& system() const { return system_; }
     const HelpIndex& index() const { return index_; }
     // A plain font for a number that the file has no font for.
@@ -65,6 +68,7 @@ class HelpFile {
     std::vector<HelpFont> fonts_;
     TopicLinks links_;
     std::vector<TopicStart> topics_;
+    std::optional<platform::FileStamp> stamp_;
 };
 
 }  // namespace vexa::topics

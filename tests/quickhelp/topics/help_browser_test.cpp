@@ -72,6 +72,21 @@ TEST_F(HelpBrowserTest, OpensAtContentsNumberAndKeyword) {
     EXPECT_EQ(browser.found()[1].title, "Second");
 }
 
+TEST_F(HelpBrowserTest, ReadsAFileAnewOnlyWhenItHasChanged) {
+    ASSERT_EQ(browser.openContents(path), BrowserOutcome::Show);
+    const HelpFile* first = browser.current()->file.get();
+    EXPECT_EQ(browser.openKeyword(path, "beta"), BrowserOutcome::Show);
+    EXPECT_EQ(browser.current()->file.get(), first);
+    EXPECT_EQ(browser.back(), BrowserOutcome::Show);
+    EXPECT_FALSE(browser.canGoBack());
+    folder.put("MADE.HLP", MakeHelpFile() + "longer");
+    EXPECT_EQ(browser.openKeyword(path, "beta"), BrowserOutcome::Show);
+    EXPECT_NE(browser.current()->file.get(), first);
+    folder.remove("MADE.HLP");
+    EXPECT_EQ(browser.openContents(path), BrowserOutcome::Nothing);
+    EXPECT_EQ(title(), "Second");
+}
+
 TEST_F(HelpBrowserTest, JumpsAndComesBack) {
     ASSERT_EQ(browser.openContents(path), BrowserOutcome::Show);
     EXPECT_FALSE(browser.canGoBack());
