@@ -65,9 +65,10 @@ function(vexa_small_sources)
   endif()
 endfunction()
 
-# Makes the program's unwind table smaller once it is linked.
+# Makes the program's unwind table smaller once it is linked. Its symbols, which would move, are left out.
 function(vexa_share_unwind_heads name)
   if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_link_options(${name} PRIVATE -s)
     set(script ${CMAKE_SOURCE_DIR}/cmake/share_unwind_heads.py)
     add_custom_command(TARGET ${name} POST_BUILD COMMAND /usr/bin/python3 -B ${script} $<TARGET_FILE:${name}> VERBATIM)
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${script})

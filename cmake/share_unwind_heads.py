@@ -135,7 +135,10 @@ def with_table(image, row, table):
 
 
 def shared(image):
-    row = next(row for row in section_rows(image, u32(image, 0x3C)) if image[row : row + 8] == SECTION)
+    header = u32(image, 0x3C)
+    if u32(image, header + 12):
+        sys.exit("the program has symbols, which would have to move, too: link it with -s")
+    row = next(row for row in section_rows(image, header) if image[row : row + 8] == SECTION)
     size, _, file_size, file_start = struct.unpack_from("<4I", image, row + 8)
     table = image[file_start : file_start + min(size, file_size)] + bytes(4)
     result = packed(records_of(table))
