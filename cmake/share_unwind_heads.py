@@ -2,7 +2,8 @@
 """Makes the unwind table of a linked 32-bit program smaller. The table has a record for each function, and each record
 refers to a head, which says how its numbers are written. The compiler writes a head for each inline function and each
 object file, and the linker keeps them all: here equal heads become one, and records follow each other without filling.
-The section keeps its address and its size in memory; only the file becomes shorter.
+The section keeps its address and its size in memory; only the file becomes shorter. What stands before the address from which
+the start-up code registers the table, the records of that code itself, stays as it is.
 
 usage: share_unwind_heads.py PROGRAM.EXE
 """
@@ -134,17 +135,51 @@ def with_table(image, row, table):
     return image
 
 
+def relocations(image, rows):
+    """The file positions of all addresses in the program."""
+    row = next(row for row in rows if image[row : row + 8] == b".reloc\0\0")
+    size, _, _, position = struct.unpack_from("<4I", image, row + 8)
+    end = position + size
+    while position < end and (block_size := u32(image, position + 4)):
+        page = u32(image, position)
+        for entry in struct.unpack_from(f"<{(block_size - 8) // 2}H", image, position + 8):
+            if entry >> 12:
+                yield file_position(image, rows, page + (entry & 0xFFF))
+        position += block_size
+
+
+def file_position(image, rows, address):
+    for row in rows:
+        _, start, file_size, file_start = struct.unpack_from("<4I", image, row + 8)
+        if start <= address < start + file_size:
+            return file_start + address - start
+    sys.exit(f"no section has the address {address:x}")
+
+
+def registered_start(image, rows, row):
+    """Where in the table's section the one address lies that the program refers to."""
+    size, start = struct.unpack_from("<2I", image, row + 8)
+    start += u32(image, u32(image, 0x3C) + 52)  # where the program is loaded
+    found = {u32(image, position) - start for position in relocations(image, rows)}
+    inside = {offset for offset in found if 0 <= offset < size}
+    if len(inside) != 1:
+        sys.exit(f"the program refers to {len(inside)} addresses of its unwind table")
+    return inside.pop()
+
+
 def shared(image):
     header = u32(image, 0x3C)
     if u32(image, header + 12):
         sys.exit("the program has symbols, which would have to move, too: link it with -s")
-    row = next(row for row in section_rows(image, header) if image[row : row + 8] == SECTION)
+    rows = section_rows(image, header)
+    row = next(row for row in rows if image[row : row + 8] == SECTION)
     size, _, file_size, file_start = struct.unpack_from("<4I", image, row + 8)
-    table = image[file_start : file_start + min(size, file_size)] + bytes(4)
+    table_start = file_start + registered_start(image, rows, row)
+    table = image[table_start : file_start + min(size, file_size)] + bytes(4)
     result = packed(records_of(table))
     if meaning(result) != meaning(table):
         sys.exit("the unwind table would no longer say the same")
-    return with_table(image, row, result)
+    return with_table(image, row, image[file_start:table_start] + result)
 
 
 def main():
