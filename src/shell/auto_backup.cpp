@@ -1,6 +1,7 @@
 #include "shell/auto_backup.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "base/ascii.h"
 #include "base/checksum.h"
@@ -78,7 +79,8 @@ bool AutoBackup::writeCopy(TextDocument& document) const {
 
 bool AutoBackup::isDue(TextDocument& document) const {
     const std::int64_t age = clock_() - BackupTime(document);
-    return age > 0 && age > options_.BackupInterval * kSecondsAMinute;
+    // A settings file may hold a number below 0; the options dialog takes one for its magnitude, too.
+    return age > 0 && age > std::abs(options_.BackupInterval * kSecondsAMinute);
 }
 
 bool AutoBackup::isOpen(const TextDocument* document) const {

@@ -96,6 +96,16 @@ TEST_F(AutoBackupTest, TheIntervalRestartsWithTheNextChange) {
     EXPECT_TRUE(takeBackup("one.c"));
 }
 
+TEST_F(AutoBackupTest, AnIntervalBelowZeroIsTakenForItsMagnitude) {
+    options_.BackupInterval = -4;
+    modify(one_);
+    checkAt(1000);
+    checkAt(1240);
+    EXPECT_FALSE(takeBackup("one.c"));
+    checkAt(1241);
+    EXPECT_TRUE(takeBackup("one.c"));
+}
+
 TEST_F(AutoBackupTest, NothingIsCopiedWhenSwitchedOffOrBusy) {
     modify(one_);
     checkAt(1000);
