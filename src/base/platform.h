@@ -45,12 +45,29 @@ std::optional<std::uint64_t> FileSize(FileHandle file);
 // Closes in every case; false if the operating system reports that something written was lost.
 bool CloseFile(FileHandle file);
 
+// The same while the program goes on, in a thread of the system where there are such. The file stays open and is not
+// used until the flush has ended; the destructor waits for that.
+class BackgroundFlush {
+  public:
+    explicit BackgroundFlush(FileHandle file);
+    ~BackgroundFlush();
+    BackgroundFlush(const BackgroundFlush&) = delete;
+    BackgroundFlush& operator=(const BackgroundFlush&) = delete;
+    // None while it goes on; then whether all has reached the device.
+    std::optional<bool> result() const;
+
+  private:
+    [[maybe_unused]] std::intptr_t thread_ = 0;  // the host needs none
+    bool done_ = false;
+};
+
 // What the system knows of a file.
 struct FileFacts {
     std::uint64_t volume = 0;     // with the index it tells the file from all others that exist at the time,
     std::uint64_t index = 0;      // whatever name it is reached by; 0 where the disk has no such numbers
     std::uint64_t writeTime = 0;  // to be compared with others alone: later is more
     bool isReadOnly = false;
+    std::uint64_t size = 0;
 };
 // None for what is missing or no file; a file that another program holds has facts all the same.
 std::optional<FileFacts> FactsOf(const std::string& path);

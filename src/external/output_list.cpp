@@ -10,6 +10,7 @@ bool OutputList::LoadCapture(const std::string& path, const std::string& errorPa
     if (!loadLines(path, added)) return false;
     if (!errorPath.empty()) loadLines(errorPath, added);
     addClosing({"", LoadText(TextId::CommandCompleted)});
+    belongTo(nullptr);
     show();
     return true;
 }

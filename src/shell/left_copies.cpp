@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "base/checksum.h"
 #include "base/directories.h"
-#include "base/file.h"
+#include "base/file_contents.h"
+#include "base/platform.h"
 #include "base/strings.h"
 #include "document/text/safety_copy.h"
 
@@ -12,28 +12,8 @@ namespace vexa {
 
 namespace {
 
-struct Contents {
-    std::uint64_t size;
-    std::uint64_t checksum;
-
-    bool operator==(const Contents&) const = default;
-};
-
-std::optional<Contents> ContentsOf(const std::string& path) {
-    File file(path, platform::OpenMode::Read);
-    std::string block(std::size_t{1} << 18, '\0');
-    Checksum checksum;
-    for (std::uint64_t size = 0;;) {
-        const std::optional<std::size_t> count = file.isOpen() ? file.read(block.data(), block.size()) : std::nullopt;
-        if (!count) return std::nullopt;
-        checksum.add({block.data(), *count});
-        size += *count;
-        if (*count < block.size()) return Contents{size, checksum.value()};
-    }
-}
-
 bool AreEqual(const std::string& a, const std::string& b) {
-    const std::optional<Contents> contents = ContentsOf(a);
+    const std::optional<FileContents> contents = ContentsOf(a);
     return contents && contents == ContentsOf(b);
 }
 

@@ -23,7 +23,9 @@ struct LineEnds {
 
 struct DiskState {
     std::optional<std::uint64_t> checksum;     // of the whole file; none when it is not known
-    std::optional<platform::FileFacts> facts;  // none when there is no file
+    std::optional<platform::FileFacts> facts;  // as last looked at; none when there is no file
+    // Of what another program has made of the file since, when the user has put his answer to that off.
+    std::optional<std::uint64_t> putOff;
     ContentsKind kind = ContentsKind::Text;
     LineEnds lineEnds;
     // Writing the document as it was loaded would give other bytes than the file has; looked at for what is no text.

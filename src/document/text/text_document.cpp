@@ -59,6 +59,8 @@ bool TextDocument::newEmpty() {
 
 bool TextDocument::load() {
     discardText();
+    // As they are before the reading: what another program writes meanwhile is then a change.
+    const auto facts = platform::FactsOf(path_);
     disk_ = {};
     File file;
     if (!path_.empty()) file = File(path_, platform::OpenMode::Read);
@@ -70,7 +72,7 @@ bool TextDocument::load() {
     }
     lines_.takeGrown();
     loaded_ = true;
-    disk_.facts = platform::FactsOf(path_);
+    disk_.facts = facts;
     disk_.changesUnedited = disk_.kind != ContentsKind::Text && changesWhenWritten();
     return true;
 }
@@ -102,7 +104,16 @@ WriteOutcome TextDocument::tryWrite(bool withoutCopy) {
 
 void TextDocument::countChange(std::int32_t step) {
     modifiedCount_ += step;
+    ++revision_;
     if (!isModified()) clearChangedLines();
+}
+
+void TextDocument::becomeAsLoaded(const TextDocument& other) {
+    disk_ = other.disk_;
+    linesWrapped_ = other.linesWrapped_;
+    truncated_ = other.truncated_;
+    clearModified();
+    clearChangedLines();
 }
 
 void TextDocument::clearChangedLines() {

@@ -77,6 +77,11 @@ class TextDocument {
     // Whether a line of a modified document is not as it was loaded or last saved; with every change undone, none is.
     bool isLineChanged(LineIndex index) const;
     void countChange(std::int32_t step);
+    // Another number after each change and each taking back.
+    std::uint32_t revision() const { return revision_; }
+    // The text has become that of another document, which was just loaded from the file of this name: this one is
+    // unmodified, and knows of the file what the other knows.
+    void becomeAsLoaded(const TextDocument& other);
 
     // ---- lines ----
 
@@ -155,6 +160,7 @@ class TextDocument {
     BackupState backup_;
     LineIndex currentLine_;
     std::int32_t modifiedCount_ = 0;
+    std::uint32_t revision_ = 0;
     bool loaded_ = false;
     bool named_ = false;
     bool linesWrapped_ = false;

@@ -80,6 +80,13 @@ bool ExternalCommands::openFileAtLine(const std::string& path, std::int32_t line
     return documents_.opening().OpenFileAtLine(path, line);
 }
 
+void ExternalCommands::showRows(DocumentWindow& window, const std::vector<std::string>& rows) {
+    output_.belongTo(&sourceOf(window));
+    for (const std::string& row : rows)
+        output_.AddLine(row);
+    outputWindow_.show();
+}
+
 void ExternalCommands::zoom(std::int32_t steps) {
     application_.font.zoom(steps);
     documents_.refreshFonts();

@@ -29,6 +29,8 @@ class ExternalCommands : private FileOpener, private ListHost {
     ListWindow* activeList() const;
     // For a timer of the frame, given by its number: asks whether a program has ended. False when it is none of these.
     bool useTimer(UINT_PTR timer);
+    // Shows rows that number lines of a document in the Output window.
+    void showRows(DocumentWindow& window, const std::vector<std::string>& rows);
     // A document's window is going to be closed.
     void documentCloses(const DocumentWindow& window);
 

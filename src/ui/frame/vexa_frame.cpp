@@ -29,7 +29,8 @@ VexaFrame::VexaFrame(Application& application)
       session_(documents_, application, notices_),
       outside_(documents_, notices_),
       backup_(documents_, application.options, application.directories.GetDirectory(kBackupDirectory), notices_,
-              &platform::CurrentSeconds) {
+              &platform::CurrentSeconds),
+      unsaved_(documents_, commands_.external(), application, notices_) {
     bars_.registerCommands(commands_.dispatcher());
     session_.registerCommands(commands_.dispatcher());
 }
@@ -43,10 +44,12 @@ bool VexaFrame::open(int showCommand) {
     session_.restorePlacement(showCommand);
     UpdateWindow(window());
     SetTimer(window(), kBackupTimer, kBackupCheckInterval, nullptr);
+    unsaved_.start();
     return true;
 }
 
 void VexaFrame::openFirstFiles(std::span<const FileAtLine> files, bool isBareStart) {
+    unsaved_.offerRecovery();
     session_.openFirstFiles(files);
     if (children().empty() && isBareStart) documents_.opening().OpenFileAtLine(std::nullopt, 0);
 }
@@ -78,9 +81,16 @@ void VexaFrame::onDestroy() {
 
 bool VexaFrame::onQueryEndSession(bool& agreed) {
     session_.prepareEnd();
+    unsaved_.keepAll();  // the system does not wait for the user's answers for ever
     agreed = takesCommands() && mayCloseChildren();
     if (!agreed) session_.takeBackEnd();
     return true;
+}
+
+// Nothing that is not saved by now can be; the next start offers it.
+void VexaFrame::onEndSession(bool ends) {
+    if (ends) unsaved_.keepAll();
+    session_.end(ends);
 }
 
 // ---- the system --------------------------------------------------------------------------------------------------
@@ -103,7 +113,7 @@ bool VexaFrame::onTimer(UINT_PTR timer) {
     if (timer == kSettingsTimer) {
         KillTimer(window(), kSettingsTimer);
         takeSystemSettings();
-    } else if (!commands_.external().useTimer(timer)) {
+    } else if (!unsaved_.useTimer(timer) && !commands_.external().useTimer(timer)) {
         backup_.CheckBackups();
     }
     return true;
@@ -140,7 +150,7 @@ bool VexaFrame::workWhileIdle() {
     constexpr std::int32_t kLinesAtOnce = 2000;
     bool hasMore = false;
     documents_.each([&](DocumentWindow& window) { hasMore |= window.document().lookAheadForComments(kLinesAtOnce); });
-    return hasMore;
+    return unsaved_.work() || hasMore;
 }
 
 // ---- commands and status -----------------------------------------------------------------------------------------
@@ -198,6 +208,7 @@ void VexaFrame::childrenChanged() {
 void VexaFrame::documentCloses(const DocumentWindow& window) {
     commands_.external().documentCloses(window);
     session_.documentCloses(window.document());
+    unsaved_.documentCloses(window);
 }
 
 void VexaFrame::showContextMenu(POINT screenPlace) {

@@ -18,6 +18,7 @@
 #include "ui/frame/open_documents.h"
 #include "ui/frame/outside_files.h"
 #include "ui/frame/session.h"
+#include "ui/frame/unsaved_work.h"
 
 namespace vexa {
 
@@ -42,7 +43,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     bool onCreate() override;
     void onDestroy() override;
     bool onQueryEndSession(bool& agreed) override;
-    void onEndSession(bool ends) override { session_.end(ends); }
+    void onEndSession(bool ends) override;
     void onSettingChange() override;
     bool onDpiChanged(const RECT& suggested) override;
     bool onSetCursor(UINT hitTest) override;
@@ -51,7 +52,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     bool onTimer(UINT_PTR timer) override;
     void onFailed() override;
     bool onDropFiles(const std::vector<std::string>& names) override;
-    bool onOther(Message& message) override { return outside_.receive(message); }
+    bool onOther(Message& message) override { return outside_.receive(message) || unsaved_.receive(message); }
     void onFree() override { documents_.openWaitingSoon(); }
 
     void runCommand(WORD id, bool fromKey) override;
@@ -87,6 +88,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     Session session_;
     OutsideFiles outside_;
     AutoBackup backup_;
+    UnsavedWork unsaved_;
 };
 
 }  // namespace vexa

@@ -23,6 +23,7 @@
 #define IDD_PROGRAM_ARGUMENTS 3310
 #define IDD_TOOLS 3320
 #define IDD_COMPILER_SETUP 3330
+#define IDD_DOCUMENT_CHOICE 3340
 
 // The one field of the dialogs that ask for a number.
 #define IDC_NUMBER 101
@@ -164,3 +165,9 @@
 #define IDC_COMPILER_MINIMISED 1707
 #define IDC_COMPILER_COMMAND 1708
 #define IDC_COMPILER_TEST 1709
+
+// Unsaved Changes, Changed by Another Program
+#define IDC_CHOICE_EXPLANATION 1801
+#define IDC_CHOICE_ROWS 1802
+#define IDC_CHOICE_SECOND 1803
+#define IDC_CHOICE_THIRD 1804

@@ -151,6 +151,14 @@ bool FlushFile(FileHandle file) {
     return Insist([&] { return fsync(Descriptor(file)); }) == 0;
 }
 
+BackgroundFlush::BackgroundFlush(FileHandle file) : done_(FlushFile(file)) {}
+
+BackgroundFlush::~BackgroundFlush() = default;
+
+std::optional<bool> BackgroundFlush::result() const {
+    return done_;
+}
+
 std::optional<std::uint64_t> FileSize(FileHandle file) {
     struct stat info;
     if (fstat(Descriptor(file), &info) != 0) return std::nullopt;
@@ -165,7 +173,8 @@ bool CloseFile(FileHandle file) {
 std::optional<FileFacts> FactsOf(const std::string& path) {
     const auto info = StatusOf(HostPath(path));
     if (!info || !S_ISREG(info->st_mode)) return std::nullopt;
-    return FileFacts{info->st_dev, info->st_ino, WriteTimeOf(*info), (info->st_mode & S_IWUSR) == 0};
+    return FileFacts{info->st_dev, info->st_ino, WriteTimeOf(*info), (info->st_mode & S_IWUSR) == 0,
+                     static_cast<std::uint64_t>(info->st_size)};
 }
 
 std::optional<FileStamp> StampOf(const std::string& path) {

@@ -1,0 +1,88 @@
+#include "shell/unsaved/recovery_file.h"
+
+#include <cstring>
+#include <utility>
+
+#include "base/checksum.h"
+#include "base/file.h"
+#include "base/file_contents.h"
+#include "base/file_name.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr std::size_t kLargest = std::size_t{1} << 28;
+constexpr std::string_view kCtrlZ = "\x1A";
+
+// The checksum of the lines as a save writes them; of bytes, with a Ctrl-Z behind them.
+std::uint64_t ChecksumWhenSaved(const LineViews& lines, bool bytes) {
+    Checksum checksum;
+    const bool endsInCtrlZ = lines.back().ends_with(kCtrlZ);
+    for (const std::string_view& line : lines) {
+        checksum.add(line);
+        const bool isLast = &line == &lines.back();
+        if (!(bytes && isLast && endsInCtrlZ)) checksum.add(bytes ? "\n" : "\r\n");
+    }
+    if (bytes && !endsInCtrlZ) checksum.add(kCtrlZ);
+    return checksum.value();
+}
+
+}  // namespace
+
+std::string RecoveryBeginning(const TextDocument& document) {
+    const DiskState& disk = document.disk();
+    RecoveryHead head;
+    head.isFileKnown = disk.checksum && disk.facts;
+    head.fileChecksum = disk.checksum.value_or(0);
+    if (disk.facts) head.fileSize = disk.facts->size;
+    if (disk.facts) head.fileWriteTime = disk.facts->writeTime;
+    head.caretLine = document.currentLine().value;
+    head.pathLength = static_cast<std::uint32_t>(document.fullPath().size());
+    std::string bytes(sizeof head, '\0');
+    std::memcpy(bytes.data(), &head, sizeof head);
+    return bytes += document.fullPath();
+}
+
+void SealRecovery(std::string& bytes, std::uint64_t checksum) {
+    std::memcpy(bytes.data() + sizeof(RecoveryHead::mark), &checksum, sizeof checksum);
+}
+
+LineViews RecoveredText::lines() const {
+    LineViews lines;
+    std::string_view rest = bytes;
+    rest.remove_prefix(sizeof(RecoveryHead) + head.pathLength);
+    do {
+        const std::size_t length = std::min(rest.find('\n'), rest.size());
+        lines.push_back(rest.substr(0, length));
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    } while (!rest.empty());
+    return lines;
+}
+
+std::optional<RecoveredText> ReadRecoveryText(std::string bytes) {
+    RecoveryHead head;
+    if (bytes.size() < sizeof head) return std::nullopt;
+    std::memcpy(&head, bytes.data(), sizeof head);
+    const bool isWhole = head.mark == RecoveryHead::kMark && head.pathLength <= bytes.size() - sizeof head &&
+                         head.checksum == ChecksumOf(std::string_view(bytes).substr(kUncounted));
+    if (!isWhole) return std::nullopt;
+    return RecoveredText{head, std::move(bytes)};
+}
+
+std::optional<RecoveredText> ReadRecoveryFile(const std::string& path) {
+    File file(path, platform::OpenMode::Read);
+    auto bytes = file.isOpen() ? file.readAll(kLargest) : std::nullopt;
+    return bytes ? ReadRecoveryText(std::move(*bytes)) : std::nullopt;
+}
+
+bool IsTextOfFile(const RecoveredText& recovered) {
+    const std::string path = recovered.path();
+    const auto contents = IsFullName(path) ? ContentsOf(path) : std::nullopt;
+    if (!contents) return false;
+    const LineViews lines = recovered.lines();
+    return contents->checksum == ChecksumWhenSaved(lines, false) ||
+           contents->checksum == ChecksumWhenSaved(lines, true);
+}
+
+}  // namespace vexa
