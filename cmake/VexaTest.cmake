@@ -20,3 +20,18 @@ function(vexa_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
+
+# Compiles files of cases into a test program, so that it needs no files beside it on any platform: OUTPUT, which the
+# program includes, holds a row with topic and content for each.
+function(vexa_embed_cases target output pattern)
+  file(GLOB case_files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${pattern})
+  set(embedded "")
+  foreach(case_file ${case_files})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${case_file})
+    get_filename_component(topic ${case_file} NAME_WE)
+    file(READ ${case_file} content)
+    string(APPEND embedded "{\"${topic}\", R\"CASES(${content})CASES\"},\n")
+  endforeach()
+  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${output} CONTENT "@embedded@" @ONLY)
+  target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+endfunction()

@@ -191,12 +191,14 @@ LONG Editor::paneWidth(std::size_t index) const {
     return area.right - area.left;
 }
 
-bool Editor::showsMessage(const std::string& text) const {
-    return WaitUntil([&] { return message() == text; });
+int Editor::line() const {
+    int line = 0;
+    std::sscanf(position().c_str(), " L:%d", &line);
+    return line;
 }
 
-bool Editor::showsMode(const std::string& text) const {
-    return WaitUntil([&] { return mode() == text; });
+bool Editor::showsMessage(const std::string& text) const {
+    return WaitUntil([&] { return message() == text; });
 }
 
 bool Editor::showsPosition(int line, int column) const {
@@ -243,7 +245,20 @@ void Editor::keys(const std::string& script) const {
     PressKeys(script);
 }
 
+void Editor::settle() const {
+    constexpr int kLooks = 5;
+    RECT before{};
+    WaitUntil([&] {
+        RECT now{};
+        GetWindowRect(activePane(), &now);
+        if (sameLooks_ < kLooks) sameLooks_ = EqualRect(&now, &before) ? sameLooks_ + 1 : 0;
+        before = now;
+        return sameLooks_ == kLooks;
+    });
+}
+
 void Editor::dragWithAlt(POINT from, POINT to) const {
+    settle();
     moveMouse(from, 0);
     ClientToScreen(activePane(), &from);
     ClientToScreen(activePane(), &to);
@@ -274,12 +289,19 @@ void Editor::doubleClick(POINT place) const {
     drag({place});
 }
 
+void Editor::tripleClick(POINT place) const {
+    doubleClick(place);
+    drag({place});
+}
+
 void Editor::rightClick(POINT place) const {
+    settle();
     moveMouse(place, MOUSEEVENTF_RIGHTDOWN);
     moveMouse(place, MOUSEEVENTF_RIGHTUP);
 }
 
 void Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile) const {
+    settle();
     moveMouse(places.front(), 0);
     moveMouse(places.front(), MOUSEEVENTF_LEFTDOWN);
     for (const POINT place : places)

@@ -65,15 +65,14 @@ class Editor {
 
     // In pixels; 0 for one without a text.
     LONG paneWidth(std::size_t index) const;
+    std::string pane(std::size_t index) const { return TextOf(paneWindow(index)); }
     std::string message() const { return pane(0); }
     std::string recording() const { return pane(1); }
-    std::string readOnly() const { return pane(2); }
-    std::string lineEnds() const { return pane(3); }
     std::string mode() const { return pane(4); }
     std::string position() const { return pane(5); }
+    int line() const;  // of the position
     // Each waits until the text is there.
     bool showsMessage(const std::string& text) const;
-    bool showsMode(const std::string& text) const;
     bool showsPosition(int line, int column) const;
 
     // ---- doing ----
@@ -89,6 +88,7 @@ class Editor {
     // Presses the left button at a place of the active pane, in pixels, and lets it go at the last of the places.
     void click(POINT place) const;
     void doubleClick(POINT place) const;
+    void tripleClick(POINT place) const;
     void rightClick(POINT place) const;
     // Moves the mouse to a place of the active pane.
     void point(POINT place) const;
@@ -113,13 +113,16 @@ class Editor {
 
   private:
     HWND paneWindow(std::size_t index) const;
-    std::string pane(std::size_t index) const { return TextOf(paneWindow(index)); }
     HWND findFrame() const;
+    // Waits, before the mouse is first used, until the active pane has stood still for some looks: the first layout may
+    // come late.
+    void settle() const;
     // A place of the active pane; the flags say which button goes up or down there.
     void moveMouse(POINT place, DWORD flags) const;
 
     StartedProgram program_;
     HWND frame_ = nullptr;
+    mutable int sameLooks_ = 0;
 };
 
 }  // namespace vexa::test

@@ -35,29 +35,6 @@ class InstanceTest : public ::testing::Test {
     TestFolder folder;
 };
 
-TEST_F(InstanceTest, SecondStartHandsItsFileAndLineOver) {
-    const Editor first(folder);
-    ASSERT_TRUE(first.hasCaption("[untitled.txt]"));
-    ASSERT_TRUE(startAgain("a.c -L20"));
-    EXPECT_TRUE(first.hasCaption("a.c]"));
-    EXPECT_TRUE(first.showsPosition(20, 1));
-    EXPECT_TRUE(WaitUntil([&] { return !folder.has("VEXACMD.DAT"); }));
-    ASSERT_TRUE(startAgain("a.c -L7"));  // moves the caret of the window that has the file
-    EXPECT_TRUE(first.showsPosition(7, 1));
-    EXPECT_TRUE(has(first, 2));
-    ASSERT_TRUE(startAgain("a.c -l5"));  // only the large letter is told from a part of the name
-    EXPECT_TRUE(first.hasCaption("A.C -L5]"));
-}
-
-TEST_F(InstanceTest, MinimisedEditorComesBackUp) {
-    const Editor first(folder);
-    ShowWindow(first.frame(), SW_MINIMIZE);
-    ASSERT_TRUE(WaitUntil([&] { return IsIconic(first.frame()); }));
-    ASSERT_TRUE(startAgain("\"long name.c\""));
-    EXPECT_TRUE(WaitUntil([&] { return !IsIconic(first.frame()); }));
-    EXPECT_TRUE(first.hasCaption("LONG NAME.C]"));
-}
-
 TEST_F(InstanceTest, SeveralFilesWildcardsOrNoneStartAnotherEditor) {
     const Editor first(folder);
     const Editor second(folder, {"a.c", "b.c"});
@@ -113,21 +90,6 @@ TEST_F(InstanceTest, BroadcastsWithoutAFileShowOneBoxAtATime) {
     ASSERT_TRUE(Press(box, IDOK));
     ASSERT_TRUE(editor.answers());
     EXPECT_FALSE(editor.hasDialog());
-}
-
-TEST_F(InstanceTest, HandOffBehindADialogWaitsForItsEnd) {
-    const Editor first(folder, {"b.c"});
-    first.command(CommandId::GotoLine);
-    const HWND dialog = first.dialog("Goto Line");
-    ASSERT_TRUE(dialog);
-    ASSERT_TRUE(startAgain("a.c"));
-    EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == dialog; }));
-    EXPECT_EQ(first.documents().size(), 1u);
-    first.keys("7{Enter}");
-    EXPECT_TRUE(first.hasCaption("a.c]"));
-    first.keys("typed ");
-    EXPECT_TRUE(first.hasCaption("a.c *]"));
-    EXPECT_TRUE(first.showsPosition(1, 7));
 }
 
 TEST_F(InstanceTest, OtherProgramsOpenFilesByDde) {

@@ -33,6 +33,7 @@ constexpr NamedKey kNamedKeys[] = {
     {"F12", VK_F12, false},        {"F13", VK_F13, false},
     {"F14", VK_F14, false},        {"F15", VK_F15, false},
     {"F16", VK_F16, false},        {"F17", VK_F17, false},
+    {"Menu", VK_APPS, true},
 };
 
 struct Modifier {

@@ -2,12 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <iterator>
 #include <random>
 #include <set>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/ui_case.h"
 
 namespace vexa::test {
 namespace {
@@ -18,35 +22,14 @@ unsigned FromEnvironment(const char* name, unsigned otherwise) {
 }
 
 // Commands that ask nothing, close nothing and write no file.
-constexpr CommandId kCommands[] = {CommandId::Undo,
-                                   CommandId::Undo,
-                                   CommandId::Redo,
-                                   CommandId::Cut,
-                                   CommandId::Copy,
-                                   CommandId::Paste,
-                                   CommandId::Clear,
-                                   CommandId::SelectAll,
-                                   CommandId::FindNext,
-                                   CommandId::FindPrevious,
-                                   CommandId::PlayMacro,
-                                   CommandId::RecordMacro,
-                                   CommandId::ToggleToolBar,
-                                   CommandId::ToggleStatusBar,
-                                   CommandId::ArrangeIcons,
-                                   CommandId::Cascade,
-                                   CommandId::Tile,
-                                   CommandId::TileVertically,
-                                   CommandId::TileHorizontally,
-                                   CommandId::NextWindow,
-                                   CommandId::PreviousWindow,
-                                   CommandId::ToggleCase,
-                                   CommandId::LowerCase,
-                                   CommandId::UpperCase,
-                                   CommandId::MatchingBracket,
-                                   CommandId::WindowStart,
-                                   CommandId::WindowEnd,
-                                   CommandId::DocumentStart,
-                                   CommandId::DocumentEnd};
+std::vector<std::string> CommandNames() {
+    std::istringstream names(
+        "Undo Undo Redo Cut Copy Paste Clear SelectAll FindNext FindPrevious PlayMacro RecordMacro "
+        "ToggleToolBar ToggleStatusBar ArrangeIcons Cascade Tile TileVertically TileHorizontally NextWindow "
+        "PreviousWindow ToggleCase LowerCase UpperCase MatchingBracket WindowStart WindowEnd DocumentStart "
+        "DocumentEnd");
+    return {std::istream_iterator<std::string>(names), {}};
+}
 
 constexpr const char* kKeys[] = {
     "word ",       "{Enter}",      "x",        "{Backspace}",      "{Del}",
@@ -74,7 +57,7 @@ class Soak : public ::testing::Test {
                 return true;
             case 1:
             case 2:
-                return editor.runCommand(kCommands[below(std::size(kCommands))]);
+                return editor.runCommand(CommandNamed(commands_[below(commands_.size())]));
             default:
                 editor.keys(kKeys[below(std::size(kKeys))]);
                 return true;
@@ -124,6 +107,7 @@ class Soak : public ::testing::Test {
     }
 
     TestFolder folder;
+    const std::vector<std::string> commands_ = CommandNames();
     std::mt19937 random_{FromEnvironment("VEXA_SOAK_SEED", 1)};
 };
 

@@ -47,6 +47,7 @@ TestFolder::TestFolder() {
     GetTempPathA(sizeof temporary, temporary);
     path_ = std::string(temporary) + "vexa-ui-" + std::to_string(GetCurrentProcessId()) + "-" +
             std::to_string(NextNumber());
+    if (fs::exists(path_)) RemoveAll(path_);  // what a run of that number has left behind that was killed
     fs::create_directories(path_);
     fs::copy_file(ProgramUnderTest(), program());
     putFromProgramFolder("VexaDOS.PIF");
@@ -77,11 +78,6 @@ void TestFolder::put(const std::string& name, const std::string& bytes) const {
 std::string TestFolder::get(const std::string& name) const {
     std::ifstream file(path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-std::string TestFolder::getOnce(const std::string& name, const std::string& expected) const {
-    WaitUntil([&] { return get(name) == expected; });
-    return get(name);
 }
 
 bool TestFolder::has(const std::string& name) const {

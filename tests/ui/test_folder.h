@@ -22,8 +22,6 @@ class TestFolder {
     void put(const std::string& name, const std::string& bytes) const;
     // Empty for a missing file.
     std::string get(const std::string& name) const;
-    // The file as soon as it holds what is expected, or as it is when that never happens.
-    std::string getOnce(const std::string& name, const std::string& expected) const;
     bool has(const std::string& name) const;
     void setReadOnly(const std::string& name) const;
     void makeDirectory(const std::string& name) const;

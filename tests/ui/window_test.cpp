@@ -1,7 +1,9 @@
 // The document windows inside the frame.
 #include <gtest/gtest.h>
 
+#include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/resources/dialog_controls.h"
 
 namespace vexa::test {
 namespace {
@@ -26,25 +28,6 @@ class WindowTest : public ::testing::Test {
 
     TestFolder folder;
 };
-
-TEST_F(WindowTest, FilesOpenInOrderAndTheKeysGoRoundThem) {
-    const Editor editor(folder, {"a.txt", "b.txt", "c.txt"});
-    const std::string directory = " - " + folder.path();
-    ASSERT_TRUE(WaitUntil([&] { return TextOf(editor.frame()) == "Vexa 95 - [c.txt" + directory + "]"; }));
-    ASSERT_EQ(editor.documents().size(), 3u);
-    // The next window is the one that was active before.
-    for (const char* next : {"b.txt]", "a.txt]", "c.txt]"}) {
-        editor.keys("{Alt+N}");
-        EXPECT_TRUE(editor.hasCaption(next)) << next;
-    }
-    editor.keys("{Alt+Minus}");
-    EXPECT_TRUE(editor.hasCaption("a.txt]"));
-    editor.keys("{Alt+N}");
-    EXPECT_TRUE(editor.hasCaption("c.txt]"));
-    editor.keys("x");
-    EXPECT_TRUE(editor.hasCaption("c.txt *]"));  // the keyboard went with the window
-    EXPECT_EQ(TextOf(editor.activeDocument()), "c.txt *" + directory);
-}
 
 TEST_F(WindowTest, WindowsAreArrangedByTheWindowMenu) {
     setDisplayMode(9);
@@ -120,6 +103,25 @@ TEST_F(WindowTest, ResizingTheFrameResizesWhatIsInIt) {
     SetWindowPos(editor.frame(), nullptr, 0, 0, 60, 40, SWP_NOMOVE | SWP_NOZORDER);  // no room for anything
     editor.keys("x");
     EXPECT_TRUE(editor.hasCaption("a.txt *]"));
+}
+
+TEST_F(WindowTest, LineNumbersInTheMarginTakeRoomFromTheText) {
+    const Editor editor(folder, {"a.txt"});
+    editor.keys("{Alt+4}{Down}x{Enter}");
+    ASSERT_TRUE(editor.showsPosition(3, 1));
+    editor.takePicture("margin");
+    editor.command(CommandId::ChangeOptions);
+    const HWND dialog = editor.dialog("Editor Options");
+    ASSERT_TRUE(dialog);
+    RECT before;
+    GetClientRect(editor.activePane(), &before);
+    SendMessageA(GetDlgItem(dialog, IDC_LINE_NUMBERS), BM_CLICK, 0, 0);
+    ASSERT_TRUE(Press(dialog, IDOK));
+    EXPECT_TRUE(WaitUntil([&] {
+        RECT after;
+        GetClientRect(editor.activePane(), &after);
+        return after.right > before.right;
+    }));
 }
 
 }  // namespace
