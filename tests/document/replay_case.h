@@ -17,8 +17,12 @@
 // done again, which must bring back the last.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
+
+#include "document/view/edit_view.h"
+#include "support/recording_notices.h"
 
 namespace vexa::test {
 
@@ -35,11 +39,28 @@ struct ReplayCase {
     std::string options;
     std::vector<std::string> before;
     std::vector<ReplayStep> steps;
+
+    // How GoogleTest names a case in its messages.
+    friend void PrintTo(const ReplayCase& replayCase, std::ostream* out) { *out << replayCase.name; }
+};
+
+// Where a case runs: what its options and its keys mean.
+class ReplaySession {
+  public:
+    virtual ~ReplaySession() = default;
+    virtual void setOptions(const std::string& options) = 0;
+    virtual void run(const std::string& keys) = 0;
+    virtual EditView& view() = 0;
+    virtual const RecordingNotices& notices() const = 0;
+    virtual std::string clipboard() const { return {}; }
 };
 
 std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::string& content);
 
 // Runs a case and reports its failures to GoogleTest.
-void RunReplayCase(const ReplayCase& replayCase);
+void RunReplayCase(const ReplayCase& replayCase, ReplaySession& session);
+
+// Presses a key, which is written as in a case, or runs a command of the view.
+void PressWord(EditView& view, std::string word);
 
 }  // namespace vexa::test

@@ -3,7 +3,7 @@
 //   # Overlapping occurrences       its name
 //   find "aa" case                  the options: texts as typed, and words of the table below
 //   < |aaaa                         the document before
-//   Next                            commands, words of the table below, with a count: Next*2; or further options
+//   Next                            commands, words of the table below, with a count: Next*2; or further options, keys
 //   > {|aa}aa                       the document after
 //   ! Search completed.             the last text on the status line; "none" when nothing has been shown
 //
@@ -15,42 +15,16 @@
 #include <map>
 
 #include "document/replay_case.h"
-#include "document/shown_document.h"
 #include "search/find_session.h"
+#include "support/case_files.h"
 
 namespace vexa::test {
 
-void PrintTo(const ReplayCase& replayCase, std::ostream* out) {
-    *out << replayCase.name;
-}
-
 namespace {
 
-struct CaseFile {
-    const char* topic;
-    const char* content;
-};
-
-const CaseFile kFiles[] = {
+constexpr CaseFile kFiles[] = {
 #include "find_cases.inc"
 };
-
-std::vector<ReplayCase> AllCases() {
-    std::vector<ReplayCase> all;
-    for (const CaseFile& file : kFiles) {
-        for (ReplayCase& one : ParseReplayCases(file.topic, file.content))
-            all.push_back(std::move(one));
-    }
-    return all;
-}
-
-void Press(FindSession& session, std::uint16_t key, bool shift = false, bool alt = false) {
-    KeyEvent event;
-    event.key = key;
-    event.shift = shift;
-    event.alt = alt;
-    session.view.key(event);
-}
 
 using Word = std::function<void(FindSession&)>;
 
@@ -69,23 +43,14 @@ const std::map<std::string, Word>& Words() {
         {"Find", [](FindSession& s) { s.commands.find(&s.view); }},
         {"Replace", [](FindSession& s) { s.commands.replace(&s.view); }},
         {"ToggleCase", [](FindSession& s) { s.commands.toggleMatchCase(); }},
-        {"ToggleRegexp", [](FindSession& s) { s.commands.toggleRegularExpression(); }},
-        {"Undo", [](FindSession& s) { s.view.undo(); }},
-        {"Redo", [](FindSession& s) { s.view.redo(); }},
-        {"Esc", [](FindSession& s) { Press(s, kKeyEscape); }},
-        {"Home", [](FindSession& s) { Press(s, kKeyHome); }},
-        {"Right", [](FindSession& s) { Press(s, kKeyRight); }},
-        {"Down", [](FindSession& s) { Press(s, kKeyDown); }},
-        {"Delete", [](FindSession& s) { Press(s, kKeyDelete); }},
-        {"Shift+Right", [](FindSession& s) { Press(s, kKeyRight, true); }},
-        {"Alt+L", [](FindSession& s) { Press(s, 'L', false, true); }}};
+        {"ToggleRegexp", [](FindSession& s) { s.commands.toggleRegularExpression(); }}};
     return words;
 }
 
 void RunWord(FindSession& session, const std::string& word) {
     const std::size_t star = std::min(word.find('*'), word.size());
     const auto found = Words().find(word.substr(0, star));
-    ASSERT_TRUE(found != Words().end()) << "unknown word " << word;
+    if (found == Words().end()) return PressWord(session.view, word);
     for (int count = star < word.size() ? std::stoi(word.substr(star + 1)) : 1; count > 0; --count)
         found->second(session);
 }
@@ -110,51 +75,26 @@ void RunLine(FindSession& session, const std::string& line) {
     }
 }
 
-std::string StatusOf(const FindSession& session) {
-    return session.notices.statuses.empty() ? "none" : session.notices.lastStatus();
-}
+class SearchingSession : public ReplaySession {
+  public:
+    void setOptions(const std::string& options) override { RunLine(session_, options); }
+    void run(const std::string& keys) override { RunLine(session_, keys); }
+    EditView& view() override { return session_.view; }
+    const RecordingNotices& notices() const override { return session_.notices; }
 
-void CheckUndoAndRedo(FindSession& session, const std::vector<std::string>& before) {
-    const std::vector<std::string> after = ShowDocument(session.document);
-    int commands = 0;
-    for (; !session.document.history().isEmpty(); ++commands)
-        session.view.undo();
-    EXPECT_EQ(Joined(ShowDocument(session.document)), Joined(before)) << "when everything is undone";
-    EXPECT_FALSE(session.document.isModified()) << "when everything is undone";
-    for (; commands > 0; --commands)
-        session.view.redo();
-    EXPECT_EQ(Joined(ShowDocument(session.document)), Joined(after)) << "when everything is done again";
-}
+  private:
+    FindSession session_;
+};
 
 class FindCases : public testing::TestWithParam<ReplayCase> {};
 
 TEST_P(FindCases, Case) {
-    SCOPED_TRACE(GetParam().topic + ": " + GetParam().name);
-    FindSession session;
-    FillDocument(session.document, GetParam().before);
-    RunLine(session, GetParam().options);
-    const std::vector<std::string> before = ShowDocument(session.document);
-    for (const ReplayStep& step : GetParam().steps) {
-        RunLine(session, step.keys);
-        if (!step.expected.empty()) {
-            EXPECT_EQ(Joined(ShowDocument(session.document)), Joined(step.expected)) << "after: " << step.keys;
-        }
-        if (!step.status.empty()) {
-            EXPECT_EQ(StatusOf(session), step.status) << "after: " << step.keys;
-        }
-    }
-    CheckUndoAndRedo(session, before);
+    SearchingSession session;
+    RunReplayCase(GetParam(), session);
 }
 
-std::string CaseName(const testing::TestParamInfo<ReplayCase>& info) {
-    std::string name = info.param.topic + "_" + info.param.name;
-    for (char& c : name) {
-        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-    }
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Search, FindCases, testing::ValuesIn(AllCases()), CaseName);
+INSTANTIATE_TEST_SUITE_P(Search, FindCases, testing::ValuesIn(CasesOf<ReplayCase>(kFiles, &ParseReplayCases)),
+                         &CaseName<testing::TestParamInfo<ReplayCase>>);
 
 }  // namespace
 }  // namespace vexa::test
