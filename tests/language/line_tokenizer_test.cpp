@@ -6,11 +6,16 @@
 
 #include "language/block_comment.h"
 #include "language/token_text.h"
+#include "support/case_files.h"
 
 namespace vexa {
 namespace {
 
 using test::ColoursOf;
+
+constexpr test::CaseFile kFiles[] = {
+#include "language_cases.inc"
+};
 
 struct Case {
     std::string_view line;
@@ -34,31 +39,10 @@ TEST(LineTokenizer, TheEndOfTheLineHasNoText) {
     }
 }
 
-TEST(LineTokenizer, CutsWordsNumbersAndSymbols) {
-    ExpectColours(ExtensionProfile(), {
-                                          {"x = 0x1F;", "wyyynnnny"},
-                                          {"0X1F", "nnnn"},
-                                          {"1.5e+3", "nnnnyn"},
-                                          {"12345678L", "nnnnnnnnw"},
-                                          {"a\t\tb", "wttw"},
-                                          {"a/b", "www"},
-                                          {"a / b", "wywyw"},
-                                          {"\xE4\xF6_\x01", "wwww"},
-                                      });
-}
-
-TEST(LineTokenizer, KeywordsMatchExactlyAndEndAtADelimiter) {
-    ExpectColours(ExtensionProfile(), {
-                                          {"int_max", "wwwwwww"},
-                                          {"int(", "kkky"},
-                                          {"int", "kkk"},
-                                          {"int\tx", "kkktw"},
-                                          {"Int", "www"},
-                                          {"in ints", "wwywwww"},
-                                          // The word ends at the marker, whose first character is no delimiter.
-                                          {"int/* */", "wwwccccc"},
-                                          {"int \"", "kkkys"},
-                                      });
+TEST(LineTokenizer, ColoursLinesOfTheBuiltInProfile) {
+    const TokenRules rules{ExtensionProfile()};
+    for (const test::Cells& row : test::RowsOf(kFiles, "builtin"))
+        EXPECT_EQ(ColoursOf(rules, row.at(0)), row.at(1)) << row.at(0);
 }
 
 TEST(LineTokenizer, ALongWordIsNoKeywordForItsFirstTwentyCharacters) {
@@ -78,33 +62,6 @@ TEST(LineTokenizer, KeywordsAreFoundInWhateverOrderTheyAreListed) {
                             {"\xFC"
                              "ber zebra",
                              "kkkkykkkkk"}});
-}
-
-TEST(LineTokenizer, CommentsEndWithTheirMarkerOrTheLine) {
-    ExpectColours(ExtensionProfile(), {
-                                          {"a /* b */ c", "wycccccccyw"},
-                                          {"a /* b", "wycccc"},
-                                          {"a */ b", "wyccyw"},
-                                          {"/*/ a", "ccccc"},
-                                          {"a // /* b", "wyccccccc"},
-                                          {"\"/*\" a", "ssssyw"},
-                                          {"x(/**/)", "wyccccy"},
-                                      });
-}
-
-TEST(LineTokenizer, NoEscapeKeepsAStringOpen) {
-    ExpectColours(ExtensionProfile(), {{R"("a\"b" c)", "sssswwyw"}, {"\"open", "sssss"}, {"L\"a\"", "wwww"}});
-}
-
-TEST(LineTokenizer, APreprocessorWordMayStandBehindBlanksAndAnywhere) {
-    ExpectColours(ExtensionProfile(), {
-                                          {"#  include <a>", "ppppppppppyywy"},
-                                          {"#\t if(x) y", "ppppppppyw"},
-                                          {"a #b", "wypp"},
-                                          {"#", "p"},
-                                          {"# ", "pp"},
-                                          {"a#b", "www"},
-                                      });
 }
 
 TEST(LineTokenizer, MarkersOfOneCharacterAndNone) {

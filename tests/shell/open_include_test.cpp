@@ -1,19 +1,19 @@
 // Opening the file that is named at the caret.
 #include "shell/open_include.h"
+#include "document/document_session.h"
 
 #include <gtest/gtest.h>
 
 #include "base/platform.h"
 #include "language/name_at_caret.h"
-#include "support/recording_notices.h"
+#include "support/case_files.h"
 #include "support/test_disk.h"
 
 namespace vexa {
 namespace {
 
-struct Named {
-    std::string line;  // with "|" at the caret
-    std::string names;
+constexpr test::CaseFile kFiles[] = {
+#include "shell_cases.inc"
 };
 
 CharColumn TakeCaret(std::string& line) {
@@ -23,48 +23,13 @@ CharColumn TakeCaret(std::string& line) {
 }
 
 TEST(NameAtCaret, IsWhatTheLineNames) {
-    const Named rows[] = {
-        {"|#include \"a.h\"", "a.h"},
-        {"  #  include<sys/a.h>  // and \"b.h\"|", "sys/a.h"},
-        {"#include \"my file.h|", "my file.h"},
-        {"#import \"a.h\"|", "a.h"},
-        {"#include_next <a.h>|", "a.h"},
-        {"#include MA|CRO", "MACRO"},
-        {"#include \"\"|", ""},
-        {"|", ""},
-        {" | x", ""},
-        {"x = (|);", ""},
-        {"see a.c|.", "a.c"},
-        {"see |a.c, b.c", "a.c"},
-        {"see a.c, |b.c", "b.c"},
-        {"(..\\x\\|a.c)", "..\\x\\a.c"},
-        {"open(\"my |dir/a.txt\")", "my dir/a.txt;dir/a.txt"},
-        {"f(\"a\", \"b\"|)", "b"},
-        {"f(\"a\"|, \"b\")", "a"},
-        {"import x from './a|.js'", "./a.js"},
-        {"std <vec|tor>", "vector"},
-        {"a.c:12|: error", "a.c 12"},
-        {"C:\\s\\a|.c:12:34: error", "C:\\s\\a.c 12"},
-        {"C:\\s\\|a.c(12) : error", "C:\\s\\a.c 12"},
-        {"|a.c(12,34): error", "a.c 12"},
-        {"|f(x)", "f"},
-        {"see b.h(2|) or c.h", "b.h 2;2"},
-        {"see b.h(|2,34) or c.h", "b.h 2;2"},
-        {"see b.h(2)| or c.h(3)", "b.h 2"},
-        {"see b.h(2) |or c.h(3)", "or"},
-        {"x = (2|);", "2"},
-        {"x = |(2);", ""},
-        {"a.c:99999999999|", "a.c 2147483647"},
-        {":12|", ":12"},
-        {"'a.c:7|'", "a.c 7"},
-    };
-    for (const Named& row : rows) {
-        std::string line = row.line;
+    for (const test::Cells& row : test::RowsOf(kFiles, "names_at_caret")) {
+        std::string line = row.at(0);
         const CharColumn caret = TakeCaret(line);
         std::string shown;
         for (const NamedPlace& place : NamesAtCaret(line, caret))
             shown += (shown.empty() ? "" : ";") + place.name + (place.line ? " " + std::to_string(place.line) : "");
-        EXPECT_EQ(shown, row.names) << row.line;
+        EXPECT_EQ(shown, row.at(1)) << row.at(0);
     }
     EXPECT_TRUE(NamesAtCaret("a.c", CharColumn(4)).empty()) << "in the space behind the text";
 }
@@ -82,7 +47,7 @@ class ShownFiles : public DocumentFrame {
     std::string opened;
 };
 
-class OpenIncludeTest : public testing::Test {
+class OpenIncludeTest : public testing::Test, protected test::DocumentSession {
   protected:
     OpenIncludeTest() {
         for (const char* directory : {"src", "src\\sub", "work", "inc1", "inc 2"})
@@ -105,9 +70,6 @@ class OpenIncludeTest : public testing::Test {
     }
 
     test::TestDisk disk_;
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
     ShownFiles frame_;
     FileOpening opening_{frame_, options_, notices_};
 };
