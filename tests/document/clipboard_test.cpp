@@ -3,31 +3,23 @@
 
 #include <string>
 
+#include "document/document_session.h"
 #include "document/memory_clipboard.h"
-#include "document/view/edit_view.h"
-#include "support/recording_notices.h"
 
 namespace vexa {
 namespace {
 
-class Clipboard : public testing::Test {
+class Clipboard : public testing::Test, protected test::DocumentSession {
   protected:
     Clipboard() {
-        document_.newEmpty();
-        for (int i = 0; i < 1100; ++i)
-            document_.lines().put(document_.makeLine("line"), i);
+        fill(std::vector<std::string>(1100, "line"));
         view_.setClipboard(clipboard_);
     }
     void markTo(int line, MarkMode mode = MarkMode::Lines) {
         document_.marked() = {mode, true, {LineIndex(0), DisplayColumn(0)}, {LineIndex(line), DisplayColumn(2)}};
     }
-    std::string text(int line) const { return std::string(document_.text(LineIndex(line))); }
 
-    test::RecordingNotices notices_;
     test::MemoryClipboard clipboard_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
-    EditView view_{document_, options_, notices_};
 };
 
 TEST_F(Clipboard, TakesBlocksWhoseEndIsAThousandLinesBelowTheirStart) {

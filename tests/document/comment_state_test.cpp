@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "document/view/edit_view.h"
+#include "document/document_session.h"
+#include "document/random_user.h"
 #include "language/block_comment.h"
 #include "language/line_tokenizer.h"
-#include "support/recording_notices.h"
 
 namespace vexa {
 namespace {
@@ -28,22 +28,16 @@ std::vector<bool> FreshStates(const TextDocument& document, const ExtensionProfi
     return states;
 }
 
-class CommentLines : public testing::Test {
+class CommentLines : public testing::Test, protected test::DocumentSession {
   protected:
     void fill(int lines, const std::string& text = "int x;") {
-        document_.newEmpty();
-        for (int i = 0; i < lines; ++i)
-            document_.lines().put(document_.makeLine(text), i);
+        DocumentSession::fill(std::vector<std::string>(static_cast<std::size_t>(lines), text));
         document_.setProfile(profile_);
     }
     void setText(int line, std::string_view text) { document_.lines().put(document_.makeLine(text), line); }
     void type(LineIndex line, std::string_view text) {
         view_.goTo(line, CharColumn(0));
-        for (const char c : text) {
-            KeyEvent event;
-            event.character = static_cast<unsigned char>(c);
-            view_.key(event);
-        }
+        DocumentSession::type(text);
     }
     bool inside(int line) { return document_.startsInComment(LineIndex(line)); }
     void expectFresh(const std::string& when) {
@@ -53,11 +47,7 @@ class CommentLines : public testing::Test {
             ASSERT_EQ(inside(i), fresh[static_cast<std::size_t>(i)]) << "line " << i << " " << when;
     }
 
-    test::RecordingNotices notices_;
-    EditorOptions options_;
     ExtensionProfile profile_;
-    TextDocument document_{options_, notices_};
-    EditView view_{document_, options_, notices_};
 };
 
 TEST_F(CommentLines, AnOpenedCommentReachesToItsEndAndGoesWithItsMarker) {
@@ -148,47 +138,6 @@ TEST_F(CommentLines, WithoutAProfileOrAnEndMarkerNothingSpansLines) {
     EXPECT_FALSE(plain.lookAheadForComments(100));
 }
 
-// ---- random edits --------------------------------------------------------------------------------------------------
-
-class RandomEdits {
-  public:
-    RandomEdits(EditView& view, unsigned seed) : view_(view), random_(seed) {}
-
-    void act() {
-        const auto choice = random_() % 16;
-        if (choice < 2) {
-            view_.undo();
-        } else if (choice < 4) {
-            view_.redo();
-        } else if (choice < 6) {
-            const auto last = static_cast<unsigned>(view_.document().lastLine(LastUsed::Plain)) + 2;
-            view_.goTo(LineIndex(static_cast<std::int32_t>(random_() % last)),
-                       CharColumn(static_cast<std::int32_t>(random_() % 6)));
-        } else if (choice < 11) {
-            KeyEvent event;
-            event.character = static_cast<unsigned char>("/*/*\"a "[random_() % 7]);
-            event.repeat = static_cast<std::uint16_t>(1 + random_() % 2);
-            view_.key(event);
-        } else {
-            pressKey();
-        }
-    }
-
-  private:
-    void pressKey() {
-        static const std::uint16_t kKeys[] = {kKeyEnter, kKeyBackspace, kKeyDelete, 'D', 'K', kKeyDown, kKeyUp, 'L'};
-        KeyEvent event;
-        event.key = kKeys[random_() % std::size(kKeys)];
-        event.alt = event.key >= 'A' && event.key <= 'Z';
-        event.shift = !event.alt && random_() % 3 == 0;
-        event.repeat = static_cast<std::uint16_t>(1 + random_() % 3);
-        view_.key(event);
-    }
-
-    EditView& view_;
-    std::mt19937 random_;
-};
-
 class CommentProperty : public CommentLines, public testing::WithParamInterface<unsigned> {};
 
 TEST_P(CommentProperty, ColoursAreThoseOfAFreshLoad) {
@@ -196,7 +145,8 @@ TEST_P(CommentProperty, ColoursAreThoseOfAFreshLoad) {
     fill(300, "a");
     for (int i = 0; i < 20; ++i)
         setText(static_cast<int>(random() % 300), i % 2 ? "/* b" : "c */");
-    RandomEdits user(view_, GetParam());
+    static constexpr std::uint16_t kKeys[] = {kKeyEnter, kKeyBackspace, kKeyDelete, 'D', 'K', kKeyDown, kKeyUp, 'L'};
+    test::RandomUser user(view_, GetParam(), "/*/*\"a ", kKeys);
     for (int step = 0; step < 300; ++step) {
         user.act();
         // Sometimes a window asks, sometimes the idle steps, and sometimes nobody until much later.

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "base/strings.h"
+#include "document/document_session.h"
 #include "document/view/bookmark_model.h"
 #include "document/view/goto_line_model.h"
-#include "support/recording_notices.h"
 #include "support/test_disk.h"
 
 namespace vexa {
@@ -12,7 +12,7 @@ namespace {
 
 using test::StatusNotice;
 
-class JumpModels : public testing::Test {
+class JumpModels : public testing::Test, protected test::DocumentSession {
   protected:
     JumpModels() {
         document_.newEmpty();
@@ -31,11 +31,7 @@ class JumpModels : public testing::Test {
     }
 
     test::TestDisk disk_;
-    test::RecordingNotices notices_;
     ConfigStore store_{disk_.path("VEXA.INI")};
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
-    EditView view_{document_, options_, notices_};
 };
 
 TEST_F(JumpModels, AJumpIsCentredToldAndRemembered) {

@@ -6,9 +6,9 @@
 
 #include "base/file.h"
 #include "base/strings.h"
+#include "document/document_session.h"
 #include "document/text/file_identity.h"
 #include "document/text/text_document.h"
-#include "support/recording_notices.h"
 #include "support/test_disk.h"
 
 namespace vexa {
@@ -16,27 +16,16 @@ namespace {
 
 using test::BoxNotice;
 
-class Load : public testing::Test {
+class Load : public testing::Test, protected test::DocumentSession {
   protected:
     bool load(std::string_view bytes) {
         disk_.put("A.TXT", bytes);
         document_.setName(disk_.path("A.TXT"));
         return document_.load();
     }
-    std::vector<std::string> lines() const {
-        std::vector<std::string> all;
-        for (std::int32_t i = 0; i <= document_.lastLine(LastUsed::Plain); ++i) {
-            all.emplace_back(document_.text(LineIndex(i)));
-        }
-        return all;
-    }
-    std::string text(std::int32_t line) const { return std::string(document_.text(LineIndex(line))); }
 
     using Lines = std::vector<std::string>;
     test::TestDisk disk_;
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
 };
 
 TEST_F(Load, LineEndsOfTextAreLfAndCrLf) {

@@ -3,8 +3,8 @@
 #include <ostream>
 #include <string>
 
+#include "document/document_session.h"
 #include "document/view/row_renderer.h"
-#include "support/recording_notices.h"
 
 namespace vexa {
 namespace {
@@ -24,14 +24,9 @@ std::string Colours(const ViewRow& row) {
     return signs;
 }
 
-class Render : public testing::Test {
+class Render : public testing::Test, protected test::DocumentSession {
   protected:
-    Render() {
-        document_.newEmpty();
-        const char* texts[] = {"abcdef", "a\tb\tc", "", "xyz"};
-        for (int i = 0; i < 4; ++i)
-            document_.lines().put(document_.makeLine(texts[i]), i);
-    }
+    Render() { fill({"abcdef", "a\tb\tc", "", "xyz"}); }
     void mark(MarkMode mode, int line1, int column1, int line2, int column2) {
         document_.marked() = {
             mode, true, {LineIndex(line1), DisplayColumn(column1)}, {LineIndex(line2), DisplayColumn(column2)}};
@@ -39,10 +34,6 @@ class Render : public testing::Test {
     ViewRow row(int line, int left = 0, int columns = 12) const {
         return RenderRow(document_, LineIndex(line), DisplayColumn(left), columns);
     }
-
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
 };
 
 TEST_F(Render, CellsAreCutAtTheWindowsEdgesAndTabsExpanded) {
@@ -84,9 +75,7 @@ TEST_F(Render, AColumnIsMarkedOnEveryLine) {
 class ColouredRender : public Render {
   protected:
     ColouredRender() {
-        const char* texts[] = {"int\tx=12;", "#if \"a\"", "/* a\tb", "c */ d", "a\tb\tc"};
-        for (int i = 0; i < 5; ++i)
-            document_.lines().put(document_.makeLine(texts[i]), i);
+        fill({"int\tx=12;", "#if \"a\"", "/* a\tb", "c */ d", "a\tb\tc"});
         document_.setProfile(profile_);
     }
     ExtensionProfile profile_;

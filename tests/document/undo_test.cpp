@@ -1,29 +1,19 @@
 #include <gtest/gtest.h>
 
+#include "document/document_session.h"
 #include "document/text/cursor_actions.h"
 #include "document/text/line_actions.h"
 #include "document/text/text_document.h"
 #include "document/view/line_editor.h"
-#include "support/recording_notices.h"
 
 namespace vexa {
 namespace {
 
-class Undo : public testing::Test {
+class Undo : public testing::Test, protected test::DocumentSession {
   protected:
-    Undo() {
-        document_.newEmpty();
-        for (const char* text : {"alpha", "beta", "gamma"}) {
-            document_.lines().put(document_.makeLine(text), lines_++);
-        }
-    }
-    std::string text(std::int32_t line) const { return std::string(document_.text(LineIndex(line))); }
+    Undo() { fill({"alpha", "beta", "gamma"}); }
 
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
     LineEditor editor_{document_};
-    int lines_ = 0;
 };
 
 TEST_F(Undo, TheColumnHasAnUnevenLimit) {

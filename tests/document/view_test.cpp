@@ -2,36 +2,23 @@
 
 #include <string>
 
-#include "document/view/edit_view.h"
+#include "document/document_session.h"
 #include "document/view/margin_row.h"
-#include "support/recording_notices.h"
 
 namespace vexa {
 namespace {
 
-class View : public testing::Test {
+class View : public testing::Test, protected test::DocumentSession {
   protected:
     View() {
-        document_.newEmpty();
+        std::vector<std::string> lines;
         for (int i = 0; i < 300; ++i)
-            document_.lines().put(document_.makeLine("line " + std::to_string(i)), i);
+            lines.push_back("line " + std::to_string(i));
+        fill(lines);
         view_.resize(10, 40);
-    }
-    void press(std::uint16_t key, int times = 1, bool shift = false) {
-        for (; times > 0; --times) {
-            KeyEvent event;
-            event.key = key;
-            event.shift = shift;
-            view_.key(event);
-        }
     }
     int top() const { return view_.topLine().value; }
     int line() const { return document_.currentLine().value; }
-
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
-    EditView view_{document_, options_, notices_};
 };
 
 TEST_F(View, TheWindowFollowsTheCaretAndNoFurther) {
@@ -82,9 +69,7 @@ TEST_F(View, SidewaysScrollingKeepsTheCaretInSight) {
 
 TEST_F(View, UndoOutOfSightIsShownInTheMiddle) {
     view_.goTo(LineIndex(100), CharColumn(0));
-    KeyEvent x;
-    x.character = 'x';
-    view_.key(x);
+    type("x");
     view_.scrollToLine(LineIndex(0));
     EXPECT_EQ(view_.caret(), std::nullopt);
     view_.undo();

@@ -4,22 +4,37 @@
 #include <tuple>
 
 #include "base/file.h"
+#include "document/document_session.h"
 #include "document/text/text_document.h"
 #include "document/text/text_writer.h"
-#include "document/view/edit_view.h"
 #ifndef _WIN32
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "support/full_disk.h"
 #endif
-#include "support/recording_notices.h"
 #include "support/test_disk.h"
 
 namespace vexa {
 namespace {
 
-class Write : public testing::Test {
+struct FaultPlan {
+    FileStep step;
+    int countdown;  // this many of these steps pass before failures begin
+    int failures;   // how many fail
+    bool struck;
+};
+FaultPlan plan;
+
+bool Strike(FileStep step) {
+    if (step != plan.step) return false;
+    if (plan.countdown-- > 0) return false;
+    if (plan.failures-- <= 0) return false;
+    plan.struck = true;
+    return true;
+}
+
+class Write : public testing::Test, protected test::DocumentSession {
   protected:
     ~Write() override { SetFileFault(nullptr); }
 
@@ -28,20 +43,17 @@ class Write : public testing::Test {
         document_.setName(disk_.path("A.TXT"));
         ASSERT_TRUE(document_.load());
     }
-    void type(std::string_view text) {
-        EditView view(document_, options_, notices_);
-        for (const char c : text) {
-            KeyEvent event;
-            event.character = static_cast<unsigned char>(c);
-            view.key(event);
-        }
+    // Writes while so many of these steps fail, after others have passed.
+    bool writeFailing(FileStep step, int passing, int failing) {
+        plan = {step, passing, failing, false};
+        SetFileFault(Strike);
+        const bool isWritten = document_.write();
+        SetFileFault(nullptr);
+        return isWritten;
     }
     std::string copyName() const { return "A.TXT.vx0"; }
 
     test::TestDisk disk_;
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
 };
 
 TEST_F(Write, TextHasCrLfAndNoEmptyLinesAtTheEnd) {
@@ -124,22 +136,6 @@ TEST_F(Write, AFileThatAnotherProgramHoldsIsLeftAlone) {
 
 // ---- a disk that fails ---------------------------------------------------------------------------------------------
 
-struct FaultPlan {
-    FileStep step;
-    int countdown;  // this many of these steps pass before failures begin
-    int failures;   // how many fail
-    bool struck;
-};
-FaultPlan plan;
-
-bool Strike(FileStep step) {
-    if (step != plan.step) return false;
-    if (plan.countdown-- > 0) return false;
-    if (plan.failures-- <= 0) return false;
-    plan.struck = true;
-    return true;
-}
-
 std::string LargeText(char c) {
     std::string text;
     while (text.size() < 700'000)
@@ -156,10 +152,7 @@ TEST_F(Write, AFailureAtAnyStepKeepsTheOldFileAndTheChanges) {
         for (int countdown = 0; countdown < 12; ++countdown) {
             load(old);
             type("x");
-            plan = {step, countdown, 1, false};
-            SetFileFault(Strike);
-            const bool written = document_.write();
-            SetFileFault(nullptr);
+            const bool written = writeFailing(step, countdown, 1);
             SCOPED_TRACE("step " + std::to_string(static_cast<int>(step)) + " after " + std::to_string(countdown));
             EXPECT_FALSE(written && countdown == 0) << "the copy was not made, so the file may not be touched";
             EXPECT_EQ(disk_.count(), 1u) << "something of the copy is left";
@@ -233,10 +226,7 @@ TEST_F(Write, ACopyThatCannotLieBesideTheFileLiesAmongTheBackups) {
         document_.setName(disk_.path(name));
         ASSERT_TRUE(document_.load());
         type("x");
-        plan = {FileStep::Write, 4, 1000, false};
-        SetFileFault(Strike);
-        EXPECT_FALSE(document_.write());
-        SetFileFault(nullptr);
+        EXPECT_FALSE(writeFailing(FileStep::Write, 4, 1000));
         ASSERT_FALSE(LeftSafetyCopies(disk_.path(name)).empty());
         EXPECT_EQ(disk_.get(LeftSafetyCopies(disk_.path(name))[0].substr(3)), LargeText('o'));
         EXPECT_TRUE(document_.write());
@@ -267,10 +257,7 @@ TEST_F(Write, ANewFileThatCannotBeWrittenIsTakenAway) {
     load(LargeText('o'));
     document_.setName(disk_.path("NEW.TXT"));
     for (const FileStep step : {FileStep::Write, FileStep::Flush, FileStep::Close}) {
-        plan = {step, 0, 1, false};
-        SetFileFault(Strike);
-        EXPECT_FALSE(document_.write());
-        SetFileFault(nullptr);
+        EXPECT_FALSE(writeFailing(step, 0, 1));
         EXPECT_TRUE(plan.struck);
         EXPECT_FALSE(disk_.has("NEW.TXT"));
     }
@@ -280,10 +267,7 @@ TEST_F(Write, WhenPuttingBackFailsTooTheOldTextStaysInItsCopyAndTheUserIsTold) {
     const std::string old = LargeText('o');
     load(old);
     type("x");
-    plan = {FileStep::Write, 4, 1000, false};
-    SetFileFault(Strike);
-    EXPECT_FALSE(document_.write());
-    SetFileFault(nullptr);
+    EXPECT_FALSE(writeFailing(FileStep::Write, 4, 1000));
     EXPECT_TRUE(document_.isModified());
     EXPECT_EQ(disk_.get(copyName()), old);
     ASSERT_EQ(notices_.boxes.size(), 1u);
@@ -301,10 +285,7 @@ TEST_F(Write, TheTenthSafetyCopyIsTheLast) {
     type("x");
     for (char digit = '0'; digit <= '8'; ++digit)
         disk_.put(std::string("A.TXT.vx") + digit, "kept");
-    plan = {FileStep::Write, 4, 1000, false};
-    SetFileFault(Strike);
-    EXPECT_FALSE(document_.write());
-    SetFileFault(nullptr);
+    EXPECT_FALSE(writeFailing(FileStep::Write, 4, 1000));
     EXPECT_EQ(disk_.get("A.TXT.vx9"), LargeText('o'));
 }
 

@@ -1,10 +1,9 @@
 #include "shell/file_commands.h"
+#include "document/document_session.h"
 
 #include <gtest/gtest.h>
 
 #include "base/strings.h"
-#include "document/view/edit_view.h"
-#include "support/recording_notices.h"
 #include "support/test_disk.h"
 
 namespace vexa {
@@ -25,16 +24,8 @@ class ScriptedQuestions : public FileQuestions {
     std::string newName;
 };
 
-class FileCommandsTest : public testing::Test {
+class FileCommandsTest : public testing::Test, protected test::DocumentSession {
   protected:
-    void type(std::string_view text) {
-        EditView view(document_, options_, notices_);
-        for (const char c : text) {
-            KeyEvent event;
-            event.character = static_cast<unsigned char>(c);
-            view.key(event);
-        }
-    }
     void openFile(const std::string& name, std::string_view bytes) {
         disk_.put(name, bytes);
         ASSERT_TRUE(commands_.open(document_, disk_.path(name)));
@@ -49,11 +40,8 @@ class FileCommandsTest : public testing::Test {
     }
 
     test::TestDisk disk_;
-    test::RecordingNotices notices_;
     ScriptedQuestions questions_;
     ProfileList profiles_{disk_.path()};
-    EditorOptions options_;
-    TextDocument document_{options_, notices_};
     FileCommands commands_{notices_, questions_, profiles_};
 };
 

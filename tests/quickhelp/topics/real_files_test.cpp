@@ -9,8 +9,10 @@
 #include <iterator>
 
 #include "base/ascii.h"
+#include "quickhelp/help_index.h"
 #include "quickhelp/topics/grid_measure.h"
 #include "quickhelp/topics/help_file.h"
+#include "support/test_disk.h"
 
 namespace vexa::topics {
 namespace {
@@ -57,6 +59,20 @@ void WalkTopics(const HelpFile& file) {
         EXPECT_EQ(file.index().offsetsOf(keyword).size(), keyword.count) << keyword.text;
 }
 
+// The index for quick help has the title and the keywords that the reader of topics finds.
+void CompareIndex(const HelpFile& file, const std::string& bytes) {
+    const vexa::test::TestDisk disk;
+    disk.put("A.HLP", bytes);
+    const auto keywords = file.index().keywords();
+    const IndexResult result = BuildHelpIndex("A", disk.path("A.ZIX"));
+    ASSERT_EQ(result, keywords.empty() ? IndexResult::NoKeywords : IndexResult::Written);
+    if (keywords.empty()) return;
+    std::string expected = "\r\n" + file.system().title + "\r\n";
+    for (const Keyword& keyword : keywords)
+        expected += keyword.text.substr(0, 79) + "\r\n";
+    EXPECT_TRUE(disk.get("A.ZIX").ends_with(expected));
+}
+
 TEST(RealHelpFiles, EveryTopicIsReadAndLaidOut) {
     const char* folder = std::getenv("VEXA_HELP_FILES");
     if (!folder) GTEST_SKIP() << "VEXA_HELP_FILES names no folder with help files";
@@ -64,9 +80,11 @@ TEST(RealHelpFiles, EveryTopicIsReadAndLaidOut) {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         if (!EqualIgnoringCase(entry.path().extension().string(), ".hlp")) continue;
         SCOPED_TRACE(entry.path().string());
-        const auto file = HelpFile::open(BytesOf(entry.path()));
+        const std::string bytes = BytesOf(entry.path());
+        const auto file = HelpFile::open(bytes);
         ASSERT_TRUE(file);
         WalkTopics(*file);
+        CompareIndex(*file, bytes);
         ++count;
     }
     EXPECT_GT(count, 0);
