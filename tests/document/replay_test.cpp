@@ -3,6 +3,7 @@
 
 #include <sstream>
 
+#include "document/document_session.h"
 #include "document/memory_clipboard.h"
 #include "document/replay_case.h"
 #include "document/shown_document.h"
@@ -43,14 +44,6 @@ EditorOptions ParseOptions(const std::string& text) {
     return options;
 }
 
-void Type(EditView& view, const std::string& text) {
-    for (const char c : text) {
-        KeyEvent event;
-        event.character = static_cast<unsigned char>(c);
-        view.key(event);
-    }
-}
-
 // "Clipboard:text" is a text of another program, "Clipboard3:text" one of the editor, of that kind.
 bool FillClipboard(MemoryClipboard& clipboard, const std::string& word) {
     const std::string name = "Clipboard";
@@ -62,15 +55,15 @@ bool FillClipboard(MemoryClipboard& clipboard, const std::string& word) {
     return true;
 }
 
-void PressAll(EditView& view, MemoryClipboard& clipboard, const std::string& keys) {
+void PressAll(DocumentSession& session, MemoryClipboard& clipboard, const std::string& keys) {
     std::size_t i = 0;
     while ((i = keys.find_first_not_of(' ', i)) != std::string::npos) {
         const bool quoted = keys[i] == '"';
         const std::size_t end = std::min(keys.find(quoted ? '"' : ' ', i + 1), keys.size());
         if (quoted) {
-            Type(view, Unescape(keys.substr(i + 1, end - i - 1)));
+            session.type(Unescape(keys.substr(i + 1, end - i - 1)));
         } else if (const std::string word = keys.substr(i, end - i); !FillClipboard(clipboard, word)) {
-            PressWord(view, word);
+            PressWord(session.view_, word);
         }
         i = end + 1;
     }
@@ -90,7 +83,7 @@ ElectricList ElectricWordsOf(std::string& options) {
     return list;
 }
 
-class KeySession : public ReplaySession {
+class KeySession : public ReplaySession, private DocumentSession {
   public:
     KeySession() {
         document_.setProfile(profile_);
@@ -104,7 +97,7 @@ class KeySession : public ReplaySession {
         EXPECT_TRUE(words_.replace(ElectricWordsOf(text)));
         options_ = ParseOptions(text);
     }
-    void run(const std::string& keys) override { PressAll(view_, clipboard_, keys); }
+    void run(const std::string& keys) override { PressAll(*this, clipboard_, keys); }
     EditView& view() override { return view_; }
     const RecordingNotices& notices() const override { return notices_; }
     std::string clipboard() const override { return Shown(clipboard_); }
@@ -112,11 +105,7 @@ class KeySession : public ReplaySession {
   private:
     const TestDisk disk_;
     ElectricWords words_{disk_.path()};
-    EditorOptions options_;
-    RecordingNotices notices_;
     const ExtensionProfile profile_;
-    TextDocument document_{options_, notices_};
-    EditView view_{document_, options_, notices_};
     MemoryClipboard clipboard_;
 };
 

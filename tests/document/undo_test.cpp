@@ -37,7 +37,7 @@ TEST_F(Undo, JoiningTheLastLineChangesNothingButCounts) {
 }
 
 TEST_F(Undo, ADeletedLineComesBackAtTheCursor) {
-    DeleteLine deletion(document_, LineIndex(2));
+    class DeleteLine deletion(document_, LineIndex(2));  // the step, not the key
     deletion.perform();
     EXPECT_EQ(text(2), "");
     document_.setCurrentLine(LineIndex(1));

@@ -189,7 +189,6 @@ TEST_F(ToolsDialog, AFileThatCannotBeWrittenLeavesTheListAsItWas) {
     EXPECT_EQ(add("two"), Outcome::Nothing);
     EXPECT_EQ(list.tools().size(), 1u);
     EXPECT_TRUE(notices.boxes.back().text.starts_with("The program was unable to write"));
-    disk.setReadOnly("vConfig\\VexaTool.INF", false);
 }
 
 TEST(RunProgramDialogs, GiveTheRequestItsArguments) {

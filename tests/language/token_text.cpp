@@ -3,33 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace vexa::test {
 
 namespace {
 
+constexpr std::pair<TokenKind, char> kLetters[] = {
+    {TokenKind::Comment, 'c'},      {TokenKind::Word, 'w'},   {TokenKind::Keyword, 'k'}, {TokenKind::Number, 'n'},
+    {TokenKind::Preprocessor, 'p'}, {TokenKind::String, 's'}, {TokenKind::Symbols, 'y'}, {TokenKind::Tab, 't'},
+};
+
 char LetterOf(TokenKind kind) {
-    switch (kind) {
-        case TokenKind::Comment:
-            return 'c';
-        case TokenKind::Word:
-            return 'w';
-        case TokenKind::Keyword:
-            return 'k';
-        case TokenKind::Number:
-            return 'n';
-        case TokenKind::Preprocessor:
-            return 'p';
-        case TokenKind::String:
-            return 's';
-        case TokenKind::Symbols:
-            return 'y';
-        case TokenKind::Tab:
-            return 't';
-        case TokenKind::EndOfLine:
-            break;
-    }
-    return '?';
+    const auto* row = std::ranges::find(kLetters, kind, &std::pair<TokenKind, char>::first);
+    return row == std::end(kLetters) ? '?' : row->second;
 }
 
 // The rules of a profile, applied to a text that holds no byte 0.

@@ -109,7 +109,6 @@ TEST_F(FileCommandsTest, AFailedSaveIsToldAndKeepsNameAndChanges) {
     EXPECT_EQ(document_.fullPath(), disk_.path("A.TXT"));
     EXPECT_TRUE(document_.isModified());
     EXPECT_TRUE(questions_.newName.empty());
-    disk_.setReadOnly("A.TXT", false);
 }
 
 TEST_F(FileCommandsTest, ANewSuffixBringsItsProfile) {

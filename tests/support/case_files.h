@@ -50,8 +50,10 @@ inline Cells CellsOf(const std::string& row) {
         const bool isQuoted = row[at] == '`';
         const std::size_t end = std::min(row.find(isQuoted ? '`' : ' ', at + 1), row.size());
         std::string cell = row.substr(at + isQuoted, end - at - isQuoted);
-        for (std::size_t code; (code = cell.find("\\x")) != std::string::npos;)
-            cell.replace(code, 4, 1, static_cast<char>(std::stoi(cell.substr(code + 2, 2), nullptr, 16)));
+        for (std::size_t i = 0; (i = cell.find("\\x", i)) != std::string::npos; ++i) {
+            if (i + 4 > cell.size() || cell.find_first_not_of("0123456789ABCDEF", i + 2) < i + 4) continue;
+            cell.replace(i, 4, 1, static_cast<char>(std::stoi(cell.substr(i + 2, 2), nullptr, 16)));
+        }
         cells.push_back(std::move(cell));
         at = end + 1;
     }

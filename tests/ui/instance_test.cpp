@@ -16,17 +16,8 @@ namespace {
 class InstanceTest : public ::testing::Test {
   protected:
     InstanceTest() {
-        std::string text;
-        for (int i = 1; i <= 50; ++i)
-            text += "line\r\n";
         for (const char* name : {"a.c", "b.c", "long name.c"})
-            folder.put(name, text);
-    }
-    // Starts the program once more; false unless it ends at once, as one that has handed its file over.
-    bool startAgain(const std::string& arguments) const {
-        const StartedProgram second(folder, arguments);
-        DWORD code = 1;
-        return second.ends() && GetExitCodeProcess(second.process(), &code) && code == 0;
+            folder.put(name, "line\r\n");
     }
     static bool has(const Editor& editor, std::size_t documents) {
         return WaitUntil([&] { return editor.documents().size() == documents; });
@@ -50,18 +41,10 @@ TEST_F(InstanceTest, BrokenHandOffIsReported) {
     const Editor editor(folder);
     const UINT message = RegisterWindowMessageA("VexaFileOpen");
     PostMessageA(editor.frame(), message, 0, 0);
-    HWND box = editor.dialog("Vexa Error");
+    const HWND box = editor.dialog("Vexa Error");
     ASSERT_TRUE(box);
     EXPECT_EQ(BoxText(box), "Unexpected Vexa error at File: VXEAPP01 Line: 2173");
     ASSERT_TRUE(Press(box, IDOK));
-    for (const std::string& bytes : {std::string(), std::string(100000, 'x'), std::string("\0\n\xFF\xFE\n", 5)}) {
-        folder.put("VEXACMD.DAT", bytes);
-        PostMessageA(editor.frame(), message, 0, 0);
-        EXPECT_TRUE(WaitUntil([&] {
-            if (editor.hasDialog()) Press(editor.dialog("Vexa Error"), IDOK);  // such a name may be no file's
-            return !folder.has("VEXACMD.DAT");
-        }));
-    }
     EXPECT_TRUE(editor.answers());
 }
 
@@ -78,18 +61,6 @@ TEST_F(InstanceTest, FilesThatAreStartedTogetherAllOpenInOneEditor) {
         EXPECT_TRUE(start->ends());
     EXPECT_TRUE(WaitUntil([&] { return first.documents().size() + second.documents().size() == 10; }));
     EXPECT_FALSE(first.hasDialog() || second.hasDialog());
-}
-
-TEST_F(InstanceTest, BroadcastsWithoutAFileShowOneBoxAtATime) {
-    const Editor editor(folder);
-    const UINT message = RegisterWindowMessageA("VexaFileOpen");
-    for (int i = 0; i < 50; ++i)
-        PostMessageA(editor.frame(), message, 0, 0);
-    const HWND box = editor.dialog("Vexa Error");
-    ASSERT_TRUE(box && editor.answers());
-    ASSERT_TRUE(Press(box, IDOK));
-    ASSERT_TRUE(editor.answers());
-    EXPECT_FALSE(editor.hasDialog());
 }
 
 TEST_F(InstanceTest, OtherProgramsOpenFilesByDde) {

@@ -121,7 +121,7 @@ TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
     const Editor editor(folder, {"a.c", "b.c"});
     ASSERT_TRUE(editor.hasCaption("b.c]"));
     const DWORD start = GetTickCount();
-    const DWORD duration = 1000 * FromEnvironment("VEXA_SOAK_SECONDS", 60);
+    const DWORD duration = 1000 * FromEnvironment("VEXA_SOAK_SECONDS", 30);
     unsigned done = 0;
     for (; GetTickCount() - start < duration; ++done) {
         ASSERT_TRUE(doSomething(editor) && editor.answers()) << "after " << done;

@@ -58,6 +58,7 @@ TestFolder::~TestFolder() {
 }
 
 std::string TestFolder::path(const std::string& name) const {
+    if (name.find(':') != std::string::npos) return name;
     return name.empty() ? path_ : path_ + "\\" + name;
 }
 

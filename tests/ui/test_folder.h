@@ -12,7 +12,7 @@ class TestFolder {
     TestFolder(const TestFolder&) = delete;
     TestFolder& operator=(const TestFolder&) = delete;
 
-    // The full path of a name in the folder; the folder's own without a name.
+    // The full path of a name in the folder; the folder's own without a name; a name with a drive as it is.
     std::string path(const std::string& name = {}) const;
     std::string program() const { return path("vexa.exe"); }
     // The program of the tests that the editor can run.

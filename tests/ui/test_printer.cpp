@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "support/case_files.h"
+
 namespace vexa::test {
 namespace {
 
@@ -18,40 +20,9 @@ char kPort[] = "VexaTest:";
 constexpr const char* kPortsKey = "Software\\Wine\\Printing\\Spooler";
 
 // What a PostScript printer can do, as drivers are told; the least that they are content with.
-constexpr const char* kDescriptionText = R"PPD(*PPD-Adobe: "4.3"
-*FormatVersion: "4.3"
-*FileVersion: "1.0"
-*LanguageVersion: English
-*LanguageEncoding: ISOLatin1
-*PCFileName: "VEXATEST.PPD"
-*Manufacturer: "Vexa"
-*Product: "(Test)"
-*PSVersion: "(3010) 0"
-*ModelName: "Test"
-*ShortNickName: "Test"
-*NickName: "Test"
-*LanguageLevel: "3"
-*ColorDevice: True
-*DefaultColorSpace: RGB
-*DefaultResolution: 300dpi
-*TTRasterizer: Type42
-*LandscapeOrientation: Plus90
-*OpenUI *PageSize/Page Size: PickOne
-*OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: A4
-*PageSize A4/A4: "<</PageSize [595 842]>> setpagedevice"
-*CloseUI: *PageSize
-*DefaultImageableArea: A4
-*ImageableArea A4/A4: "18 18 577 824"
-*DefaultPaperDimension: A4
-*PaperDimension A4/A4: "595 842"
-*OpenUI *InputSlot/Tray: PickOne
-*DefaultInputSlot: Auto
-*InputSlot Auto/Auto: ""
-*CloseUI: *InputSlot
-*DefaultFont: Courier
-*Font Courier: Standard "(1.0)" Standard ROM
-)PPD";
+constexpr CaseFile kDescriptions[] = {
+#include "printer.inc"
+};
 
 // The driver writes to what its port stands for, which is a path of the system below.
 std::string HostPath(const std::string& path) {
@@ -83,7 +54,7 @@ bool InstallDriver() {
     }
     const std::string drivers = std::string(folder) + "\\3";
     std::filesystem::create_directories(drivers);
-    std::ofstream(drivers + '\\' + kDescription, std::ios::binary) << kDescriptionText;
+    std::ofstream(drivers + '\\' + kDescription, std::ios::binary) << kDescriptions[0].content;
     DRIVER_INFO_3A driver{};
     driver.cVersion = 3;
     driver.pName = kDriver;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iterator>
 #include <map>
 #include <memory>
@@ -206,6 +207,17 @@ bool Scroll(Stage& stage, Words words) {
     return PostMessageA(stage.editor->activePane(), bar, kRequests.at(words.word()), 0);
 }
 
+// Beside NAME.png the file NAME.area says which part of the screen it is, as "WIDTHxHEIGHT+X+Y".
+bool TakePictureOf(Stage& stage, Words words) {
+    RECT area{};
+    GetWindowRect(words.word() == "frame" ? stage.editor->frame() : stage.dialog(), &area);
+    if (const char* folder = std::getenv("VEXA_SCREENSHOTS"))
+        std::ofstream(std::string(folder) + "/" + words.rest() + ".area")
+            << area.right - area.left << 'x' << area.bottom - area.top << '+' << area.left << '+' << area.top;
+    stage.editor->takePicture(words.rest());
+    return true;
+}
+
 using Run = bool (*)(Stage& stage, Words words);
 
 const std::map<std::string, Run> kDoing = {
@@ -248,6 +260,7 @@ const std::map<std::string, Run> kDoing = {
     {"copy-elsewhere", [](Stage&, Words w) { return PutForeignText(w.lines()), true; }},
     {"hold-clipboard", [](Stage& s, Words) { return s.heldClipboard = std::make_unique<OpenedClipboard>(), true; }},
     {"release-clipboard", [](Stage& s, Words) { return s.heldClipboard.reset(), true; }},
+    {"picture-of", &TakePictureOf},
     {"picture", [](Stage& s, Words w) { return s.editor->takePicture(w.rest()), true; }},
 };
 

@@ -62,6 +62,7 @@
 //   background black, first-line yellow       colours of the text's window
 //   pages 3                         pages that were printed last
 //   picture find                    for people to look at
+//   picture-of dialog find          and which part of it the dialog, or the frame, is
 #pragma once
 
 #include <ostream>

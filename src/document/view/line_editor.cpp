@@ -147,7 +147,6 @@ void LineEditor::deleteInLine(std::int32_t n) {
 
 void LineEditor::deleteBetween(CharColumn from, CharColumn to) {
     moveToColumn(from);
-    if (document_.column() == from) return deleteInLine(to - from);
     to = std::min(to, textEnd());
     if (from < to) run<ReplaceRun>(document_.currentLine(), from, to - from, std::string_view());
 }

@@ -69,7 +69,7 @@ void CompareIndex(const HelpFile& file, const std::string& bytes) {
     if (keywords.empty()) return;
     std::string expected = "\r\n" + file.system().title + "\r\n";
     for (const Keyword& keyword : keywords)
-        expected += keyword.text.substr(0, 79) + "\r\n";
+        expected += std::string(keyword.text.substr(0, 79)) + "\r\n";
     EXPECT_TRUE(disk.get("A.ZIX").ends_with(expected));
 }
 
