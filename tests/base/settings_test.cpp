@@ -120,22 +120,6 @@ TEST_F(Settings, AFileThatCannotBeWrittenKeepsItsContents) {
     EXPECT_FALSE(platform::WriteSetting(disk.path("NO\\X.INI"), "Main", "key", "x"));
 }
 
-TEST_F(Settings, AnyBytesAreReadWithoutHarm) {
-    std::string bytes;
-    std::uint32_t random = 1;
-    for (int round = 0; round < 200; ++round) {
-        bytes.clear();
-        for (int i = 0; i < 300; ++i) {
-            random = random * 1664525 + 1013904223;
-            bytes += "[]=;\"'\r\n \tMainkey\x01\xFF"[random >> 24 & 15];
-        }
-        disk.put("VEXA.INI", bytes);
-        EXPECT_LE(text("key", 20).size(), 19u);
-        store.WriteString("Main", "new", "x");
-        EXPECT_EQ(store.ReadString("Main", "new", "", 10), "x") << bytes;
-    }
-}
-
 TEST(SettingsFile, IsNamedLikeTheExecutable) {
     EXPECT_EQ(SettingsFileOf("C:\\EDIT\\VEXA.EXE"), "C:\\EDIT\\VEXA.INI");
     EXPECT_EQ(SettingsFileOf("C:\\EDIT\\VEXA"), "C:\\EDIT\\VEXA");

@@ -98,19 +98,5 @@ TEST_F(Clipboard, ALongPieceIsNotCutOrShuffled) {
     EXPECT_EQ(text(1), longText + "ne");
 }
 
-TEST_F(Clipboard, ABlockGoesFromOneDocumentToAnotherAsWhatItIs) {
-    markTo(2, MarkMode::Column);
-    view_.copy();
-    TextDocument other(options_, notices_);
-    other.newEmpty();
-    EditView otherView(other, options_, notices_);
-    otherView.setClipboard(clipboard_);
-    otherView.goTo(LineIndex(0), CharColumn(1));
-    otherView.paste();
-    for (int line = 0; line < 3; ++line)
-        EXPECT_EQ(other.text(LineIndex(line)), " li");
-    EXPECT_EQ(other.text(LineIndex(3)), "");
-}
-
 }  // namespace
 }  // namespace vexa

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "document/print/page_setup_model.h"
+#include "support/case_files.h"
 #include "support/test_disk.h"
 
 namespace vexa {
@@ -26,6 +27,10 @@ TEST(PrintOptionsFile, KeepsEverySettingAndMendsMarginsOutOfRange) {
     EXPECT_EQ(loaded.margins, (PrintMargins{0, PrintOptions::kWidestMargin, 0, 10160}));
 }
 
+constexpr test::CaseFile kFiles[] = {
+#include "document_cases.inc"
+};
+
 TEST(PageSetup, LengthsAreShownAndReadInTheUsersUnit) {
     constexpr auto kMm = LengthUnit::Millimetres;
     constexpr auto kInch = LengthUnit::Inches;
@@ -35,33 +40,10 @@ TEST(PageSetup, LengthsAreShownAndReadInTheUsersUnit) {
     EXPECT_EQ(ShownLength(0, kMm), "0");
     EXPECT_EQ(ShownLength(2000, kInch), "0.79");
     EXPECT_EQ(ShownLength(2540, kInch), "1");
-    struct {
-        const char* typed;
-        LengthUnit unit;
-        std::optional<std::int32_t> length;
-    } const cases[] = {
-        {"20", kMm, 2000},
-        {" 12,5 ", kMm, 1250},
-        {".5", kMm, 50},
-        {"7.", kMm, 700},
-        {"1.259", kMm, 125},
-        {"0", kMm, 0},
-        {"101.6", kMm, 10160},
-        {"101.61", kMm, std::nullopt},
-        {"1", kInch, 2540},
-        {"0.79", kInch, 2007},
-        {"4", kInch, 10160},
-        {"4.01", kInch, std::nullopt},
-        {"", kMm, std::nullopt},
-        {".", kMm, std::nullopt},
-        {"-1", kMm, std::nullopt},
-        {"1.2.3", kMm, std::nullopt},
-        {"1mm", kMm, std::nullopt},
-        {"1.234x", kMm, std::nullopt},
-        {"99999999999999999999", kInch, std::nullopt},
-    };
-    for (const auto& test : cases)
-        EXPECT_EQ(TypedLength(test.typed, test.unit), test.length) << test.typed;
+    for (const test::Cells& row : test::RowsOf(kFiles, "lengths")) {
+        const auto length = TypedLength(row.at(0), row.at(1) == "mm" ? kMm : kInch);
+        EXPECT_EQ(length ? std::to_string(*length) : "-", row.at(2)) << row.at(0);
+    }
 }
 
 TEST(PageSetup, BadMarginsAreRefusedOneAfterTheOther) {

@@ -53,16 +53,6 @@ TEST(ColourTable, AnIndexOutsideThePaletteIsPaintedByItsLowFourBits) {
     EXPECT_EQ(table.colourOf(E::Comments), kPalette[0]);
 }
 
-TEST(ColourTable, EveryColourElementAndPresetHasItsName) {
-    EXPECT_EQ(PaletteName(0), "White");
-    EXPECT_EQ(PaletteName(15), "Dark Purple");
-    EXPECT_EQ(PaletteName(16), "");
-    EXPECT_EQ(ElementName(E::Background), "Background");
-    EXPECT_EQ(ElementName(E::Symbols), "Symbols");
-    EXPECT_EQ(PresetName(ColourPreset::BlackVexa), "Black Vexa");
-    EXPECT_EQ(PresetName(ColourPreset::UserDefined), "User Defined");
-}
-
 TEST(ColourTable, MonochromeIsBlackOnWhiteAndMarksWhiteOnBlack) {
     ColourTable table;
     table.setElementColours(PresetColours(ColourPreset::MonochromeVexa, {}));

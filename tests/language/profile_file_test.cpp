@@ -137,26 +137,6 @@ TEST_F(ProfileFile, LengthsAndCountsThatLieDoNoHarm) {
     }
 }
 
-TEST_F(ProfileFile, RandomBytesGiveAProfileThatCanBeSaved) {
-    std::uint32_t random = 1;
-    const auto next = [&](std::size_t below) {
-        random = random * 1664525 + 1013904223;
-        return (random >> 8) % below;
-    };
-    for (int round = 0; round < 3000; ++round) {
-        std::string bytes = round % 2 ? kPascal : kOldPascal;
-        for (std::size_t i = next(40); i > 0; --i)
-            bytes[next(bytes.size())] = static_cast<char>(next(256));
-        ExtensionProfile damaged;
-        DecodeProfile(bytes.substr(0, next(bytes.size() + 50)), damaged);
-        ExtensionProfile again;
-        EXPECT_TRUE(DecodeProfile(EncodeProfile(damaged), again));
-        EXPECT_EQ(EncodeProfile(again), EncodeProfile(damaged));
-        for (const std::string& keyword : damaged.keywords())
-            EXPECT_LE(keyword.size(), kKeywordLimit);
-    }
-}
-
 TEST_F(ProfileFile, TheLargestCountIsKept) {
     ExtensionProfile profile;
     profile.replaceKeywords(Keywords(70000, std::string(25, 'k')));

@@ -1,15 +1,18 @@
 // The bytes of programs, the fields that speed a search up, and what becomes of damaged programs.
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "reference_check.h"
 #include "regexp/regexp_program.h"
+#include "support/case_files.h"
 
 namespace vexa::test {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
+
+constexpr CaseFile kFiles[] = {
+#include "regexp_cases.inc"
+};
 
 Bytes ProgramOf(const char* pattern) {
     const auto program = RegExp::Compile(pattern);
@@ -52,30 +55,14 @@ TEST(RegExpProgram, HasItsNodesInPlace) {
 }
 
 TEST(RegExpProgram, KnowsWhatEveryMatchHas) {
-    struct Fields {
-        const char* pattern;
-        char first;
-        bool anchored;
-        const char* must;  // null for none
-    };
-    const Fields kFields[] = {
-        {"", 0, false, nullptr},       {"abc", 'a', false, nullptr},   {"abc*", 'a', false, nullptr},
-        {"a*bc", 0, false, "bc"},      {"a?xy.z", 0, false, "xy"},     {".*ab.cd", 0, false, "cd"},
-        {".*abc.cd", 0, false, "abc"}, {"a+bc", 0, false, nullptr},    {"^ab", 0, true, nullptr},
-        {"^*?", 0, false, nullptr},    {"^?ab", 0, false, "ab"},       {"a|b", 0, false, nullptr},
-        {"^a|b", 0, false, nullptr},   {"(^a)", 0, false, nullptr},    {"(a)", 0, false, nullptr},
-        {"(a*)bc", 0, false, "bc"},    {"(a*x)bc", 0, false, "bc"},    {"(b|a*)cd", 0, false, "cd"},
-        {"a*(bcd)ef", 0, false, "ef"}, {"a*(b|c)", 0, false, nullptr}, {"x*[ab]", 0, false, nullptr},
-        {"\\<ab", 0, false, nullptr},  {"\\*a", '*', false, nullptr},  {"\xE9", '\xE9', false, nullptr},
-        {"a*b|cd", 0, false, nullptr}, {"[ab]*cd*", 0, false, "c"},    {"a.*bc", 'a', false, nullptr},
-    };
-    for (const Fields& one : kFields) {
-        const auto program = RegExp::Compile(one.pattern);
+    for (const Cells& row : RowsOf(kFiles, "fields")) {
+        const auto program = RegExp::Compile(row.at(0).c_str());
         if (!program) continue;
-        EXPECT_EQ(program->firstCharacter(), one.first) << one.pattern;
-        EXPECT_EQ(program->anchored(), one.anchored) << one.pattern;
-        EXPECT_EQ(program->mustLength(), one.must != nullptr ? std::strlen(one.must) : 0) << one.pattern;
-        EXPECT_STREQ(program->mustString(), one.must) << one.pattern;
+        const bool hasMust = row.at(3) != "-";
+        EXPECT_EQ(program->firstCharacter(), row.at(1) == "-" ? '\0' : row.at(1)[0]) << row.at(0);
+        EXPECT_EQ(program->anchored(), row.at(2) == "anchored") << row.at(0);
+        EXPECT_EQ(program->mustLength(), hasMust ? row.at(3).size() : 0) << row.at(0);
+        EXPECT_STREQ(program->mustString(), hasMust ? row.at(3).c_str() : nullptr) << row.at(0);
     }
 }
 
@@ -189,22 +176,6 @@ TEST(RegExpProgram, RingsEnd) {
     };
     for (const Bytes& ring : kRings)
         EXPECT_FALSE(RegExp::Execute(RegExp::FromProgram(ring).get(), "aaaa"));
-}
-
-TEST(RegExpProgram, AnyBytesAreSurvived) {
-    Reports reports;
-    std::mt19937 random(1995);
-    const char* const kPatterns[] = {"(a|b)*c+[^d]?", "a*b*", "((a+)|\\<b)*$", "x?y?z?"};
-    for (int i = 0; i < 20000; ++i) {
-        Bytes bytes = ProgramOf(kPatterns[random() % std::size(kPatterns)]);
-        for (unsigned changes = random() % 4 + 1; changes > 0; --changes)
-            bytes[1 + random() % (bytes.size() - 1)] = static_cast<std::uint8_t>(random() % (i % 2 == 0 ? 40 : 256));
-        SetRegExpIgnoreCase(random() % 2 == 0);
-        RegExp::Execute(RegExp::FromProgram(bytes).get(),
-                        "aabb ccd\xFF"
-                        "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa");
-    }
-    SetRegExpIgnoreCase(false);
 }
 
 }  // namespace

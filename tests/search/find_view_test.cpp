@@ -85,21 +85,6 @@ TEST_F(FindView, TheMarkedColumnsBeginAtTheScreenColumnAndAreOneForEachCharacter
     EXPECT_EQ(options.lastMatch.length, 3);
 }
 
-TEST_F(FindView, AMarkingThatWasBeingExtendedEndsAtAMatch) {
-    put(0, "ab cd ef");
-    KeyEvent markStream;
-    markStream.key = 'A';
-    markStream.alt = true;
-    view.key(markStream);
-    options.setFindText("cd", false);
-    commands.findNext(&view);
-    EXPECT_EQ(document.marked().end.column, DisplayColumn(5));
-    KeyEvent right;
-    right.key = kKeyRight;
-    view.key(right);
-    EXPECT_FALSE(document.marked().active) << "a movement takes the match's marking away";
-}
-
 // Joined lines can be longer than the cursor can go.
 TEST_F(FindView, MatchesBehindTheLastColumnAreFoundMarkedAndReplaced) {
     const std::string start(310, '.');

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/platform.h"
+#include "support/case_files.h"
 #include "support/test_disk.h"
 
 namespace vexa {
@@ -10,33 +11,15 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 
+constexpr test::CaseFile kFiles[] = {
+#include "shell_cases.inc"
+};
+
 TEST(CommandLineText, IsCutAsTheRuntimeLibraryDoes) {
-    struct Case {
-        const char* whole;
-        const char* text;
-        Arguments arguments;
-    };
-    const Case cases[] = {
-        {"vexa.exe", "", {}},
-        {"", "", {}},
-        {R"("C:\My Dir\vexa.exe"   a.c)", "a.c", {"a.c"}},
-        {R"(C:\"My Dir"\vexa.exe a.c b.c)", "a.c b.c", {"a.c", "b.c"}},
-        {"vexa \ta.c\t-L20 ", "a.c\t-L20", {"a.c", "-L20"}},
-        {R"(vexa "a b.c" c"d e"f)", R"("a b.c" c"d e"f)", {"a b.c", "cd ef"}},
-        {R"(vexa "" x)", R"("" x)", {"", "x"}},
-        {R"(vexa C:\dir\ "C:\dir\\" \\srv\x)",
-         R"(C:\dir\ "C:\dir\\" \\srv\x)",
-         {R"(C:\dir\)", R"(C:\dir\)", R"(\\srv\x)"}},
-        {R"(vexa a\"b "c\"d" e\\\"f)", R"(a\"b "c\"d" e\\\"f)", {"a\"b", "c\"d", "e\\\"f"}},
-        {R"(vexa "a""b" c)", R"("a""b" c)", {"a\"b", "c"}},
-        {R"(vexa "open to the end)", R"("open to the end)", {"open to the end"}},
-        {R"("vexa never closed a.c)", "", {}},
-        {"vexa *.c ?.h", "*.c ?.h", {"*.c", "?.h"}},
-    };
-    for (const Case& c : cases) {
-        const CommandLine line = ParseCommandLine(c.whole);
-        EXPECT_EQ(line.text, c.text) << c.whole;
-        EXPECT_EQ(line.arguments, c.arguments) << c.whole;
+    for (const test::Cells& row : test::RowsOf(kFiles, "command_lines")) {
+        const CommandLine line = ParseCommandLine(row.at(0));
+        EXPECT_EQ(line.text, row.at(1)) << row.at(0);
+        EXPECT_EQ(line.arguments, Arguments(row.begin() + 2, row.end())) << row.at(0);
     }
 }
 
@@ -58,25 +41,10 @@ TEST(CommandLineText, HelpIsAskedForByOneArgumentAlone) {
 }
 
 TEST(LineOption, IsFoundAnywhereInAnArgument) {
-    const std::pair<std::string, int> cases[] = {
-        {"-l120", 120},
-        {"/L 7", 7},
-        {"--ll3", 3},
-        {"/-Ll0012x9", 12},
-        {"foo-l5.c", 5},
-        {"-l0", 0},
-        {"-L99999999999", 2147483647},
-        {"-" + std::string(40, 'l') + "1234567890", 12345678},  // only 49 characters count
-        {"l20", -1},
-        {"-l", -1},
-        {"-lx20", -1},
-        {"-l\t20", -1},
-        {"a.c", -1},
-        {"", -1},
-        {"-" + std::string(60, 'L') + "5", -1},
-    };
-    for (const auto& [argument, line] : cases)
-        EXPECT_EQ(ParseLineOption(argument), line) << argument;
+    for (const test::Cells& row : test::RowsOf(kFiles, "line_options"))
+        EXPECT_EQ(ParseLineOption(row.at(0)), std::stoi(row.at(1))) << row.at(0);
+    EXPECT_EQ(ParseLineOption("-" + std::string(40, 'l') + "1234567890"), 12345678) << "only 49 characters count";
+    EXPECT_EQ(ParseLineOption("-" + std::string(60, 'L') + "5"), -1);
 }
 
 class CommandLineFiles : public testing::Test {

@@ -42,15 +42,6 @@ INPUT MouseInput(POINT screenPlace, DWORD flags) {
     return input;
 }
 
-INPUT KeyInput(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, 0));
-    input.ki.dwFlags = flags;
-    return input;
-}
-
 }  // namespace
 
 std::string TextOf(HWND window) {

@@ -1,7 +1,5 @@
 #include "ui/key_script.h"
 
-#include <windows.h>
-
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -52,12 +50,7 @@ class KeyQueue {
 
   private:
     void add(BYTE key, bool extended, bool up) {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, 0));
-        input.ki.dwFlags = (extended ? KEYEVENTF_EXTENDEDKEY : 0u) | (up ? KEYEVENTF_KEYUP : 0u);
-        inputs_.push_back(input);
+        inputs_.push_back(KeyInput(key, (extended ? KEYEVENTF_EXTENDEDKEY : 0u) | (up ? KEYEVENTF_KEYUP : 0u)));
     }
 
     std::vector<INPUT> inputs_;
@@ -102,6 +95,15 @@ void PressChord(KeyQueue& queue, std::string_view chord) {
 }
 
 }  // namespace
+
+INPUT KeyInput(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, 0));
+    input.ki.dwFlags = flags;
+    return input;
+}
 
 void PressKeys(std::string_view script) {
     KeyQueue queue;

@@ -11,6 +11,8 @@
 #include <memory>
 #include <sstream>
 
+#include "quickhelp/topic_numbers.h"
+#include "quickhelp/topics/help_file.h"
 #include "quickhelp/topics/made_help_file.h"
 #include "ui/clipboard.h"
 #include "ui/dde_client.h"
@@ -53,7 +55,7 @@ const std::map<std::string, CommandId> kCommands = {
 };
 const std::map<std::string, int> kControls = {
 #include "controls.inc"
-    {"ok", IDOK}, {"cancel", IDCANCEL}, {"yes", IDYES}, {"no", IDNO}};
+    {"ok", IDOK}, {"cancel", IDCANCEL}, {"yes", IDYES}, {"no", IDNO}, {"help", IDHELP}};
 const std::map<std::string, COLORREF> kColours = {{"white", kWhite}, {"yellow", kYellow}, {"black", kBlack},
                                                   {"gray", kGray},   {"blue", kDarkBlue}, {"purple", kDarkPurple}};
 const std::map<std::string, std::size_t> kPanes = {
@@ -228,6 +230,7 @@ const std::map<std::string, Run> kDoing = {
     {"remove", [](Stage& s, Words w) { return std::filesystem::remove(s.folder.path(w.rest())); }},
     {"test-program", [](Stage& s, Words) { return s.folder.putTestProgram(), true; }},
     {"help-file", [](Stage& s, Words w) { return s.folder.put(w.rest(), topics::test::MakeHelpFile()), true; }},
+    {"manual", [](Stage& s, Words) { return s.folder.putFromProgramFolder("Vexa.hlp"), true; }},
     {"printer", &MakePrinter},
     {"no-printer", &HaveNoPrinter},
     {"compiler", &HaveCompiler},
@@ -339,6 +342,20 @@ bool IsViewer(Stage&, Words words) {
     return viewer && viewer == GetForegroundWindow() && TextOf(viewer) == words.rest();
 }
 
+// The viewer is in front with a topic of the manual, which has the number of a command or stands for a dialog.
+bool IsTopic(Stage& stage, Words words) {
+    const auto file = topics::HelpFile::open(stage.folder.get("Vexa.hlp"));
+    const std::string name = words.word();
+    const auto dialog = kControls.find(name);
+    const std::uint32_t number = name == "contents" ? 0
+                                 : dialog != kControls.end()
+                                     ? kHelpOnDialogs + static_cast<std::uint32_t>(dialog->second)
+                                     : static_cast<std::uint32_t>(CommandNamed(name));
+    const auto offset = file->index().offsetOfNumber(static_cast<std::int32_t>(number));
+    const auto topic = offset ? file->topicAt(*offset) : file->contentsTopic();
+    return IsViewer(stage, Words(file->system().title + " - " + file->topic(topic.value_or(0)).title, {}));
+}
+
 // Of the job that was printed last; each page begins with a comment of its own.
 bool HasPages(Stage& stage, Words words) {
     const std::string job = stage.folder.get("printed.ps");
@@ -386,6 +403,7 @@ const std::map<std::string, Run> kSeeing = {
     {"minimised", [](Stage& s, Words) -> bool { return IsIconic(s.editor->frame()); }},
     {"restored", [](Stage& s, Words) { return !IsIconic(s.editor->frame()); }},
     {"viewer", &IsViewer},
+    {"topic", &IsTopic},
     {"no-viewer", [](Stage&, Words) { return !FindWindowA("VexaHelp", nullptr); }},
     {"background", [](Stage& s, Words w) { return ShowsBackground(s.editor->activePane(), kColours.at(w.word())); }},
     {"first-line", [](Stage& s, Words w) { return ShowsInFirstLine(s.editor->activePane(), kColours.at(w.word())); }},

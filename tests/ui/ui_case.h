@@ -6,7 +6,7 @@
 //   < one
 //   numbered a.txt 500              or with the lines "line 1" to "line 500"
 //   folder sub, read-only a.txt, remove a.txt
-//   test-program, help-file A.HLP, printer    what the editor can run, show, and print on
+//   test-program, help-file A.HLP, manual, printer    what the editor can run, show, and print on
 //   compiler, no-printer            passes the case by where it is otherwise
 //
 //   start a.txt -L7                 starts the editor with that command line; "start-in FOLDER" in another directory
@@ -59,6 +59,7 @@
 //   over-frame                      the dialog stands in the middle of the frame
 //   shown StatusBarCL, hidden StatusBarCL     a part of the frame, by its class
 //   viewer Made - First             the help viewer's caption; "no-viewer"
+//   topic FileSave                  the manual's topic of a command, of a dialog ("dialog-find"), or "contents"
 //   background black, first-line yellow       colours of the text's window
 //   pages 3                         pages that were printed last
 //   picture find                    for people to look at

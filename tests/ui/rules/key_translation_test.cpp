@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "support/case_files.h"
+
 namespace vexa {
 namespace {
 
@@ -17,37 +19,21 @@ std::string Word(const std::optional<KeyEvent>& event) {
 }
 
 constexpr bool kOn = true;
+constexpr test::CaseFile kFiles[] = {
+#include "rule_cases.inc"
+};
 
 TEST(KeyTranslation, KeysBecomeKeystrokes) {
-    struct Case {
-        const char* what;
-        KeyPress press;
-        const char* word;
-    };
-    const Case cases[] = {
-        {"letter", {.key = 'A'}, "65"},
-        {"letter with Alt", {.key = 'D', .alt = kOn}, "68A"},
-        {"letter with AltGr", {.key = 'Q', .control = kOn, .alt = kOn}, "-"},
-        {"delete with AltGr", {.key = 0x2E, .extended = kOn, .control = kOn, .alt = kOn}, "-"},
-        {"grey left arrow", {.key = 0x25, .extended = kOn, .shift = kOn}, "37S"},
-        {"keypad left arrow", {.key = 0x25}, "37K"},
-        {"grey insert", {.key = 0x2D, .extended = kOn}, "45"},
-        {"keypad insert", {.key = 0x2D}, "45K"},
-        {"keypad plus", {.key = 0x6B}, "107K"},
-        {"keypad minus", {.key = 0x6D, .control = kOn}, "109CK"},
-        {"keypad divide, which is extended", {.key = 0x6F, .extended = kOn}, "111K"},
-        {"main minus", {.key = 0xBD}, "189"},
-        {"main enter", {.key = 0x0D}, "13"},
-        {"keypad enter", {.key = 0x0D, .extended = kOn}, "13K"},
-        {"digit of a character code, Num Lock on", {.key = 0x62, .alt = kOn}, "-"},
-        {"digit of a character code, Num Lock off", {.key = 0x28, .alt = kOn}, "-"},
-        {"the 5 of a character code, Num Lock off", {.key = 0x0C, .alt = kOn}, "-"},
-        {"grey down arrow with Alt", {.key = 0x28, .extended = kOn, .alt = kOn}, "40A"},
-        {"keypad plus with Alt", {.key = 0x6B, .alt = kOn}, "107AK"},
-    };
-    for (const Case& c : cases) {
+    for (const test::Cells& row : test::RowsOf(kFiles, "keys")) {
+        const auto has = [&](char flag) { return row.at(2).find(flag) != std::string::npos; };
         KeyTranslator translator;
-        EXPECT_EQ(Word(translator.keyDown(c.press)), c.word) << c.what;
+        EXPECT_EQ(Word(translator.keyDown({.key = static_cast<std::uint16_t>(std::stoi(row.at(1))),
+                                           .extended = has('E'),
+                                           .shift = has('S'),
+                                           .control = has('C'),
+                                           .alt = has('A')})),
+                  row.at(3))
+            << row.at(0);
     }
 }
 

@@ -2,48 +2,26 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "support/case_files.h"
+
 namespace vexa {
 namespace {
 
-enum Request : unsigned { kLineUp, kLineDown, kPageUp, kPageDown, kThumbDrop, kThumbDrag, kTop, kBottom, kEnd };
+constexpr test::CaseFile kFiles[] = {
+#include "rule_cases.inc"
+};
 
 TEST(ScrollRules, RequestsMoveWithinTheText) {
-    struct Case {
-        Request request;
-        ScrollState state;
-        std::int32_t track;
-        std::int32_t target;
-    };
-    const ScrollState middle{.last = 99, .page = 20, .position = 50};
-    const ScrollState top{.last = 99, .page = 20, .position = 0};
-    const ScrollState bottom{.last = 99, .page = 20, .position = 80};
-    const Case cases[] = {
-        {kLineUp, middle, 0, 49},
-        {kLineDown, middle, 0, 51},
-        {kPageUp, middle, 0, 31},
-        {kPageDown, middle, 0, 69},
-        {kThumbDrag, middle, 70000, 80},
-        {kThumbDrop, middle, 12, 12},
-        {kTop, middle, 0, 0},
-        {kBottom, middle, 0, 80},
-        {kEnd, middle, 7, 50},
-        {kLineUp, top, 0, 0},
-        {kPageUp, top, 0, 0},
-        {kLineDown, bottom, 0, 80},
-        {kPageDown, bottom, 0, 80},
-        {kThumbDrag, middle, -3, 0},
-        // More positions than 16 bits count.
-        {kThumbDrag, {.last = 90000, .page = 20, .position = 0}, 80000, 80000},
-        // A text shorter than the window, and a window scrolled beyond the text.
-        {kPageDown, {.last = 4, .page = 20, .position = 0}, 0, 0},
-        {kLineDown, {.last = 99, .page = 20, .position = 95}, 0, 95},
-        {kLineUp, {.last = 99, .page = 20, .position = 95}, 0, 80},
-        // A window of one line still moves by whole lines.
-        {kPageDown, {.last = 9, .page = 1, .position = 3}, 0, 4},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(ScrollTarget(c.request, c.state, c.track), c.target)
-            << c.request << " from " << c.state.position << " of " << c.state.last;
+    static const std::vector<std::string> kRequests = {"line-up",    "line-down", "page-up", "page-down", "thumb-drop",
+                                                       "thumb-drag", "top",       "bottom",  "end"};
+    for (const test::Cells& row : test::RowsOf(kFiles, "scrolling")) {
+        const auto request = std::ranges::find(kRequests, row.at(0)) - kRequests.begin();
+        const auto number = [&](std::size_t cell) { return std::stoi(row.at(cell)); };
+        const ScrollState state{.last = number(1), .page = number(2), .position = number(3)};
+        EXPECT_EQ(ScrollTarget(static_cast<unsigned>(request), state, number(4)), number(5))
+            << row.at(0) << " from " << state.position << " of " << state.last;
     }
 }
 
