@@ -30,7 +30,7 @@ struct Missing {
 };
 
 struct Stage {
-    HWND dialog() const { return dialogs.back(); }
+    HWND dialog() const { return dialogs.at(dialogs.size() - 1); }  // none fails the step
 
     TestFolder folder;
     std::unique_ptr<TestPrinter> printer;
