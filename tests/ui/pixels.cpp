@@ -20,8 +20,11 @@ std::vector<std::uint32_t> PixelsIn(HWND window, const RECT& area) {
     const HGDIOBJ before = SelectObject(copy, bitmap);
     BitBlt(copy, 0, 0, width, height, screen, corner.x, corner.y, SRCCOPY);
     BITMAPINFO format{};
-    format.bmiHeader = {
-        .biSize = sizeof(format.bmiHeader), .biWidth = width, .biHeight = height, .biPlanes = 1, .biBitCount = 32};
+    format.bmiHeader.biSize = sizeof(format.bmiHeader);
+    format.bmiHeader.biWidth = width;
+    format.bmiHeader.biHeight = height;
+    format.bmiHeader.biPlanes = 1;
+    format.bmiHeader.biBitCount = 32;
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     GetDIBits(copy, bitmap, 0, static_cast<UINT>(height), pixels.data(), &format, DIB_RGB_COLORS);
     SelectObject(copy, before);

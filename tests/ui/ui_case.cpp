@@ -18,6 +18,7 @@
 #include "ui/dde_client.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/key_script.h"
 #include "ui/pixels.h"
 #include "ui/test_printer.h"
 
@@ -240,6 +241,7 @@ const std::map<std::string, Run> kDoing = {
     {"end", &End},
     {"kill", [](Stage& s, Words) { return s.editor->kill(), true; }},
     {"keys", [](Stage& s, Words w) { return s.editor->keys(w.rest()), true; }},
+    {"keys-there", [](Stage&, Words w) { return PressKeys(w.rest()), true; }},
     {"command", [](Stage& s, Words w) { return s.editor->command(CommandNamed(w.word())), true; }},
     {"click-pane", &PressPane},
     {"click", [](Stage& s, Words w) -> bool { return PostMessageA(w.control(s), BM_CLICK, 0, 0); }},
@@ -333,6 +335,12 @@ bool IsOverFrame(Stage& stage, Words) {
            std::abs(frame.top + frame.bottom - dialog.top - dialog.bottom) <= 2;
 }
 
+bool IsOtherInFront(Stage& stage, Words) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(GetForegroundWindow(), &process);
+    return process != 0 && process != GetProcessId(stage.editor->process());
+}
+
 bool IsShown(Stage& stage, Words words) {
     return IsWindowVisible(ChildrenOf(stage.editor->frame(), words.rest()).at(0));
 }
@@ -371,9 +379,13 @@ bool IsChecked(HWND box) {
 
 const std::map<std::string, Run> kSeeing = {
     {"!", [](Stage& s, Words w) { return s.editor->message() == w.rest(); }},
+    {"says-below", [](Stage& s, Words w) { return s.editor->message().find(w.rest()) != std::string::npos; }},
     {"at", &IsAt},
     {"beyond", [](Stage& s, Words w) { return s.editor->line() > w.number(); }},
     {"pane", [](Stage& s, Words w) { return s.editor->pane(kPanes.at(w.word())) == w.rest(); }},
+    {"wide", [](Stage& s, Words w) { return s.editor->paneWidth(kPanes.at(w.word())) > 0; }},
+    {"narrow", [](Stage& s, Words w) { return s.editor->paneWidth(kPanes.at(w.word())) == 0; }},
+    {"title", [](Stage& s, Words w) { return TextOf(s.editor->frame()) == w.rest(); }},
     {"caption", [](Stage& s, Words w) { return s.editor->caption().find(w.rest()) != std::string::npos; }},
     {"documents", [](Stage& s, Words w) { return s.editor->documents().size() == std::stoul(w.rest()); }},
     {"dialog", &HasDialog},
@@ -381,6 +393,7 @@ const std::map<std::string, Run> kSeeing = {
     {"gone", &IsGone},
     {"no-dialog", [](Stage& s, Words) { return !s.editor->hasDialog(); }},
     {"field", [](Stage& s, Words w) { return TextOf(w.control(s)) == w.rest(); }},
+    {"field-has", [](Stage& s, Words w) { return TextOf(w.control(s)).find(w.rest()) != std::string::npos; }},
     {"checked", [](Stage& s, Words w) { return IsChecked(w.control(s)); }},
     {"unchecked", [](Stage& s, Words w) { return !IsChecked(w.control(s)); }},
     {"enabled", [](Stage& s, Words w) -> bool { return IsWindowEnabled(w.control(s)); }},
@@ -397,6 +410,7 @@ const std::map<std::string, Run> kSeeing = {
     {"clipboard-has", [](Stage&, Words w) { return ClipboardText().find(w.rest()) != std::string::npos; }},
     {"menu", [](Stage& s, Words) { return s.editor->hasPopupMenu(); }},
     {"over-frame", &IsOverFrame},
+    {"other-program", &IsOtherInFront},
     {"ended", [](Stage& s, Words) { return !s.editor->isRunning(); }},
     {"shown", &IsShown},
     {"hidden", [](Stage& s, Words w) { return !IsShown(s, w); }},

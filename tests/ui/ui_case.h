@@ -37,15 +37,17 @@
 //   at 3 14                         line and column on it
 //   beyond 100                      a later line
 //   pane mode OVR                   another of its panes: recording, read-only, line-ends, mode
-//   caption a.txt *]                a part of the frame's caption
+//   caption a.txt *]                a part of the frame's caption, without directories; "title" for all of it
+//   wide recording, narrow recording    whether a pane takes room
+//   says-below COMMAND.COM          a part of the message
+//   other-program                   has the keyboard; "keys-there" are its
 //   documents 2
 //   ended, minimised, restored
 //   dialog Find                     a dialog or box that has the keyboard now; it is the one meant until it has gone
 //   says The file 'a.txt'           a part of its text
 //   gone, no-dialog
-//   field find-text beta, checked match-case, unchecked match-case, enabled replace, disabled replace
-//   rows functions 5                how many rows a list has
-//   row functions 0 int main        a row's text
+//   field find-text beta, field-has find-text et, checked match-case, unchecked match-case, enabled replace, disabled
+//   replace rows functions 5                how many rows a list has row functions 0 int main        a row's text
 //   chosen functions 2              which row is chosen
 //   moved 333 222                   where the dialog stands
 //   file-is a.txt                   a file's lines, which follow
