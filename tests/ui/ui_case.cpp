@@ -341,6 +341,13 @@ bool IsOtherInFront(Stage& stage, Words) {
     return process != 0 && process != GetProcessId(stage.editor->process());
 }
 
+bool HasFocus(Stage& stage, Words words) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(GetWindowThreadProcessId(stage.dialog(), nullptr), &info);
+    return info.hwndFocus == words.control(stage);
+}
+
 bool IsShown(Stage& stage, Words words) {
     return IsWindowVisible(ChildrenOf(stage.editor->frame(), words.rest()).at(0));
 }
@@ -398,6 +405,7 @@ const std::map<std::string, Run> kSeeing = {
     {"unchecked", [](Stage& s, Words w) { return !IsChecked(w.control(s)); }},
     {"enabled", [](Stage& s, Words w) -> bool { return IsWindowEnabled(w.control(s)); }},
     {"disabled", [](Stage& s, Words w) { return !IsWindowEnabled(w.control(s)); }},
+    {"focused", &HasFocus},
     {"rows", [](Stage& s, Words w) { return RowsOf(w.control(s)) == w.number(); }},
     {"row", &HasRow},
     {"chosen", [](Stage& s, Words w) { return SendMessageA(w.control(s), LB_GETCURSEL, 0, 0) == w.number(); }},
@@ -418,6 +426,8 @@ const std::map<std::string, Run> kSeeing = {
     {"restored", [](Stage& s, Words) { return !IsIconic(s.editor->frame()); }},
     {"viewer", &IsViewer},
     {"topic", &IsTopic},
+    {"viewer-says",
+     [](Stage&, Words w) { return TextOf(ChildrenOf(FindWindowA("VexaHelp", nullptr), "Static").at(0)) == w.rest(); }},
     {"no-viewer", [](Stage&, Words) { return !FindWindowA("VexaHelp", nullptr); }},
     {"background", [](Stage& s, Words w) { return ShowsBackground(s.editor->activePane(), kColours.at(w.word())); }},
     {"first-line", [](Stage& s, Words w) { return ShowsInFirstLine(s.editor->activePane(), kColours.at(w.word())); }},

@@ -61,6 +61,7 @@
 //   over-frame                      the dialog stands in the middle of the frame
 //   shown StatusBarCL, hidden StatusBarCL     a part of the frame, by its class
 //   viewer Made - First             the help viewer's caption; "no-viewer"
+//   viewer-says Printing completed.     at its foot
 //   topic FileSave                  the manual's topic of a command, of a dialog ("dialog-find"), or "contents"
 //   background black, first-line yellow       colours of the text's window
 //   pages 3                         pages that were printed last
