@@ -9,15 +9,9 @@ namespace vexa {
 namespace {
 
 // Any other number in the settings file is shown, and stored again, as the default mode.
-DisplayModeValue ShownMode(std::int32_t mode) {
-    switch (mode) {
-        case kCreateTiled:
-        case kCreateMinimized:
-        case kCreateMaximized:
-            return static_cast<DisplayModeValue>(mode);
-        default:
-            return kCreateDefault;
-    }
+std::int32_t ShownMode(std::int32_t mode) {
+    const bool isKnown = mode == kCreateTiled || mode == kCreateMinimized || mode == kCreateMaximized;
+    return isKnown ? mode : kCreateDefault;
 }
 
 std::int32_t Magnitude(const std::string& typed) {
@@ -27,47 +21,27 @@ std::int32_t Magnitude(const std::string& typed) {
 
 }  // namespace
 
-EditorOptionsModel::EditorOptionsModel(const EditorOptions& options)
-    : displayMode(ShownMode(options.DisplayMode)),
-      tabsAsSpaces(!options.UseTabs),
-      tabSize(std::to_string(options.TabSize)),
-      lineWrap(options.LineWrap),
-      wrapColumn(std::to_string(options.WrapColumn)),
-      autoBackup(options.AutoBackup),
-      backupInterval(std::to_string(options.BackupInterval)),
-      restoreDirectory(options.RestoreDirectory),
-      restoreFiles(options.RestoreFiles),
-      smartIndent(options.SmartIndent),
-      hasMargin(options.HasMargin),
-      lineNumbers(options.LineNumbers),
-      restoreSize(options.RestoreSize),
-      multipleCopies(options.MultipleCopies),
-      fileRead(options.FileRead),
-      fileWrite(options.FileWrite),
-      filter1(options.Filter1),
-      filter2(options.Filter2) {}
+EditorOptionsModel::EditorOptionsModel(const EditorOptions& stored)
+    : options(stored),
+      tabsAsSpaces(!stored.UseTabs),
+      tabSize(std::to_string(stored.TabSize)),
+      wrapColumn(std::to_string(stored.WrapColumn)),
+      backupInterval(std::to_string(stored.BackupInterval)) {
+    options.DisplayMode = ShownMode(stored.DisplayMode);
+}
 
-std::optional<TextId> EditorOptionsModel::update(EditorOptions& options) const {
+std::optional<TextId> EditorOptionsModel::update(EditorOptions& stored) const {
     const std::int32_t newTabSize = LeadingInteger(tabSize);
     if (newTabSize < 1 || newTabSize > 9) return TextId::BadTabSize;
-    options.DisplayMode = displayMode;
-    options.WrapColumn = Magnitude(wrapColumn);
-    options.BackupInterval = Magnitude(backupInterval);
-    options.TabSize = newTabSize;
-    options.UseTabs = !tabsAsSpaces;
-    options.LineWrap = lineWrap && options.WrapColumn != 0;
-    options.AutoBackup = autoBackup && options.BackupInterval != 0;
-    options.RestoreDirectory = restoreDirectory;
-    options.RestoreFiles = restoreFiles;
-    options.SmartIndent = smartIndent;
-    options.HasMargin = hasMargin;
-    options.LineNumbers = lineNumbers;
-    options.RestoreSize = restoreSize;
-    options.MultipleCopies = multipleCopies;
-    options.FileRead = fileRead;
-    options.FileWrite = fileWrite;
-    options.Filter1 = filter1.substr(0, kFilterLimit);
-    options.Filter2 = filter2.substr(0, kFilterLimit);
+    stored = options;
+    stored.UseTabs = !tabsAsSpaces;
+    stored.TabSize = newTabSize;
+    stored.WrapColumn = Magnitude(wrapColumn);
+    stored.BackupInterval = Magnitude(backupInterval);
+    stored.LineWrap = options.LineWrap && stored.WrapColumn != 0;
+    stored.AutoBackup = options.AutoBackup && stored.BackupInterval != 0;
+    stored.Filter1.resize(std::min(stored.Filter1.size(), kFilterLimit));
+    stored.Filter2.resize(std::min(stored.Filter2.size(), kFilterLimit));
     return std::nullopt;
 }
 

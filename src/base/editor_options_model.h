@@ -13,36 +13,24 @@ namespace vexa {
 // What may be typed into a filter field; the record keeps one character less.
 inline constexpr std::size_t kFilterFieldLimit = 50;
 
-// The dialog's controls as values: numbers are as typed, so nothing is refused before "Update".
+// The dialog's controls as values: numbers are as typed, so nothing is refused before "Update". What a control shows as
+// the record has it stands in the model's own copy of the record.
 struct EditorOptionsModel {
-    explicit EditorOptionsModel(const EditorOptions& options);
+    explicit EditorOptionsModel(const EditorOptions& stored);
 
-    DisplayModeValue displayMode;  // the checked radio button
+    EditorOptions options;
     bool tabsAsSpaces;
     std::string tabSize;
-    bool lineWrap;
     std::string wrapColumn;
-    bool autoBackup;
     std::string backupInterval;  // minutes
-    bool restoreDirectory;
-    bool restoreFiles;
-    bool smartIndent;
-    bool hasMargin;
-    bool lineNumbers;
-    bool restoreSize;
-    bool multipleCopies;
-    bool fileRead;
-    bool fileWrite;
-    std::string filter1;
-    std::string filter2;
 
-    bool wrapColumnEnabled() const { return lineWrap; }
-    bool backupIntervalEnabled() const { return autoBackup; }
-    bool lineNumbersEnabled() const { return hasMargin; }
+    bool wrapColumnEnabled() const { return options.LineWrap; }
+    bool backupIntervalEnabled() const { return options.AutoBackup; }
+    bool lineNumbersEnabled() const { return options.HasMargin; }
 
     // Stores the controls in the record. A refusal gives the text that explains it and stores nothing;
     // the dialog then stays open.
-    std::optional<TextId> update(EditorOptions& options) const;
+    std::optional<TextId> update(EditorOptions& stored) const;
 };
 
 }  // namespace vexa

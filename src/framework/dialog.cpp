@@ -228,10 +228,6 @@ void DialogFrameCL::setChecked(int number, bool checked) {
     CheckDlgButton(window_, number, checked ? BST_CHECKED : BST_UNCHECKED);
 }
 
-void DialogFrameCL::checkRadio(int first, int last, int checked) {
-    CheckRadioButton(window_, first, last, checked);
-}
-
 void DialogFrameCL::enable(int number, bool enabled) {
     EnableWindow(control(number), enabled);
 }

@@ -43,8 +43,6 @@ class DialogFrameCL {
     std::optional<std::size_t> chosenRowOf(int control) const;
     bool isChecked(int control) const;
     void setChecked(int control, bool checked);
-    // Checks one of the radio buttons that are numbered from first to last.
-    void checkRadio(int first, int last, int checked);
     void enable(int control, bool enabled);
     // Lets the arrow and page keys that are pressed in a field move through a list.
     void moveListFrom(int field, int list);

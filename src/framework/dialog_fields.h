@@ -74,11 +74,15 @@ struct Notification {
     void (Dialog::*act)();
 };
 
+// False when no row fits.
 template <class Dialog, class Table>
-void Dispatch(Dialog& dialog, const Table& rows, int control, UINT code) {
+bool Dispatch(Dialog& dialog, const Table& rows, int control, UINT code) {
     for (const Notification<Dialog>& row : rows) {
-        if (row.control == control && row.code == code) (dialog.*row.act)();
+        if (row.control != control || row.code != code) continue;
+        (dialog.*row.act)();
+        return true;
     }
+    return false;
 }
 
 }  // namespace vexa

@@ -127,7 +127,7 @@ TEST(OptionsModel, RefusesTabSizesBeyondOneToNineAndThenStoresNothing) {
         EditorOptionsModel model(options);
         model.tabSize = typed;
         model.wrapColumn = "60";
-        model.hasMargin = false;
+        model.options.HasMargin = false;
         EXPECT_EQ(model.update(options), TextId::BadTabSize) << typed;
         EXPECT_EQ(options.TabSize, 4);
         EXPECT_EQ(options.WrapColumn, 80);
@@ -155,7 +155,7 @@ TEST(OptionsModel, NumbersLoseTheirSignAndZeroSwitchesOff) {
                           {"-99999999999", INT32_MAX, true}}) {
         EditorOptions options;
         EditorOptionsModel model(options);
-        model.lineWrap = model.autoBackup = true;
+        model.options.LineWrap = model.options.AutoBackup = true;
         model.wrapColumn = model.backupInterval = c.typed;
         EXPECT_EQ(model.update(options), std::nullopt);
         EXPECT_EQ(options.WrapColumn, c.stored) << c.typed;
@@ -171,7 +171,7 @@ TEST(OptionsModel, ShowsAndStoresTheDisplayMode) {
         EditorOptions options;
         options.DisplayMode = held;
         const EditorOptionsModel model(options);
-        EXPECT_EQ(model.displayMode, stored) << held;
+        EXPECT_EQ(model.options.DisplayMode, stored) << held;
         EXPECT_EQ(model.update(options), std::nullopt);
         EXPECT_EQ(options.DisplayMode, stored) << held;
     }
@@ -184,11 +184,12 @@ TEST(OptionsModel, StoresEveryCheckBoxAndFilterAndLeavesTheRest) {
     EXPECT_TRUE(model.tabsAsSpaces);
     EXPECT_FALSE(model.wrapColumnEnabled());
     EXPECT_TRUE(model.backupIntervalEnabled());
-    model.tabsAsSpaces = model.autoBackup = model.restoreDirectory = model.restoreFiles = false;
-    model.smartIndent = model.hasMargin = false;
-    model.lineWrap = model.restoreSize = model.multipleCopies = model.fileRead = model.fileWrite = true;
-    model.filter1 = std::string(kFilterFieldLimit, 'f');
-    model.filter2 = "*.h";
+    model.tabsAsSpaces = model.options.AutoBackup = model.options.RestoreDirectory = model.options.RestoreFiles = false;
+    model.options.SmartIndent = model.options.HasMargin = false;
+    model.options.LineWrap = model.options.RestoreSize = model.options.MultipleCopies = model.options.FileRead =
+        model.options.FileWrite = true;
+    model.options.Filter1 = std::string(kFilterFieldLimit, 'f');
+    model.options.Filter2 = "*.h";
     EXPECT_TRUE(model.wrapColumnEnabled());
     EXPECT_FALSE(model.backupIntervalEnabled());
     EXPECT_EQ(model.update(options), std::nullopt);

@@ -1,5 +1,6 @@
 #include "ui/dialogs/colour_setup_dialog.h"
 
+#include "framework/dialog_fields.h"
 #include "framework/gdi.h"
 #include "ui/dialogs/colour_sample.h"
 #include "ui/resources/dialog_controls.h"
@@ -74,23 +75,15 @@ void ColourSetupDialog::showChoice() {
 // ---- choosing ----------------------------------------------------------------------------------------------------
 
 void ColourSetupDialog::onControl(int control, UINT notification) {
-    struct Row {
-        int control;
-        UINT notification;
-        void (ColourSetupDialog::*choose)();
-    };
-    static constexpr Row kRows[] = {
+    static constexpr Notification<ColourSetupDialog> kRows[] = {
         {IDC_PRESETS, CBN_SELCHANGE, &ColourSetupDialog::choosePreset},
         {IDC_ELEMENTS, LBN_SELCHANGE, &ColourSetupDialog::chooseElement},
         {IDC_COLOURS, LBN_SELCHANGE, &ColourSetupDialog::chooseColour},
         {IDC_HIGHLIGHTING, BN_CLICKED, &ColourSetupDialog::switchHighlighting},
     };
-    for (const Row& row : kRows) {
-        if (row.control != control || row.notification != notification) continue;
-        (this->*row.choose)();
-        showChoice();
-        preview_(model_.working());
-    }
+    if (!Dispatch(*this, kRows, control, notification)) return;
+    showChoice();
+    preview_(model_.working());
 }
 
 void ColourSetupDialog::choosePreset() {

@@ -1,54 +1,48 @@
 #include "ui/dialogs/editor_options_dialog.h"
 
 #include "base/strings.h"
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
 namespace {
 
-struct CheckBox {
-    int control;
-    bool EditorOptionsModel::*value;
+using Options = EditorOptions;
+using Model = EditorOptionsModel;
+
+// A new option is a field of the record, its key in the settings, and the row of its control here.
+constexpr CheckBox<Options> kSwitches[] = {
+    {IDC_LINE_WRAP, &Options::LineWrap},
+    {IDC_AUTO_BACKUP, &Options::AutoBackup},
+    {IDC_RESTORE_DIRECTORY, &Options::RestoreDirectory},
+    {IDC_RESTORE_FILES, &Options::RestoreFiles},
+    {IDC_SMART_INDENT, &Options::SmartIndent},
+    {IDC_HAS_MARGIN, &Options::HasMargin},
+    {IDC_LINE_NUMBERS, &Options::LineNumbers},
+    {IDC_RESTORE_SIZE, &Options::RestoreSize},
+    {IDC_MULTIPLE_COPIES, &Options::MultipleCopies},
+    {IDC_FILE_READ, &Options::FileRead},
+    {IDC_FILE_WRITE, &Options::FileWrite},
 };
-constexpr CheckBox kCheckBoxes[] = {
-    {IDC_TABS_AS_SPACES, &EditorOptionsModel::tabsAsSpaces},
-    {IDC_LINE_WRAP, &EditorOptionsModel::lineWrap},
-    {IDC_AUTO_BACKUP, &EditorOptionsModel::autoBackup},
-    {IDC_RESTORE_DIRECTORY, &EditorOptionsModel::restoreDirectory},
-    {IDC_RESTORE_FILES, &EditorOptionsModel::restoreFiles},
-    {IDC_SMART_INDENT, &EditorOptionsModel::smartIndent},
-    {IDC_HAS_MARGIN, &EditorOptionsModel::hasMargin},
-    {IDC_LINE_NUMBERS, &EditorOptionsModel::lineNumbers},
-    {IDC_RESTORE_SIZE, &EditorOptionsModel::restoreSize},
-    {IDC_MULTIPLE_COPIES, &EditorOptionsModel::multipleCopies},
-    {IDC_FILE_READ, &EditorOptionsModel::fileRead},
-    {IDC_FILE_WRITE, &EditorOptionsModel::fileWrite},
+constexpr TextField<Options> kFilters[] = {
+    {IDC_FILTER_1, &Options::Filter1, kFilterFieldLimit},
+    {IDC_FILTER_2, &Options::Filter2, kFilterFieldLimit},
+};
+constexpr RadioButton<Options, std::int32_t> kDisplayModes[] = {
+    {IDC_CREATE_MAXIMIZED, &Options::DisplayMode, kCreateMaximized},
+    {IDC_CREATE_MINIMIZED, &Options::DisplayMode, kCreateMinimized},
+    {IDC_CREATE_TILED, &Options::DisplayMode, kCreateTiled},
+    {IDC_CREATE_DEFAULT, &Options::DisplayMode, kCreateDefault},
 };
 
 constexpr std::size_t kNumberFieldLimit = 9;
 
-struct Field {
-    int control;
-    std::string EditorOptionsModel::*value;
-    std::size_t limit;
-};
-constexpr Field kFields[] = {
-    {IDC_TAB_SIZE, &EditorOptionsModel::tabSize, kNumberFieldLimit},
-    {IDC_WRAP_COLUMN, &EditorOptionsModel::wrapColumn, kNumberFieldLimit},
-    {IDC_BACKUP_INTERVAL, &EditorOptionsModel::backupInterval, kNumberFieldLimit},
-    {IDC_FILTER_1, &EditorOptionsModel::filter1, kFilterFieldLimit},
-    {IDC_FILTER_2, &EditorOptionsModel::filter2, kFilterFieldLimit},
-};
-
-struct ModeButton {
-    int control;
-    DisplayModeValue mode;
-};
-constexpr ModeButton kModeButtons[] = {
-    {IDC_CREATE_MAXIMIZED, kCreateMaximized},
-    {IDC_CREATE_MINIMIZED, kCreateMinimized},
-    {IDC_CREATE_TILED, kCreateTiled},
-    {IDC_CREATE_DEFAULT, kCreateDefault},
+// What the dialog shows otherwise than the record has it.
+constexpr CheckBox<Model> kTabs[] = {{IDC_TABS_AS_SPACES, &Model::tabsAsSpaces}};
+constexpr TextField<Model> kNumbers[] = {
+    {IDC_TAB_SIZE, &Model::tabSize, kNumberFieldLimit},
+    {IDC_WRAP_COLUMN, &Model::wrapColumn, kNumberFieldLimit},
+    {IDC_BACKUP_INTERVAL, &Model::backupInterval, kNumberFieldLimit},
 };
 
 }  // namespace
@@ -57,26 +51,14 @@ EditorOptionsDialog::EditorOptionsDialog(ConfigStore& store, EditorOptions& opti
     : EditorDialog(store, IDD_EDITOR_OPTIONS), options_(options), model_(options) {}
 
 void EditorOptionsDialog::onOpen() {
-    for (const CheckBox& box : kCheckBoxes)
-        setChecked(box.control, model_.*box.value);
-    for (const Field& field : kFields) {
-        limitTextOf(field.control, field.limit);
-        setTextOf(field.control, model_.*field.value);
-    }
-    for (const ModeButton& button : kModeButtons) {
-        if (button.mode == model_.displayMode) checkRadio(IDC_CREATE_MAXIMIZED, IDC_CREATE_DEFAULT, button.control);
-    }
+    ShowFields(*this, model_.options, kSwitches, kFilters, kDisplayModes);
+    ShowFields(*this, model_, kTabs, kNumbers);
     enableFields();
 }
 
 void EditorOptionsDialog::read() {
-    for (const CheckBox& box : kCheckBoxes)
-        model_.*box.value = isChecked(box.control);
-    for (const Field& field : kFields)
-        model_.*field.value = textOf(field.control);
-    for (const ModeButton& button : kModeButtons) {
-        if (isChecked(button.control)) model_.displayMode = button.mode;
-    }
+    ReadFields(*this, model_.options, kSwitches, kFilters, kDisplayModes);
+    ReadFields(*this, model_, kTabs, kNumbers);
 }
 
 void EditorOptionsDialog::enableFields() {

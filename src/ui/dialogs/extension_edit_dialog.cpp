@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/strings.h"
+#include "framework/dialog_fields.h"
 #include "framework/file_dialog.h"
 #include "ui/dialogs/file_selection.h"
 #include "ui/resources/dialog_controls.h"
@@ -56,21 +57,14 @@ void ExtensionEditDialog::onAccept() {
 }
 
 void ExtensionEditDialog::onControl(int control, UINT notification) {
-    struct Row {
-        int control;
-        UINT notification;
-        void (ExtensionEditDialog::*act)();
-    };
-    static constexpr Row kRows[] = {
+    static constexpr Notification<ExtensionEditDialog> kRows[] = {
         {IDC_KEYWORD, EN_SETFOCUS, &ExtensionEditDialog::enterAdds},
         {IDC_KEYWORD, EN_KILLFOCUS, &ExtensionEditDialog::enterUpdates},
         {IDC_ADD_KEYWORD, BN_CLICKED, &ExtensionEditDialog::addKeyword},
         {IDC_REMOVE_KEYWORD, BN_CLICKED, &ExtensionEditDialog::removeKeyword},
         {IDC_IMPORT_KEYWORDS, BN_CLICKED, &ExtensionEditDialog::importKeywords},
     };
-    for (const Row& row : kRows) {
-        if (row.control == control && row.notification == notification) (this->*row.act)();
-    }
+    Dispatch(*this, kRows, control, notification);
 }
 
 void ExtensionEditDialog::enterAdds() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/dialog_fields.h"
 #include "ui/dialogs/extension_edit_dialog.h"
 #include "ui/resources/dialog_controls.h"
 
@@ -42,20 +43,13 @@ void FileExtensionsDialog::enableButtons() {
 }
 
 void FileExtensionsDialog::onControl(int control, UINT notification) {
-    struct Row {
-        int control;
-        UINT notification;
-        void (FileExtensionsDialog::*act)();
-    };
-    static constexpr Row kRows[] = {
+    static constexpr Notification<FileExtensionsDialog> kRows[] = {
         {IDC_EXTENSIONS, LBN_SELCHANGE, &FileExtensionsDialog::enableButtons},
         {IDC_EXTENSIONS, LBN_DBLCLK, &FileExtensionsDialog::editChosen},
         {IDC_NEW_EXTENSION, BN_CLICKED, &FileExtensionsDialog::makeNew},
         {IDC_DELETE_EXTENSION, BN_CLICKED, &FileExtensionsDialog::deleteChosen},
     };
-    for (const Row& row : kRows) {
-        if (row.control == control && row.notification == notification) (this->*row.act)();
-    }
+    Dispatch(*this, kRows, control, notification);
 }
 
 void FileExtensionsDialog::makeNew() {

@@ -1,8 +1,14 @@
 #include "ui/dialogs/replace_dialog.h"
 
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
+namespace {
+
+constexpr CheckBox<ReplaceDialogModel> kSwitches[] = {{IDC_REPLACE_ALL, &ReplaceDialogModel::replaceAll}};
+
+}  // namespace
 
 ReplaceDialog::ReplaceDialog(Application& application, FindCommands& commands, SearchHost& host)
     : SearchDialog(IDD_REPLACE, application, host),
@@ -12,13 +18,13 @@ ReplaceDialog::ReplaceDialog(Application& application, FindCommands& commands, S
 void ReplaceDialog::showFields() {
     SearchDialog::showFields();
     showCombo(IDC_REPLACE_TEXT, replaceHistory_, model_.replaceText);
-    setChecked(IDC_REPLACE_ALL, model_.replaceAll);
+    ShowFields(*this, model_, kSwitches);
 }
 
 void ReplaceDialog::readFields() {
     SearchDialog::readFields();
     model_.replaceText = textOf(IDC_REPLACE_TEXT);
-    model_.replaceAll = isChecked(IDC_REPLACE_ALL);
+    ReadFields(*this, model_, kSwitches);
 }
 
 void ReplaceDialog::enableButtons() {

@@ -1,6 +1,7 @@
 #include "ui/dialogs/search_dialog.h"
 
 #include "base/strings.h"
+#include "framework/dialog_fields.h"
 #include "framework/menu.h"
 #include "ui/dialogs/dialog_keys.h"
 #include "ui/dialogs/dialog_place.h"
@@ -9,14 +10,14 @@
 namespace vexa {
 namespace {
 
-struct CheckBox {
-    int control;
-    bool FindDialogModel::*value;
-};
-constexpr CheckBox kCheckBoxes[] = {
+constexpr CheckBox<FindDialogModel> kSwitches[] = {
     {IDC_WHOLE_WORD, &FindDialogModel::wholeWord},
     {IDC_MATCH_CASE, &FindDialogModel::matchCase},
     {IDC_REGULAR_EXPRESSION, &FindDialogModel::regularExpression},
+};
+constexpr RadioButton<FindDialogModel, bool> kDirections[] = {
+    {IDC_SEARCH_UP, &FindDialogModel::forward, false},
+    {IDC_SEARCH_DOWN, &FindDialogModel::forward, true},
 };
 
 bool IsTextField(HWND control) {
@@ -61,16 +62,12 @@ void SearchDialog::showCombo(int control, const HistoryList& history, const std:
 
 void SearchDialog::showFields() {
     showCombo(IDC_FIND_TEXT, findHistory_, model().findText);
-    for (const CheckBox& box : kCheckBoxes)
-        setChecked(box.control, model().*box.value);
-    checkRadio(IDC_SEARCH_UP, IDC_SEARCH_DOWN, model().forward ? IDC_SEARCH_DOWN : IDC_SEARCH_UP);
+    ShowFields(*this, model(), kSwitches, kDirections);
 }
 
 void SearchDialog::readFields() {
     model().findText = textOf(IDC_FIND_TEXT);
-    for (const CheckBox& box : kCheckBoxes)
-        model().*box.value = isChecked(box.control);
-    model().forward = isChecked(IDC_SEARCH_DOWN);
+    ReadFields(*this, model(), kSwitches, kDirections);
 }
 
 void SearchDialog::enableButtons() {
@@ -122,13 +119,27 @@ void SearchDialog::keepClearOf(const RECT& match) {
 
 // ---- what the user does ------------------------------------------------------------------------------------------
 
-// CBN_SELCHANGE arrives before the field's text changes.
 void SearchDialog::onControl(int control, UINT notification) {
-    if (control == IDC_PATTERN_PIECES && notification == BN_CLICKED) return choosePiece();
-    if (control == IDC_REGULAR_EXPRESSION && notification == BN_CLICKED) return patternChanged();
-    const bool isChosen = notification == CBN_SELCHANGE;
-    if (control != IDC_FIND_TEXT || (!isChosen && notification != CBN_EDITCHANGE)) return;
-    model().findText = isChosen ? chosenTextOf(control) : textOf(control);
+    static constexpr Notification<SearchDialog> kRows[] = {
+        {IDC_PATTERN_PIECES, BN_CLICKED, &SearchDialog::choosePiece},
+        {IDC_REGULAR_EXPRESSION, BN_CLICKED, &SearchDialog::patternChanged},
+        {IDC_FIND_TEXT, CBN_EDITCHANGE, &SearchDialog::textTyped},
+        {IDC_FIND_TEXT, CBN_SELCHANGE, &SearchDialog::textChosen},
+    };
+    Dispatch(*this, kRows, control, notification);
+}
+
+void SearchDialog::textTyped() {
+    useText(textOf(IDC_FIND_TEXT));
+}
+
+// The field itself has the chosen text only after this.
+void SearchDialog::textChosen() {
+    useText(chosenTextOf(IDC_FIND_TEXT));
+}
+
+void SearchDialog::useText(const std::string& text) {
+    model().findText = text;
     patternChanged();
     enableButtons();
 }

@@ -63,6 +63,9 @@ class SearchDialog : public EditorDialog {
     void choosePiece();
     void insertPiece(const PatternPiece& piece, DWORD selection);
     void patternChanged();
+    void textTyped();
+    void textChosen();
+    void useText(const std::string& text);
 
     SearchHost& host_;
     HistoryList findHistory_;

@@ -2,17 +2,14 @@
 
 #include "base/notices.h"
 #include "base/strings.h"
+#include "framework/dialog_fields.h"
 #include "framework/message_box.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
 namespace {
 
-struct CheckBox {
-    int control;
-    bool PageSetupModel::*value;
-};
-constexpr CheckBox kCheckBoxes[] = {
+constexpr CheckBox<PageSetupModel> kSwitches[] = {
     {IDC_PRINT_COLORS, &PageSetupModel::colours},
     {IDC_PRINT_LINE_NUMBERS, &PageSetupModel::lineNumbers},
     {IDC_PRINT_HEADER, &PageSetupModel::header},
@@ -20,15 +17,12 @@ constexpr CheckBox kCheckBoxes[] = {
 
 constexpr std::size_t kLengthLimit = 7;  // characters
 
-struct Field {
-    int control;
-    std::string PageSetupModel::Margins::*value;
-};
-constexpr Field kFields[] = {
-    {IDC_MARGIN_LEFT, &PageSetupModel::Margins::left},
-    {IDC_MARGIN_TOP, &PageSetupModel::Margins::top},
-    {IDC_MARGIN_RIGHT, &PageSetupModel::Margins::right},
-    {IDC_MARGIN_BOTTOM, &PageSetupModel::Margins::bottom},
+using Margins = PageSetupModel::Margins;
+constexpr TextField<Margins> kMargins[] = {
+    {IDC_MARGIN_LEFT, &Margins::left, kLengthLimit},
+    {IDC_MARGIN_TOP, &Margins::top, kLengthLimit},
+    {IDC_MARGIN_RIGHT, &Margins::right, kLengthLimit},
+    {IDC_MARGIN_BOTTOM, &Margins::bottom, kLengthLimit},
 };
 
 // The unit that the user has set in the system.
@@ -45,19 +39,13 @@ PageSetupDialog::PageSetupDialog(ConfigStore& store, PrintOptions& options, Prin
 
 void PageSetupDialog::onOpen() {
     setTextOf(IDC_MARGINS, FillText(TextId::MarginsIn, {NameOf(model_.unit)}));
-    for (const Field& field : kFields) {
-        limitTextOf(field.control, kLengthLimit);
-        setTextOf(field.control, model_.margins.*field.value);
-    }
-    for (const CheckBox& box : kCheckBoxes)
-        setChecked(box.control, model_.*box.value);
+    ShowFields(*this, model_.margins, kMargins);
+    ShowFields(*this, model_, kSwitches);
 }
 
 void PageSetupDialog::read() {
-    for (const Field& field : kFields)
-        model_.margins.*field.value = textOf(field.control);
-    for (const CheckBox& box : kCheckBoxes)
-        model_.*box.value = isChecked(box.control);
+    ReadFields(*this, model_.margins, kMargins);
+    ReadFields(*this, model_, kSwitches);
 }
 
 void PageSetupDialog::onAccept() {
@@ -68,7 +56,7 @@ void PageSetupDialog::onAccept() {
         return close(true);
     }
     tell(model_.refusal());
-    for (const Field& field : kFields) {
+    for (const TextField<Margins>& field : kMargins) {
         if (field.value == *bad) focusOn(field.control);
     }
 }
