@@ -20,7 +20,6 @@ HelpContainer::HelpContainer(std::string bytes) : bytes_(std::move(bytes)) {
         const std::int64_t offset = entry.i32();
         if (!entry.failed()) entries_.push_back({name, offset});
     });
-    std::ranges::stable_sort(entries_, {}, &Entry::name);
 }
 
 std::string_view HelpContainer::contentAt(std::int64_t offset) const {
@@ -34,8 +33,8 @@ std::string_view HelpContainer::contentAt(std::int64_t offset) const {
 }
 
 std::string_view HelpContainer::file(std::string_view name) const {
-    const auto found = std::ranges::lower_bound(entries_, name, {}, &Entry::name);
-    return found != entries_.end() && found->name == name ? contentAt(found->offset) : std::string_view();
+    const auto found = std::ranges::find(entries_, name, &Entry::name);
+    return found != entries_.end() ? contentAt(found->offset) : std::string_view();
 }
 
 }  // namespace vexa::topics

@@ -56,7 +56,7 @@ HelpIndex::HelpIndex(const HelpContainer& container) : container_(container), to
         const std::uint32_t offset = in.u32();
         if (!in.failed()) titles_.push_back({offset, in.text()});
     });
-    std::ranges::stable_sort(titles_, {}, &TopicTitle::offset);
+    std::ranges::sort(titles_, {}, &TopicTitle::offset);
     ByteReader in(container.file("|CTXOMAP"));
     const int count = in.u16();
     for (int i = 0; i < count && in.left() >= 8; ++i) {

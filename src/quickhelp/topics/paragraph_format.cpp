@@ -32,9 +32,9 @@ void ReadTabs(ByteReader& in, std::vector<TabStop>& tabs) {
     const int count = in.packedShort();
     for (int i = 0; i < count && !in.failed(); ++i) {
         const TabStop tab = ReadTab(in);
-        if (i < kMostTabs && !in.failed()) tabs.push_back(tab);
+        if (i >= kMostTabs || in.failed()) continue;
+        tabs.insert(std::ranges::upper_bound(tabs, tab.position, {}, &TabStop::position), tab);
     }
-    std::ranges::stable_sort(tabs, {}, &TabStop::position);
 }
 
 // Measures that are there only when their bit is set, in the order of the file.
