@@ -10,6 +10,11 @@ add_library(vexa_compile INTERFACE)
 target_include_directories(vexa_compile INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(vexa_compile INTERFACE
   -Wall -Wextra -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+if(WIN32)
+  # The program has one thread, so that nothing need guard the making of a static object, and asks for no type information.
+  target_compile_options(vexa_compile INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-fno-threadsafe-statics>
+                                                $<$<COMPILE_LANGUAGE:CXX>:-fno-rtti>)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(vexa_compile INTERFACE -Wduplicated-branches -Wlogical-op -Wsuggest-override)
 else()
@@ -50,6 +55,8 @@ endif()
 set(vexa_small_options -Os)
 if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
   list(APPEND vexa_small_options -mno-stack-arg-probe -mpreferred-stack-boundary=2 -Wframe-larger-than=4000)
+  # The linker makes one of equal inline functions, but not of the copies that GCC adapts to the calls of one file.
+  list(APPEND vexa_small_options -fno-declone-ctor-dtor -fno-ipa-sra -fno-ipa-cp)
 endif()
 
 function(vexa_small name)
@@ -75,17 +82,9 @@ function(vexa_share_unwind_heads name)
   endif()
 endfunction()
 
-# The Windows program has one thread, so that nothing need guard the making of a static object.
-function(vexa_one_thread name)
-  if(WIN32)
-    target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-threadsafe-statics>)
-  endif()
-endfunction()
-
 # One library a folder of src/. The libraries named after DEPENDS are the folders below it, the only ones it may include.
 function(vexa_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC vexa_compile ${ARG_DEPENDS})
-  vexa_one_thread(${name})
 endfunction()

@@ -18,7 +18,7 @@ constexpr std::size_t kRootLength = 3;  // "C:\\", which keeps its backslash
 const WindowClass kDocumentWindowClass{.name = "MDIchildCL", .icon = IDI_DOCUMENT};
 
 DocumentWindow::DocumentWindow(MDIframeCL& frame, DocumentHost& host, Application& application, Notices& notices)
-    : MDIchildCL(frame),
+    : TextWindow(frame),
       host_(host),
       options_(application.options),
       document_(application.options, notices),

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "document/view/edit_view.h"
-#include "framework/mdi_child.h"
 #include "ui/document/application.h"
 #include "ui/document/margin_window.h"
 #include "ui/document/pane_window.h"
@@ -33,9 +32,11 @@ class DocumentHost {
 
 extern const WindowClass kDocumentWindowClass;
 
-class DocumentWindow : public MDIchildCL, public TextWindow, private PaneHost, private MarginHost {
+class DocumentWindow : public TextWindow, private PaneHost, private MarginHost {
   public:
     DocumentWindow(MDIframeCL& frame, DocumentHost& host, Application& application, Notices& notices);
+
+    DocumentWindow* asDocument() override { return this; }
 
     TextDocument& document() { return document_; }
     const TextDocument& document() const { return document_; }

@@ -67,7 +67,7 @@ void ExternalCommands::registerCommands(CommandDispatcher& dispatcher) {
 // ---- lists -------------------------------------------------------------------------------------------------------
 
 ListWindow* ExternalCommands::activeList() const {
-    return dynamic_cast<ListWindow*>(documents_.frame().activeChild());
+    return documents_.activeList();
 }
 
 // What is copied are the rows of a list where one is active.

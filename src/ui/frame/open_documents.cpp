@@ -13,12 +13,14 @@ namespace vexa {
 // ---- taking over -------------------------------------------------------------------------------------------------
 
 void OpenDocuments::refreshFonts() {
-    each<TextWindow>([](TextWindow& window) { window.refreshFont(); });
+    for (const auto& child : frame_.children())
+        WindowOf(child.get())->refreshFont();
 }
 
 void OpenDocuments::refreshColours() {
     SetDarkTitleBar(frame_.window(), application_.display.isDark());
-    each<TextWindow>([](TextWindow& window) { window.refreshColours(); });
+    for (const auto& child : frame_.children())
+        WindowOf(child.get())->refreshColours();
 }
 
 void OpenDocuments::refreshOptions() {
@@ -57,7 +59,7 @@ ChildShow OpenDocuments::showOfNewWindow() const {
 bool OpenDocuments::activateShowing(const std::string& path, LineIndex line) {
     const FileIdentity file(path);
     for (const auto& child : frame_.children()) {
-        auto* shown = dynamic_cast<DocumentWindow*>(child.get());
+        DocumentWindow* shown = DocumentOf(child.get());
         if (!shown || !file.isFileOf(shown->document())) continue;
         frame_.activate(*shown);
         shown->view().goTo(line, CharColumn(0));
@@ -127,8 +129,8 @@ bool OpenDocuments::closeForExit() {
 
 std::vector<MDIchildCL*> OpenDocuments::inSessionOrder() const {
     std::vector<MDIchildCL*> documents = frame_.childrenByUse();
-    const auto isUnnamed = [](const MDIchildCL* child) {
-        const auto* shown = dynamic_cast<const DocumentWindow*>(child);
+    const auto isUnnamed = [](MDIchildCL* child) {
+        const DocumentWindow* shown = DocumentOf(child);
         return !shown || !shown->document().isNamed();
     };
     const auto named = std::ranges::stable_partition(documents, isUnnamed);

@@ -37,13 +37,21 @@ class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuest
     FileCommands& files() { return files_; }
     FileOpening& opening() { return opening_; }
 
+    // What a window inside the frame is to the editor, and the document's window if it is one; none for none.
+    static TextWindow* WindowOf(MDIchildCL* child) { return static_cast<TextWindow*>(child); }
+    static DocumentWindow* DocumentOf(MDIchildCL* child) { return child ? WindowOf(child)->asDocument() : nullptr; }
+
     // None when no window is open, or the active one shows no document.
-    DocumentWindow* active() const { return dynamic_cast<DocumentWindow*>(frame_.activeChild()); }
-    // Other windows of a kind can be asked for.
-    template <class Window = DocumentWindow, class Use>
+    DocumentWindow* active() const { return DocumentOf(frame_.activeChild()); }
+    // None when no window is open, or the active one shows no list.
+    ListWindow* activeList() const {
+        MDIchildCL* active = frame_.activeChild();
+        return active ? WindowOf(active)->asList() : nullptr;
+    }
+    template <class Use>
     void each(Use use) const {
         for (const auto& child : frame_.children()) {
-            if (auto* window = dynamic_cast<Window*>(child.get())) use(*window);
+            if (DocumentWindow* window = DocumentOf(child.get())) use(*window);
         }
     }
     // Lets an operation work on the edit view of the active document, if there is one, shows what it has done, and

@@ -74,7 +74,7 @@ void SearchCommands::toggleRegularExpression() {
 // The keyboard stays where it is, so that a dialog that searches can search on.
 void SearchCommands::search(const Search& search) {
     DocumentWindow* active = documents_.active();
-    const auto* list = dynamic_cast<const ListWindow*>(documents_.frame().activeChild());
+    const ListWindow* list = documents_.activeList();
     notices_.clearStatus();
     search({active ? &active->view() : nullptr, list ? &list->rows() : nullptr});
     if (list && dialog_) dialog_->keepClearOf(list->screenPlaceOfSelection());

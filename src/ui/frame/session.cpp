@@ -92,8 +92,8 @@ void Session::save() {
 // end.
 void Session::prepareEnd() {
     startupFiles_.keep();
-    for (const MDIchildCL* child : documents_.inSessionOrder()) {
-        const auto* shown = dynamic_cast<const DocumentWindow*>(child);
+    for (MDIchildCL* child : documents_.inSessionOrder()) {
+        const DocumentWindow* shown = OpenDocuments::DocumentOf(child);
         if (shown && shown->document().isNamed()) recordStartupFile(shown->document());
     }
     save();

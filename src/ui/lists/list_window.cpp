@@ -32,7 +32,7 @@ MenuHandle MakeMenu() {
 const WindowClass kListWindowClass{.name = "ListChildCL", .icon = IDI_DOCUMENT};
 
 ListWindow::ListWindow(MDIframeCL& frame, ListHost& host, ListRows& rows, Application& application, Gone gone)
-    : MDIchildCL(frame),
+    : TextWindow(frame),
       host_(host),
       rows_(rows),
       clipboard_(application.clipboard),
@@ -51,7 +51,7 @@ bool ListWindow::onFocusGained() {
 
 void ListWindow::onGone() {
     gone_();
-    MDIchildCL::onGone();
+    TextWindow::onGone();
 }
 
 void ListWindow::userActs() {

@@ -3,7 +3,6 @@
 
 #include <functional>
 
-#include "framework/mdi_child.h"
 #include "ui/document/application.h"
 #include "ui/document/text_window.h"
 #include "ui/lists/list_pane.h"
@@ -22,13 +21,14 @@ class ListHost {
 
 extern const WindowClass kListWindowClass;
 
-class ListWindow : public MDIchildCL, public TextWindow, private ListPaneHost {
+class ListWindow : public TextWindow, private ListPaneHost {
   public:
     // The owner is told when the window has gone, and the object is going to be destroyed.
     using Gone = std::function<void()>;
 
     ListWindow(MDIframeCL& frame, ListHost& host, ListRows& rows, Application& application, Gone gone);
 
+    ListWindow* asList() override { return this; }
     ListRows& rows() const { return rows_; }
     RECT screenPlaceOfSelection() const { return pane_.screenPlaceOfSelection(); }
     // The selected rows go to the clipboard as lines of text.
