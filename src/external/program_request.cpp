@@ -1,18 +1,9 @@
 #include "external/program_request.h"
 
-#include <algorithm>
-
+#include "base/fixed_field.h"
 #include "base/platform.h"
 
 namespace vexa {
-
-namespace {
-
-std::string Limited(std::string_view text, std::size_t limit) {
-    return std::string(text.substr(0, std::min(text.find('\0'), limit)));
-}
-
-}  // namespace
 
 ProgramRequest::ProgramRequest(std::string_view program, std::string_view arguments, std::string_view directory) {
     setProgram(program);
@@ -21,19 +12,19 @@ ProgramRequest::ProgramRequest(std::string_view program, std::string_view argume
 }
 
 void ProgramRequest::setProgram(std::string_view text) {
-    program_ = Limited(text, kTextLimit);
+    program_ = LimitedText(text, kTextLimit);
 }
 
 void ProgramRequest::setMenuText(std::string_view text) {
-    menuText_ = Limited(text, kMenuTextLimit);
+    menuText_ = LimitedText(text, kMenuTextLimit);
 }
 
 void ProgramRequest::setArguments(std::string_view text) {
-    arguments_ = Limited(text, kTextLimit);
+    arguments_ = LimitedText(text, kTextLimit);
 }
 
 void ProgramRequest::setDirectory(std::string_view text) {
-    directory_ = Limited(text, kTextLimit);
+    directory_ = LimitedText(text, kTextLimit);
 }
 
 std::string ProgramRequest::description() const {

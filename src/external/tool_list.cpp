@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/file.h"
+#include "base/fixed_field.h"
 
 namespace vexa {
 
@@ -32,41 +33,23 @@ constexpr TextField kTextFields[] = {
     {kTextField, &ProgramRequest::directory, &ProgramRequest::setDirectory},
 };
 
-std::string_view Take(std::string_view& bytes, std::size_t size) {
-    const std::string_view field = bytes.substr(0, size);
-    bytes.remove_prefix(field.size());
-    return field;
-}
-
-std::uint8_t TakeByte(std::string_view& bytes) {
-    return static_cast<std::uint8_t>(Take(bytes, 1).front());
-}
-
-std::uint16_t TakeNumber(std::string_view& bytes) {
-    const unsigned low = TakeByte(bytes);
-    return static_cast<std::uint16_t>(low | TakeByte(bytes) * 256u);
-}
-
 // A kind that does not exist counts as a program of Windows, as a file of no known kind does.
 ProgramKind KindOf(std::uint16_t number) {
     const bool exists = number <= static_cast<std::uint16_t>(ProgramKind::Interpreter);
     return exists ? static_cast<ProgramKind>(number) : ProgramKind::Windows;
 }
 
+// The record is whole.
 ProgramRequest DecodeTool(std::string_view record) {
+    FieldReader reader(record);
     ProgramRequest tool;
-    tool.capture = TakeByte(record) != 0;
-    tool.askForArguments = TakeByte(record) != 0;
-    tool.kind = KindOf(TakeNumber(record));
-    tool.showMode = static_cast<ShowMode>(TakeNumber(record));
+    tool.capture = reader.byte() != '\0';
+    tool.askForArguments = reader.byte() != '\0';
+    tool.kind = KindOf(reader.number().value_or(0));
+    tool.showMode = static_cast<ShowMode>(reader.number().value_or(0));
     for (const TextField& field : kTextFields)
-        (tool.*field.set)(Take(record, field.size));
+        (tool.*field.set)(reader.text(field.size).value_or(std::string_view()));
     return tool;
-}
-
-void AddNumber(std::string& bytes, std::uint16_t number) {
-    bytes += static_cast<char>(number & 0xFF);
-    bytes += static_cast<char>(number >> 8);
 }
 
 void AddTool(std::string& bytes, const ProgramRequest& tool) {
@@ -74,20 +57,21 @@ void AddTool(std::string& bytes, const ProgramRequest& tool) {
     bytes += static_cast<char>(tool.askForArguments);
     AddNumber(bytes, static_cast<std::uint16_t>(tool.kind));
     AddNumber(bytes, static_cast<std::uint16_t>(tool.showMode));
-    for (const TextField& field : kTextFields) {
-        const std::string& text = (tool.*field.get)();
-        bytes.append(text).append(field.size - text.size(), '\0');
-    }
+    for (const TextField& field : kTextFields)
+        AddText(bytes, (tool.*field.get)(), field.size);
 }
 
 }  // namespace
 
 Tools DecodeTools(std::string_view bytes) {
     Tools tools;
-    if (bytes.empty()) return tools;
-    const std::size_t count = std::min<std::size_t>(TakeByte(bytes), kMostTools);
-    while (tools.size() < count && bytes.size() >= kRecordSize)
-        tools.push_back(DecodeTool(Take(bytes, kRecordSize)));
+    FieldReader reader(bytes);
+    const auto count = static_cast<unsigned char>(reader.byte().value_or('\0'));
+    while (tools.size() < std::min<std::size_t>(count, kMostTools)) {
+        const auto record = reader.text(kRecordSize);
+        if (!record) break;
+        tools.push_back(DecodeTool(*record));
+    }
     return tools;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/ascii.h"
 #include "base/file.h"
+#include "base/fixed_field.h"
 #include "language/profile_file.h"
 
 namespace vexa {
@@ -20,10 +21,6 @@ constexpr const char* kBuiltInKeywords[] = {
     "unsigned", "virtual",  "void",   "volatile", "while"};
 static_assert(std::size(kBuiltInKeywords) == 55);
 
-std::string Cut(std::string_view text, std::size_t limit) {
-    return std::string(text.substr(0, std::min(limit, text.find('\0'))));
-}
-
 }  // namespace
 
 ExtensionProfile::ExtensionProfile()
@@ -32,39 +29,39 @@ ExtensionProfile::ExtensionProfile()
       commentEnd_("*/"),
       lineComment_("//"),
       // The marker of the built-in profile: no file name has this extension.
-      extension_(Cut("*.TXT", kExtensionLimit)),
+      extension_(LimitedText("*.TXT", kExtensionLimit)),
       preprocessor_('#'),
       stringQuote_('"'),
       version_(kProfileVersion),
       keywords_(std::begin(kBuiltInKeywords), std::end(kBuiltInKeywords)) {}
 
 void ExtensionProfile::setDescription(std::string_view text) {
-    description_ = Cut(text, kDescriptionLimit);
+    description_ = LimitedText(text, kDescriptionLimit);
 }
 
 void ExtensionProfile::setDelimiters(std::string_view text) {
-    delimiters_ = Cut(text, kDelimiterLimit);
+    delimiters_ = LimitedText(text, kDelimiterLimit);
 }
 
 void ExtensionProfile::setCommentStart(std::string_view text) {
-    commentStart_ = Cut(text, kCommentLimit);
+    commentStart_ = LimitedText(text, kCommentLimit);
 }
 
 void ExtensionProfile::setCommentEnd(std::string_view text) {
-    commentEnd_ = Cut(text, kCommentLimit);
+    commentEnd_ = LimitedText(text, kCommentLimit);
 }
 
 void ExtensionProfile::setLineComment(std::string_view text) {
-    lineComment_ = Cut(text, kCommentLimit);
+    lineComment_ = LimitedText(text, kCommentLimit);
 }
 
 void ExtensionProfile::setExtension(std::string_view text) {
-    extension_ = Cut(text, kExtensionLimit);
+    extension_ = LimitedText(text, kExtensionLimit);
 }
 
 void ExtensionProfile::replaceKeywords(std::vector<std::string> keywords) {
     for (std::string& keyword : keywords)
-        keyword = Cut(keyword, kKeywordLimit);
+        keyword = LimitedText(keyword, kKeywordLimit);
     std::erase(keywords, "");
     keywords.resize(std::min(keywords.size(), kKeywordCountLimit));
     keywords_ = std::move(keywords);

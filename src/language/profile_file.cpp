@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/ascii.h"
+#include "base/fixed_field.h"
 
 namespace vexa {
 
@@ -31,51 +32,18 @@ constexpr TextField kTextFields[] = {
     {3, &ExtensionProfile::lineComment, &ExtensionProfile::setLineComment},
 };
 
-// Takes fields off the front of the bytes; none when fewer are left than the field needs.
-class FieldReader {
-  public:
-    explicit FieldReader(std::string_view bytes) : rest_(bytes) {}
-
-    std::optional<std::string_view> text(std::size_t size) {
-        if (rest_.size() < size) return std::nullopt;
-        const std::string_view field = rest_.substr(0, size);
-        rest_.remove_prefix(size);
-        return field;
-    }
-
-    std::optional<std::uint16_t> number() {
-        const auto field = text(2);
-        if (!field) return std::nullopt;
-        const auto byte = [&](std::size_t i) { return static_cast<unsigned char>((*field)[i]); };
-        return static_cast<std::uint16_t>(byte(0) | byte(1) << 8);
-    }
-
-  private:
-    std::string_view rest_;
-};
-
-void AddText(std::string& bytes, std::string_view text, std::size_t size) {
-    bytes.append(text);
-    bytes.append(size - text.size(), '\0');
-}
-
-void AddNumber(std::string& bytes, std::size_t number) {
-    bytes += static_cast<char>(number & 0xFF);
-    bytes += static_cast<char>(number >> 8 & 0xFF);
-}
-
 bool DecodeFields(FieldReader& reader, ExtensionProfile& profile) {
     for (const TextField& field : kTextFields) {
         const auto text = reader.text(field.size);
         if (!text) return false;
         (profile.*field.set)(*text);
     }
-    const auto quote = reader.text(1);
+    const auto quote = reader.byte();
     if (!quote) return false;
-    profile.setStringQuote(quote->front());
-    const auto preprocessor = reader.text(1);
+    profile.setStringQuote(*quote);
+    const auto preprocessor = reader.byte();
     if (!preprocessor) return false;
-    profile.setPreprocessor(preprocessor->front());
+    profile.setPreprocessor(*preprocessor);
     return true;
 }
 
