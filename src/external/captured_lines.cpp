@@ -23,7 +23,7 @@ std::string_view UpToCarriageReturn(std::string_view line) {
     return line.substr(0, line.find('\r'));
 }
 
-// None when the line may go on behind the text.
+// None when the line may go on after the text.
 std::optional<CutLine> CutFirst(std::string_view text, bool atEnd) {
     const std::size_t end = text.substr(0, kLongestWithEnd).find('\n');
     const bool fits = end <= kCapturedLineLimit || (end == kCapturedLineLimit + 1 && text[end - 1] == '\r');

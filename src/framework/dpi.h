@@ -1,4 +1,4 @@
-// The resolution of monitors, on systems that know one a monitor and on those that know one for all.
+// The resolution of a monitor; older systems have one resolution for all of them.
 #pragma once
 
 #include <windows.h>

@@ -38,7 +38,7 @@ class Selected {
     HGDIOBJ previous_;
 };
 
-// A picture in memory that is drawn on first and shown at once, so that nobody sees it half drawn.
+// A picture in memory: drawn first, then shown at once, so that nobody sees it half drawn.
 class OffScreenBitmap {
   public:
     OffScreenBitmap() = default;
@@ -49,7 +49,7 @@ class OffScreenBitmap {
     // Makes the picture at least so large, in pixels, for windows like that of the context. A device context to draw
     // on, or none when there is no memory for it.
     HDC prepare(HDC like, int width, int height);
-    // Shows the picture's first width x height pixels at a place of the target.
+    // Shows the picture's first width x height pixels at a position of the target.
     void show(HDC target, int x, int y, int width, int height) const;
 
   private:

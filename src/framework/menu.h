@@ -35,7 +35,7 @@ WORD ChooseFromMenu(HWND owner, POINT corner, const std::vector<MenuItem>& items
 MenuHandle MakeMenuBar(const std::vector<MenuRows>& menus);
 
 // Puts items in before the one with a number, in the place of those that it put there before, and a separator
-// behind them. The items and the separator must have numbers of their own.
+// after them. The items and the separator must have numbers of their own.
 void ReplaceItemsBefore(HMENU menu, WORD before, const std::vector<WORD>& numbers, const std::vector<MenuItem>& items,
                         WORD separator);
 

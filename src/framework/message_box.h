@@ -7,7 +7,7 @@
 
 namespace vexa {
 
-// Sounds the exclamation beep and shows a box with the exclamation sign. Buttons is MB_OK, MB_YESNO or MB_YESNOCANCEL;
+// Sounds the exclamation beep and shows a box with the exclamation icon. Buttons is MB_OK, MB_YESNO or MB_YESNOCANCEL;
 // the answer is the id of the button, IDCANCEL for a box that could not be shown.
 int ShowBox(HWND owner, const std::string& text, const std::string& caption, UINT buttons);
 

@@ -44,7 +44,7 @@ WheelMessage ReadWheel(const Message& message, WheelAxis axis) {
     return {axis, static_cast<short>(HIWORD(message.wParam)), (keys & MK_SHIFT) != 0, (keys & MK_CONTROL) != 0};
 }
 
-// The keyboard's menu key has no place: both coordinates are -1.
+// The keyboard's menu key has no position: both coordinates are -1.
 std::optional<POINT> ReadMenuPlace(const Message& message) {
     if (message.lParam == -1) return std::nullopt;
     return ReadPlace(message);

@@ -31,8 +31,8 @@ struct HelpFileEntry {
 
 // Looks for the first internal file with one of the names in the directory that begins at an offset.
 //
-// Entries are asked for by number, and the number of the first entry of a page other than page 0 leads behind the last
-// entry of the page before it. That entry is therefore never found, and what stands behind the last one of a page is
+// Entries are asked for by number, and the number of the first entry of a page other than page 0 leads past the last
+// entry of the page before it. That entry is therefore never found, and what follows the last one of a page is
 // taken for an entry. A name of more than 50 characters before the wanted one ends the search.
 HelpFileEntry FindInternalFile(HelpFileReader& reader, std::uint32_t directoryStart,
                                std::initializer_list<std::string_view> names);

@@ -30,7 +30,7 @@ class HelpFileReader {
     std::uint8_t number8();
     std::uint16_t number16();
     std::uint32_t number32();
-    // The characters before the next byte 0, the first kept ones of them; goes behind that byte.
+    // The characters before the next byte 0, the first kept ones of them; moves past that byte.
     std::string text(std::size_t kept);
     // The same of a text that ends with this many bytes if no byte 0 comes before.
     std::string textIn(std::size_t bytes);

@@ -52,7 +52,7 @@ int FirstLeaf(const Tree& tree) {
     return number;
 }
 
-// Reads the entries of a leaf. The next leaf, -1 behind the last, or -2 for a damaged one.
+// Reads the entries of a leaf. The next leaf, -1 after the last, or -2 for a damaged one.
 int ReadLeaf(std::string_view page, const std::function<void(ByteReader&)>& readEntry) {
     ByteReader in(page);
     in.skip(2);

@@ -1,5 +1,5 @@
 // Reads the little-endian numbers and texts of a help file one after the other. A read past the end gives zeros and is
-// remembered (failed), so that a reader may check once behind several fields.
+// remembered (failed), so that a reader may check once after several fields.
 #pragma once
 
 #include <algorithm>

@@ -39,7 +39,7 @@ std::optional<Keyword> BestKeyword(const std::vector<Keyword>& keywords, std::st
     return best;
 }
 
-// Decimal or, behind "0x", hexadecimal.
+// Decimal or, after "0x", hexadecimal.
 std::int32_t NumberOf(std::string_view text) {
     const bool isHexadecimal = BeginsWith(text, "0x");
     if (isHexadecimal) text.remove_prefix(2);

@@ -66,7 +66,7 @@ class HelpBrowser {
 
     // The link of a topic that is shown, in the window or in the pop-up.
     BrowserOutcome follow(const ShownTopic& from, const Link& link);
-    // To a place of the file that is shown.
+    // To a position of the file that is shown.
     BrowserOutcome goTo(std::uint32_t offset);
     BrowserOutcome toContents();
     BrowserOutcome back();

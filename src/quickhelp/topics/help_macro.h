@@ -13,7 +13,7 @@ struct MacroCall {
     std::string text;                    // the whole call as it stands in the file
 };
 
-// The calls of a macro text, which stand behind each other with ";" or ":" between them. What is no call is passed
+// The calls of a macro text, which follow each other with ";" or ":" between them. What is no call is passed
 // over.
 std::vector<MacroCall> ReadMacros(std::string_view text);
 

@@ -36,7 +36,7 @@ struct HelpSystem {
     const HelpWindow* window(int number) const;
     int windowNamed(std::string_view name) const;
 
-    // The first compiler counted places in bytes of |TOPIC.
+    // The first compiler counted positions in bytes of |TOPIC.
     bool isFirstVersion() const { return minor <= 16; }
 };
 

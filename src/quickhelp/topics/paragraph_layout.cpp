@@ -36,7 +36,7 @@ class LineInMaking {
     const LayoutSource& source_;
     const ParagraphFormat& format_;
     int origin_;
-    int x_;            // where the segment behind the last tab begins
+    int x_;            // where the segment after the last tab begins
     int segment_ = 0;  // its width
     std::size_t segmentStart_ = 0;
     TabKind kind_ = TabKind::Left;

@@ -27,7 +27,7 @@ struct PictureHeader {
     std::uint32_t hotspotSize = 0;
     std::uint32_t packedOffset = 0;
     std::uint32_t hotspotOffset = 0;
-    std::string_view palette;  // behind the header
+    std::string_view palette;  // after the header
 
     std::string_view packed() const { return part(packedOffset, packedSize); }
     std::string_view hotspots() const { return part(hotspotOffset, hotspotSize); }

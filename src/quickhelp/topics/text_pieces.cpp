@@ -19,7 +19,7 @@ PieceKind KindOf(const Run& run, char c) {
 // the text.
 constexpr std::uint32_t kLongestPiece = 256;
 
-// A word ends behind the blanks that follow it, or in front of a tab or break.
+// A word ends after the blanks that follow it, or before a tab or break.
 std::uint32_t EndOfWord(std::string_view text, std::uint32_t start, std::uint32_t limit) {
     limit = std::min(limit, start + kLongestPiece);
     std::uint32_t end = start;

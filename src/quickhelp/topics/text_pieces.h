@@ -19,7 +19,7 @@ struct Piece {
     int inkWidth = 0;  // without them
     int ascent = 0;
     int descent = 0;
-    bool mayEndLine = false;  // a line may be broken behind it
+    bool mayEndLine = false;  // a line may be broken after it
 };
 
 std::vector<Piece> CutIntoPieces(const LayoutSource& source, const Paragraph& paragraph);

@@ -19,7 +19,7 @@ struct TopicLink {
     std::size_t block = 0;
     std::int64_t size = 0;        // of the whole record
     std::int64_t textSize = 0;    // of its text when it is unpacked
-    std::int64_t next = -1;       // place of the next record, -1 behind the last
+    std::int64_t next = -1;       // place of the next record, -1 after the last
     std::int64_t formatSize = 0;  // of its header and first part
     LinkType type = LinkType::Text;
 
@@ -36,9 +36,9 @@ class TopicLinks {
 
     // None when no sound record begins there.
     std::optional<TopicLink> at(std::uint32_t place) const;
-    // The bytes of a record behind its header, at most limit of them; valid until the next call.
+    // The bytes of a record after its header, at most limit of them; valid until the next call.
     std::string_view content(const TopicLink& link, std::int64_t limit = kLongestLink) const;
-    // The first record of the next sound block behind the given place: where to go on behind a fault.
+    // The first record of the next sound block after the given place: where to go on after a fault.
     std::optional<std::uint32_t> firstBehind(std::uint32_t place) const;
 
   private:

@@ -26,7 +26,7 @@ struct LinkArea {
     int link = -1;  // index in Topic::links
 };
 
-// In the order of the text, hotspots of pictures behind the picture. A link that is broken into lines has several.
+// In the order of the text, hotspots of pictures after the picture. A link that is broken into lines has several.
 std::vector<LinkArea> LinkAreas(const LaidRegion& region, const Topic& topic);
 std::optional<int> LinkAt(const std::vector<LinkArea>& areas, int x, int y);
 // The link that the keyboard goes to from one (-1: from none), round at the ends; -1 where there are none.
@@ -34,12 +34,12 @@ int NextLink(const std::vector<LinkArea>& areas, int link, bool forward);
 
 // The position nearest to a point of the region.
 TextPosition PositionAt(const LaidRegion& region, const LayoutSource& source, int x, int y);
-// What to show as marked between two positions, of which the first is not behind the second.
+// What to show as marked between two positions, of which the first is not after the second.
 std::vector<Box> SelectionBoxes(const LaidRegion& region, const LayoutSource& source, TextPosition from,
                                 TextPosition to);
 // The marked text for the clipboard: lines end in CR LF, cells of a row are apart by tabs, pictures are left out.
 std::string TextBetween(const Topic& topic, TextPosition from, TextPosition to);
-// The first place of a text at or behind a position; none for an empty text. Letter case counts only where asked.
+// The first occurrence of a text at or after a position; none for an empty text. Letter case counts only where asked.
 std::optional<TextPosition> FindText(const Topic& topic, std::string_view text, TextPosition from, bool matchCase);
 // The height at which a position's line begins, none where the region does not hold it.
 std::optional<int> TopOf(const LaidRegion& region, TextPosition position);

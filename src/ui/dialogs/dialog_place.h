@@ -6,7 +6,7 @@
 
 namespace vexa {
 
-// A place of the screen, in pixels; right and bottom are the first ones outside.
+// A rectangle of the screen, in pixels; right and bottom are the first ones outside.
 struct ScreenArea {
     std::int32_t left = 0;
     std::int32_t top = 0;

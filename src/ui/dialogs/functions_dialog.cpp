@@ -5,7 +5,7 @@
 namespace vexa {
 namespace {
 
-constexpr UINT kNameColumn = 28;  // behind the line number, in dialog units
+constexpr UINT kNameColumn = 28;  // after the line number, in dialog units
 constexpr std::size_t kFilterCharacters = 60;
 
 }  // namespace

@@ -38,7 +38,7 @@ class SearchDialog : public EditorDialog {
     bool useKey(MSG& message, const KeyEvent& event);
     // Closes the dialog as its Cancel button does; false when it is not open.
     bool leave();
-    // Moves aside where the dialog lies over a match, given by its place on the screen.
+    // Moves aside where the dialog lies over a match, given as a rectangle of the screen.
     void keepClearOf(const RECT& match);
 
   protected:

@@ -19,7 +19,7 @@ struct KeyPress {
     bool alt = false;
 };
 
-// A key that the view has used must not also arrive as the character that the system makes of it.
+// A key used by the view must not also arrive as the character that the system makes of it.
 class KeyTranslator {
   public:
     // The keystroke to offer to the view; none for a key that only types.

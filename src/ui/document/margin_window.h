@@ -14,7 +14,7 @@ namespace vexa {
 class MarginHost {
   public:
     virtual ~MarginHost() = default;
-    // The user has pressed the mouse beside a line; the place is one of the screen.
+    // The user has pressed the mouse beside a line, at a point of the screen.
     virtual void marginPressed(POINT screenPlace, bool shift) = 0;
     virtual void marginWheel(const WheelMessage& turn) = 0;
 };

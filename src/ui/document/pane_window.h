@@ -29,7 +29,7 @@ class PaneHost {
     virtual void commandFailed() = 0;
     // The user wants larger characters, or smaller ones below 0.
     virtual void zoom(std::int32_t steps) = 0;
-    // The user wants the pop-up menu, at a place of the screen.
+    // The user wants the pop-up menu, at a point of the screen.
     virtual void showContextMenu(POINT screenPlace) = 0;
 };
 
@@ -48,7 +48,7 @@ class PaneWindowCL : public WindowCL {
     void refreshFont();
     // Takes over the colours in force.
     void refreshColours();
-    // Follows the mouse, whose button was pressed at a place of the screen beside the pane, and marks lines.
+    // Follows the mouse, whose button was pressed at a point of the screen beside the pane, and marks lines.
     void startMarkingLines(POINT screenPlace, bool extend);
     bool onWheel(const WheelMessage& turn) override;
 

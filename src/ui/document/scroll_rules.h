@@ -22,7 +22,8 @@ ScrollState Shown(ScrollState state);
 bool ThumbMoves(const ScrollState& from, const ScrollState& to, std::int32_t pixels);
 
 // The position that a request of a scroll bar asks for, not below 0. Requests are numbered as Windows numbers them
-// (SB_LINEUP and so on); track is the place that the user has dragged the thumb to. Unknown requests move nothing.
+// (SB_LINEUP and so on); `track` is the position to which the user has dragged the thumb. Unknown requests move
+// nothing.
 std::int32_t ScrollTarget(unsigned request, const ScrollState& state, std::int32_t track);
 
 // Turns the steps of a wheel, which can be smaller than a notch, into whole lines.

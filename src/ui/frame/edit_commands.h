@@ -1,4 +1,4 @@
-// The commands that the edit view carries out, and those that ask where to go in the text.
+// The commands carried out by the edit view, and those that ask where to go in the text.
 #pragma once
 
 #include "base/config_store.h"

@@ -26,7 +26,7 @@ bool MacroCommands::holdKey(const MSG& message) {
     return true;
 }
 
-// A play that is asked for while another goes on does nothing, and the keys go on waiting for the end of that one.
+// Asked for while another playback goes on, a playback does nothing; keys keep waiting for the end of the first.
 void MacroCommands::play() {
     if (macro_.isPlaying()) return;
     macro_.Play();

@@ -1,4 +1,4 @@
-// Carries out the steps of a macro that is played, each in the way that it took when the user did it.
+// Carries out the steps of a macro, each in the way that it took when the user did it.
 #pragma once
 
 #include "shell/command_dispatcher.h"

@@ -71,7 +71,7 @@ void SearchCommands::toggleRegularExpression() {
     if (dialog_) dialog_->refreshOptions(application_.searchOptions);
 }
 
-// The keyboard stays where it is, so that a dialog that searches can search on.
+// The keyboard stays where it is, so that a search dialog can search on.
 void SearchCommands::search(const Search& search) {
     DocumentWindow* active = documents_.active();
     const ListWindow* list = documents_.activeList();

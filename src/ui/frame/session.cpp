@@ -36,7 +36,7 @@ void Session::openFirstFiles(std::span<const FileAtLine> files) {
     documents_.opening().OpenCommandLineFiles(files);
 }
 
-// A new document under the name of a file that has gone since is nothing that the user asked for.
+// A new document under the name of a file that has gone since is not what the user asked for.
 void Session::restoreFile(const std::string& path, std::int32_t line) {
     if (platform::PathExists(path)) {
         documents_.opening().OpenFileAtLine(path, line);

@@ -1,4 +1,4 @@
-// What the editor brings over from one session to the next: its files, its options, its place on the screen.
+// What the editor brings over from one session to the next: its files, its options, its position on the screen.
 #pragma once
 
 #include <cstdint>

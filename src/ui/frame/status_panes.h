@@ -18,7 +18,7 @@ enum StatusPane : std::size_t {
     kPositionPane,
 };
 
-// What the bar needs room for, behind the message.
+// What the bar needs room for after the message.
 std::vector<std::string> WidestPaneTexts();
 // With no document the panes are empty.
 void ShowDocumentPanes(StatusBarCL& bar, const DocumentWindow* window);

@@ -1,4 +1,4 @@
-// The commands and keys that expand words, list functions and open the files that a text names.
+// The commands and keys to expand words, list functions and open the files that a text names.
 #pragma once
 
 #include "shell/command_dispatcher.h"

@@ -1,5 +1,5 @@
 // The viewer of help files: a window of its own beside the frame. It is made when it is first needed and may be closed
-// and opened again; its place is remembered.
+// and opened again; its position is remembered.
 #pragma once
 
 #include <string>

@@ -44,7 +44,7 @@ class TopicPane : public WindowCL {
     void refreshColours();
     void copy();
     void selectAll();
-    // Selects the next place of a text behind the selection; false when there is none.
+    // Selects the next occurrence of a text after the selection; false when there is none.
     bool findNext(const std::string& text);
     // On the screen, below the link that was followed last.
     POINT linkPlace() const { return linkPlace_; }
