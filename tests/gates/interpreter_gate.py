@@ -5,9 +5,6 @@ load as the program is.
 usage: interpreter_gate.py VexaDOS.PIF
 """
 
-import sys
-from pathlib import Path
-
 import pefile
 
 import program_gate
@@ -26,12 +23,5 @@ def faults(data):
         yield f"has {len(data)} bytes, and must have fewer than {LARGEST}"
 
 
-def main():
-    data = Path(sys.argv[1]).read_bytes()
-    found = list(faults(data))
-    print("\n".join(found) if found else f"{len(data)} bytes")
-    sys.exit(1 if found else 0)
-
-
 if __name__ == "__main__":
-    main()
+    program_gate.judge(faults)

@@ -81,12 +81,13 @@ def faults(data):
         yield f"has {len(data)} bytes, and must have fewer than {LARGEST_PROGRAM}"
 
 
-def main():
+def judge(faults_of):
+    """Prints the faults of the program that the command line names; ends with 1 when there are any."""
     data = Path(sys.argv[1]).read_bytes()
-    found = list(faults(data))
+    found = list(faults_of(data))
     print("\n".join(found) if found else f"{len(data)} bytes")
     sys.exit(1 if found else 0)
 
 
 if __name__ == "__main__":
-    main()
+    judge(faults)
