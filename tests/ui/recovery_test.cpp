@@ -2,6 +2,7 @@
 // VEXA_KILLS says how often it is killed at random, VEXA_KILL_SEED at which moments.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cwchar>
 #include <random>
@@ -179,7 +180,7 @@ class KilledRun {
         const DWORD life = random_() % 9000;
         for (int word = 0; GetTickCount() - begin < life; ++word) {
             Typed& typed = typed_[current_];
-            const std::string text = std::string(1, "NAB"[current_]) + std::to_string(word) + " ";
+            const std::string text = std::string(1, "NST"[current_]) + std::to_string(word) + " ";
             editor.keys(text);
             typed.text += text;
             typed.lengths.emplace_back(GetTickCount(), typed.text.size());
@@ -205,11 +206,14 @@ class KilledRun {
     // All texts that the editor and the files have now, where each word that had to come back is looked for.
     void check(const Editor& editor) {
         std::string all = folder.get("a.txt") + folder.get("b.txt");
-        EXPECT_EQ(folder.get("b.txt"), "b\r\n") << "it was never saved";
-        const std::string saved = folder.get("a.txt");
-        EXPECT_TRUE(saved == "a\r\n" || (saved.starts_with("A") && saved.ends_with("a\r\n")) ||
-                    folder.get("a.txt.vx0").ends_with("a\r\n"))
-            << saved;
+        for (const std::string name : {"a", "b"}) {
+            const std::string file = folder.get(name + ".txt");
+            const std::string last = name + "\r\n";
+            const std::string_view typed =
+                std::string_view(file).substr(0, file.size() - std::min(file.size(), last.size()));
+            const bool isWhole = file.ends_with(last) && typed_[1].text.starts_with(typed);
+            EXPECT_TRUE(isWhole || folder.get(name + ".txt.vx0").ends_with(last)) << file;
+        }
         for (std::size_t i = 0; i < editor.documents().size(); ++i) {
             all += CopiedText(editor);
             editor.runCommand(CommandId::NextWindow);
@@ -219,7 +223,7 @@ class KilledRun {
     }
 
     TestFolder folder;
-    // In the order in which the windows follow each other: the new one, a.txt and b.txt.
+    // In the order in which the windows follow each other, the new one first. The second is saved now and then.
     Typed typed_[3];
     std::size_t current_ = 0;
     DWORD killed_ = 0;
