@@ -20,8 +20,8 @@ using topics::BrowserOutcome;
 
 constexpr WindowClass kHelpClass{.name = kHelpWindowClass, .background = COLOR_3DFACE, .icon = IDI_VEXA};
 constexpr const char* kSection = "Help Window";
-constexpr ScreenRect kFirstPlace{80, 60, 640, 520};
-constexpr UINT kAskMessage = WM_APP + 1;  // the outcome to ask about
+constexpr ScreenRect kFirstPlace{80, 60, 640, 520};  // at the normal resolution
+constexpr UINT kAskMessage = WM_APP + 1;             // the outcome to ask about
 constexpr WORD kFirstCommand = 1;
 constexpr int kGap = 3;  // pixels at the normal resolution, as is the other
 constexpr int kButtonEdges = 16;
@@ -243,7 +243,9 @@ void HelpWindow::placeFirst() {
     const auto number = [this](const char* key, std::int32_t fallback) {
         return store_.ReadInt(kSection, key, fallback);
     };
-    const ScreenRect& first = kFirstPlace;
+    const int dpi = DpiOf(window());
+    const ScreenRect first{kFirstPlace.x, kFirstPlace.y, Scaled(kFirstPlace.width, dpi),
+                           Scaled(kFirstPlace.height, dpi)};
     ScreenRect place{number("x", first.x), number("y", first.y), number("cx", first.width), number("cy", first.height)};
     if (place.width <= 0 || place.height <= 0) place = first;
     const ScreenRect areas[] = {WorkAreaNear(place)};
