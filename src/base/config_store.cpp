@@ -1,6 +1,7 @@
 #include "base/config_store.h"
 
 #include "base/ascii.h"
+#include "base/file.h"
 #include "base/platform.h"
 
 namespace vexa {
@@ -25,7 +26,8 @@ std::string SettingsFileOf(const std::string& executable) {
     return dot == std::string::npos ? executable : executable.substr(0, dot) + ".INI";
 }
 
-ConfigStore::ConfigStore(const std::string& settingsFile) : path_(settingsFile.substr(0, kPathLimit)) {}
+ConfigStore::ConfigStore(const std::string& settingsFile)
+    : path_(settingsFile.substr(0, kPathLimit)), isReadable_(ReadKeptFile(path_, 0).has_value()) {}
 
 std::string ConfigStore::ReadString(const std::string& section, const std::string& key, const std::string& fallback,
                                     std::size_t size) const {
@@ -42,7 +44,7 @@ void ConfigStore::WriteString(const std::string& section, const std::string& key
     using namespace std::string_view_literals;
     const std::string kept = value.substr(0, value.find_first_of("\r\n\0"sv));
     const std::size_t oneMoreAndTerminator = kept.size() + 2;
-    if (ReadString(section, key, kNoValue, oneMoreAndTerminator) == kept) return;
+    if (!isReadable_ || ReadString(section, key, kNoValue, oneMoreAndTerminator) == kept) return;
     platform::WriteSetting(path_, section, key, kept);
 }
 

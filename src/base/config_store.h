@@ -12,7 +12,8 @@ namespace vexa {
 std::string SettingsFileOf(const std::string& executable);
 
 // Named values in sections of the settings file. A missing file or key gives the caller's default; a file that cannot
-// be written silently keeps its old contents.
+// be written silently keeps its old contents, and so does one that could not be read at the start, as the defaults in
+// its stead are not to be written over it.
 class ConfigStore {
   public:
     // Keeps at most 255 characters of the path.
@@ -35,6 +36,7 @@ class ConfigStore {
 
   private:
     std::string path_;
+    bool isReadable_;
 };
 
 }  // namespace vexa

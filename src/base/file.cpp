@@ -91,13 +91,21 @@ bool File::close() {
     return platform::CloseFile(std::exchange(handle_, platform::kNoFile)) && !refused;
 }
 
+std::optional<std::string> ReadKeptFile(const std::string& path, std::size_t limit) {
+    File file(path, platform::OpenMode::Read);
+    if (file.isOpen()) return file.readUpTo(limit);
+    return platform::PathExists(path) ? std::nullopt : std::optional<std::string>("");
+}
+
 namespace {
 
 // A new file beside the one to be replaced, so that both are on one disk. Files left behind by a crash are passed over.
+// The longest names are cut to make room for a mark.
 std::string NewFileBeside(const std::string& path, File& file) {
     constexpr int kAttempts = 100;
+    constexpr std::size_t kLongestStem = 255;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        std::string name = path + ".~" + std::to_string(attempt);
+        std::string name = path.substr(0, kLongestStem) + ".~" + std::to_string(attempt);
         file = File(name, platform::OpenMode::CreateNew);
         if (file.isOpen()) return name;
         if (!platform::PathExists(name)) break;

@@ -42,6 +42,10 @@ class File {
     bool writing_ = false;
 };
 
+// What a file holds that is kept in memory and written anew as a whole: at most limit bytes, none of them when there is
+// no such file. Nothing for one that is there and cannot be read; writing it then would lose what it holds.
+std::optional<std::string> ReadKeptFile(const std::string& path, std::size_t limit);
+
 // Makes the file hold data, in one step: a reader sees the old contents or the new ones, never a part. False leaves the
 // old file, or its absence, as it was. Read-only files are not replaced.
 bool WriteWholeFile(const std::string& path, std::string_view data);

@@ -32,8 +32,9 @@ std::string_view Take(std::string_view& bytes, std::size_t count) {
 
 HistoryList::HistoryList(const std::string& directory, const std::string& fileName)
     : path_(directory + "\\" + fileName) {
-    File file(path_, platform::OpenMode::Read);
-    if (file.isOpen()) read(file.readUpTo(kLargestFile).value_or(std::string()));
+    const std::optional<std::string> bytes = ReadKeptFile(path_, kLargestFile);
+    isRead_ = bytes.has_value();
+    if (isRead_) read(*bytes);
 }
 
 void HistoryList::read(std::string_view bytes) {
@@ -66,6 +67,7 @@ void HistoryList::Add(std::string_view text) {
 }
 
 void HistoryList::Save() const {
+    if (!isRead_) return;
     std::string bytes{static_cast<char>(nextSlot_), static_cast<char>(entries_.size())};
     for (const std::string& entry : entries_) {
         bytes += static_cast<char>(entry.size());

@@ -26,7 +26,7 @@ class HistoryList {
     // Notes a text that has been used and selects it; one that is there already keeps its place. An empty text takes
     // the selection away. What goes beyond the limit is cut off, as is what follows a zero byte.
     void Add(std::string_view text);
-    // Writes the file whole; on failure it keeps what it held.
+    // Writes the file whole; on failure it keeps what it held, as does one that could not be read.
     void Save() const;
 
     const std::vector<std::string>& entries() const { return entries_; }
@@ -40,6 +40,7 @@ class HistoryList {
     std::vector<std::string> entries_;
     std::optional<std::size_t> selection_;
     std::size_t nextSlot_ = 0;
+    bool isRead_ = false;
 };
 
 }  // namespace vexa

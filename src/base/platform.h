@@ -132,7 +132,7 @@ std::string ReadSetting(const std::string& file, const std::string& section, con
 std::int32_t ReadIntSetting(const std::string& file, const std::string& section, const std::string& key,
                             std::int32_t fallback);
 // Stores a value of one line, adding file, section and key as needed, other lines untouched. False for a read-only file
-// or a missing directory, which stay as they were. The host replaces the file in one step; Windows writes it in place.
+// or a missing directory, which stay as they were. The file is replaced in one step, so that it is whole at any moment.
 bool WriteSetting(const std::string& file, const std::string& section, const std::string& key,
                   const std::string& value);
 

@@ -11,12 +11,6 @@ namespace {
 
 constexpr const char* kErrorFileName = "VexaCC2.dat";
 
-bool WriteFile(const std::string& path, const std::string& text) {
-    File file(path, platform::OpenMode::CreateAlways);
-    const bool written = file.isOpen() && file.write(text);
-    return file.close() && written;
-}
-
 }  // namespace
 
 Compiler::Compiler(const CompilerSetup& setup, const Directories& directories, MessageList& messages, PollTimer& timer,
@@ -55,7 +49,7 @@ bool Compiler::prepare(const CompileJob& job) {
 }
 
 bool Compiler::writeBatchFile(const CompileJob& job) {
-    if (job.batchFileIsDocument() || !WriteFile(job.batchPath, job.batchText))
+    if (job.batchFileIsDocument() || !WriteWholeFile(job.batchPath, job.batchText))
         return refuse(FillText(TextId::CannotCreateBatchFile, {job.batchPath}));
     batchPath_ = job.batchPath;
     return true;

@@ -85,8 +85,9 @@ std::string EncodeTools(const Tools& tools) {
 ToolList::ToolList(const Directories& directories) : path_(directories.GetDirectory(kConfigDirectory) + kFileName) {}
 
 void ToolList::LoadTools() {
-    File file(path_, platform::OpenMode::Read);
-    tools_ = file.isOpen() ? DecodeTools(file.readUpTo(kLargestFile).value_or(std::string())) : Tools();
+    const std::optional<std::string> bytes = ReadKeptFile(path_, kLargestFile);
+    isRead_ = bytes.has_value();
+    tools_ = isRead_ ? DecodeTools(*bytes) : Tools();
 }
 
 std::optional<std::size_t> ToolList::find(std::string_view menuText) const {
@@ -96,7 +97,7 @@ std::optional<std::size_t> ToolList::find(std::string_view menuText) const {
 }
 
 bool ToolList::replace(Tools tools) {
-    if (!WriteWholeFile(path_, EncodeTools(tools))) return false;
+    if (!isRead_ || !WriteWholeFile(path_, EncodeTools(tools))) return false;
     tools_ = std::move(tools);
     return true;
 }

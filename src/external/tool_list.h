@@ -27,19 +27,20 @@ class ToolList {
   public:
     explicit ToolList(const Directories& directories);
 
-    // Reads the file; a missing one means no tools.
+    // Reads the file; a missing one means no tools, and so does one that cannot be read.
     void LoadTools();
     const Tools& tools() const { return tools_; }
     const std::string& path() const { return path_; }
     std::optional<std::size_t> find(std::string_view menuText) const;
 
-    // Writes a changed list, and has it from then on. False when the file could not be written; both are then as they
-    // were.
+    // Writes a changed list, and has it from then on. False when the file could not be written, or not be read before;
+    // both are then as they were.
     bool replace(Tools tools);
 
   private:
     const std::string path_;
     Tools tools_;
+    bool isRead_ = true;
 };
 
 // The text of a tool's menu item, with its key. The command's number is 432 and the tool's index.

@@ -121,16 +121,16 @@ ElectricList DecodeElectricList(std::string_view bytes) {
 }
 
 const ElectricList& ElectricWords::list() {
-    if (!list_) {
-        File file(path_, platform::OpenMode::Read);
-        const auto bytes = file.isOpen() ? file.readUpTo(kLargestFile) : std::nullopt;
-        list_ = DecodeElectricList(bytes.value_or(std::string()));
-    }
-    return *list_;
+    static const ElectricList kNone;
+    if (list_) return *list_;
+    const auto bytes = ReadKeptFile(path_, kLargestFile);
+    isUnreadable_ = !bytes;
+    if (isUnreadable_) return kNone;
+    return list_.emplace(DecodeElectricList(*bytes));
 }
 
 bool ElectricWords::replace(const ElectricList& list) {
-    const bool written = WriteWholeFile(path_, EncodeElectricList(list));
+    const bool written = !isUnreadable_ && WriteWholeFile(path_, EncodeElectricList(list));
     if (written) list_ = list;
     return written;
 }

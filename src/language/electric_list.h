@@ -58,7 +58,8 @@ class ElectricList {
 std::string EncodeElectricList(const ElectricList& list);
 ElectricList DecodeElectricList(std::string_view bytes);
 
-// The list in use. It is read when it is first asked for; without a file that can be read it is empty.
+// The list in use. It is read when it is first asked for; without a file it is empty, and also while the file cannot be
+// read, which is tried again whenever the list is asked for.
 class ElectricWords {
   public:
     // The directory of the file, without a "\" at its end.
@@ -66,12 +67,14 @@ class ElectricWords {
 
     const std::string& path() const { return path_; }
     const ElectricList& list();
-    // Writes the file whole and uses the list from now on; false leaves both as they were.
+    // Writes the file whole and uses the list from now on; false leaves both as they were. A file that could not be
+    // read is not written over.
     bool replace(const ElectricList& list);
 
   private:
     const std::string path_;
     std::optional<ElectricList> list_;
+    bool isUnreadable_ = false;
 };
 
 }  // namespace vexa

@@ -4,7 +4,9 @@
 
 #include "base/ascii.h"
 #include "base/directories.h"
+#include "base/file.h"
 #include "base/strings.h"
+#include "language/profile_file.h"
 
 namespace vexa {
 namespace {
@@ -51,7 +53,9 @@ ExtensionEditModel::ExtensionEditModel(const ProfileList& profiles) : profiles_(
 ExtensionEditModel::ExtensionEditModel(const ProfileList& profiles, std::string_view fileExtension)
     : extension(fileExtension), profiles_(profiles), isNew_(false) {
     ExtensionProfile profile;
-    profile.read(profiles.profilePath(fileExtension));
+    const auto bytes = ReadKeptFile(profiles.profilePath(fileExtension), kLargestProfileFile);
+    isUnreadable_ = !bytes;
+    if (bytes) DecodeProfile(*bytes, profile);
     takeFields(profile);
 }
 
@@ -161,7 +165,7 @@ bool ExtensionEditModel::update(Notices& notices) const {
     }
     if (!mayReplace(notices)) return false;
     const std::string path = profiles_.profilePath(wanted);
-    if (profile().write(path)) return true;
+    if (!isUnreadable_ && profile().write(path)) return true;
     Tell(notices, FillText(TextId::CannotWriteFile, {NameIn(path)}));
     return false;
 }

@@ -19,7 +19,8 @@ class ExtensionEditModel {
   public:
     // A new profile, which begins with the fields of the built-in one and without an extension.
     explicit ExtensionEditModel(const ProfileList& profiles);
-    // The profile in the file of an extension. Of a damaged file the fields are those that could be read.
+    // The profile in the file of an extension. Of a damaged file the fields are those that could be read. One that
+    // cannot be read at all is not written over.
     ExtensionEditModel(const ProfileList& profiles, std::string_view fileExtension);
 
     std::string extension;
@@ -66,6 +67,7 @@ class ExtensionEditModel {
 
     const ProfileList& profiles_;
     const bool isNew_;
+    bool isUnreadable_ = false;
     std::vector<std::string> keywords_;
 };
 

@@ -56,17 +56,18 @@ bool AutoBackup::BackupDocument(TextDocument& document) {
     if (state.isWriting || !document.isModified()) return false;
     const ScopedFlag writing(state.isWriting);
     state.time = clock_();
-    keepOther(document);
-    return writeCopy(document);
+    return keepOther(document) && writeCopy(document);
 }
 
-void AutoBackup::keepOther(const TextDocument& document) {
+bool AutoBackup::keepOther(const TextDocument& document) {
     const std::string name = FileNameOf(document);
+    const std::string backup = directory_ + "\\" + name;
     std::string& owner = owners_[Upper(name)];
     const std::string path = OwnNameOf(document);
-    if (!owner.empty() && owner != path)
-        platform::RenameFile(directory_ + "\\" + name, directory_ + "\\" + MarkedName(name, owner));
+    const bool isOthers = !owner.empty() && owner != path && platform::PathExists(backup);
+    if (isOthers && !platform::RenameFile(backup, directory_ + "\\" + MarkedName(name, owner))) return false;
     owner = path;
+    return true;
 }
 
 bool AutoBackup::writeCopy(TextDocument& document) const {

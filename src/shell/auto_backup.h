@@ -37,8 +37,8 @@ class AutoBackup {
 
     // Copies a modified document into the backup directory, under its base name, over an older copy. Documents of one
     // base name share that backup: the latest has it, and what it held of another document moves to a name with a mark
-    // of that document's directory. True when the copy
-    // was written whole; the older one stays otherwise. Either way the next is due after another interval.
+    // of that document's directory. True when the copy was written whole; the older one stays otherwise, whosever it
+    // is. Either way the next is due after another interval.
     bool BackupDocument(TextDocument& document);
 
     // Backs up what is due; called by a timer several times a minute. Messages run in between, so documents may close.
@@ -48,7 +48,8 @@ class AutoBackup {
     bool isDue(TextDocument& document) const;
     bool isOpen(const TextDocument* document) const;
     bool writeCopy(TextDocument& document) const;
-    void keepOther(const TextDocument& document);
+    // False when another document's backup is in the way and could not be moved.
+    bool keepOther(const TextDocument& document);
 
     BackupFrame& frame_;
     const EditorOptions& options_;

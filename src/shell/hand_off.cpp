@@ -45,12 +45,6 @@ std::string PathIn(std::string_view commandLine, std::int32_t line) {
     return path;
 }
 
-bool WriteHandOff(const std::string& path, std::int32_t line) {
-    File file(HandOffFile(), platform::OpenMode::CreateAlways);
-    const bool written = file.isOpen() && file.write(path + "\r\n" + std::to_string(line) + "\r\n");
-    return file.close() && written;
-}
-
 std::string_view TakeLine(std::string_view& text) {
     const std::size_t end = std::min(text.find('\n'), text.size());
     std::string_view line = text.substr(0, end);
@@ -85,7 +79,7 @@ bool HandOffToRunningInstance(std::string_view commandLine, std::int32_t line, N
     const std::string path = PathIn(commandLine, line);
     if (path.empty()) return false;
     const platform::SystemTurn turn(kFileTurn, kFilePatience);
-    if (!WriteHandOff(path, line)) {
+    if (!WriteWholeFile(HandOffFile(), path + "\r\n" + std::to_string(line) + "\r\n")) {
         TellUnexpectedError(notices, "VEXA", "95");
         return false;
     }

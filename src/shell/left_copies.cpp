@@ -34,7 +34,8 @@ void OfferLeftCopies(const std::string& path, Notices& notices, const std::funct
         const bool isDeleted = isYes(isEqual ? FillText(TextId::LeftCopyIsEqual, {name, copy})
                                              : FillText(TextId::DeleteLeftCopy, {copy, kept}));
         if (isDeleted) {
-            platform::RemoveFile(copy);
+            if (!platform::RemoveFile(copy))
+                notices.box(FillText(TextId::CannotWriteFile, {copy}), kErrorCaption, BoxButtons::Ok);
         } else if (!kept.empty()) {
             platform::RenameFile(copy, kept);
         }

@@ -86,13 +86,13 @@ std::optional<std::uint64_t> WriteLinesTo(File& file, const TextDocument& docume
 }
 
 WriteOutcome WriteNewFile(const TextDocument& document, const std::string& path, bool bytes) {
-    File file(path, OpenMode::CreateNew);
-    if (!file.isOpen()) return {};
-    const auto checksum = WriteLinesTo(file, document, bytes);
-    const bool written = checksum && file.flush();
-    if (file.close() && written) return {WriteResult::Written, CopyFault::None, *checksum};
-    platform::RemoveFile(path);
-    return {};
+    std::optional<std::uint64_t> checksum;
+    const bool written = RewriteFile(path, [&](File& file) {
+        checksum = WriteLinesTo(file, document, bytes);
+        return checksum && !platform::PathExists(path);
+    });
+    if (!written) return {};
+    return {WriteResult::Written, CopyFault::None, *checksum};
 }
 
 void Tell(const TextDocument& document, TextId text, const std::string& copyName) {

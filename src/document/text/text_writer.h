@@ -46,8 +46,8 @@ struct WriteOutcome {
 //
 // What the file held is first copied to its safety copy, which is on the disk before the file is touched; the file is
 // then overwritten in place, so that its attributes, links and permissions stay, and its end is set last. When any step
-// fails, the old contents are put back; a file that was not there before is taken away again. Should putting back fail
-// too, the safety copy stays and the user is told its name.
+// fails, the old contents are put back. Should putting back fail too, the safety copy stays and the user is told its
+// name. A file that was not there before appears whole or not at all.
 WriteOutcome WriteText(const TextDocument& document, const std::string& path, const WriteOrder& order);
 
 }  // namespace vexa

@@ -9,6 +9,7 @@
 
 #include "base/ascii.h"
 #include "base/platform.h"
+#include "base/platform/host/faults.h"
 #include "base/platform/host/open_files.h"
 #include "base/platform/host/sandbox.h"
 
@@ -17,7 +18,9 @@ namespace vexa::platform {
 namespace {
 
 using host::Access;
+using host::Call;
 using host::HostPath;
+using host::IsRefused;
 
 std::optional<struct stat> StatusOf(const std::string& hostPath) {
     struct stat info;
@@ -103,7 +106,7 @@ std::vector<std::string> Names(const std::string& folder, Test passes) {
 
 FileHandle OpenFile(const std::string& path, OpenMode mode) {
     const std::string hostPath = HostPath(path);
-    if (hostPath.empty()) return kNoFile;
+    if (hostPath.empty() || IsRefused(Call::Open)) return kNoFile;
     const Access access = mode == OpenMode::Read ? Access::Reading : Access::Writing;
     if (const auto info = StatusOf(hostPath); info && !MayBeOpened(*info, access)) return kNoFile;
     constexpr mode_t kReadableByAll = 0666;
@@ -119,6 +122,7 @@ FileHandle OpenFile(const std::string& path, OpenMode mode) {
 }
 
 std::optional<std::size_t> ReadFile(FileHandle file, char* data, std::size_t size) {
+    if (IsRefused(Call::Read)) return std::nullopt;
     std::size_t total = 0;
     while (total < size) {
         const ssize_t count = Insist([&] { return read(Descriptor(file), data + total, size - total); });
@@ -130,25 +134,28 @@ std::optional<std::size_t> ReadFile(FileHandle file, char* data, std::size_t siz
 }
 
 bool WriteFile(FileHandle file, std::string_view data) {
+    const bool isRefused = IsRefused(Call::Write);
+    if (isRefused) data = data.substr(0, data.size() / 2);
     while (!data.empty()) {
         const ssize_t count = Insist([&] { return write(Descriptor(file), data.data(), data.size()); });
         if (count <= 0) return false;
         data.remove_prefix(static_cast<std::size_t>(count));
     }
-    return true;
+    return !isRefused;
 }
 
 bool SeekFile(FileHandle file, std::uint64_t offset) {
-    return lseek(Descriptor(file), static_cast<off_t>(offset), SEEK_SET) >= 0;
+    return !IsRefused(Call::Seek) && lseek(Descriptor(file), static_cast<off_t>(offset), SEEK_SET) >= 0;
 }
 
 bool EndFileHere(FileHandle file) {
+    if (IsRefused(Call::End)) return false;
     const off_t position = lseek(Descriptor(file), 0, SEEK_CUR);
     return position >= 0 && Insist([&] { return ftruncate(Descriptor(file), position); }) == 0;
 }
 
 bool FlushFile(FileHandle file) {
-    return Insist([&] { return fsync(Descriptor(file)); }) == 0;
+    return !IsRefused(Call::Flush) && Insist([&] { return fsync(Descriptor(file)); }) == 0;
 }
 
 BackgroundFlush::BackgroundFlush(FileHandle file) : done_(FlushFile(file)) {}
@@ -161,13 +168,14 @@ std::optional<bool> BackgroundFlush::result() const {
 
 std::optional<std::uint64_t> FileSize(FileHandle file) {
     struct stat info;
-    if (fstat(Descriptor(file), &info) != 0) return std::nullopt;
+    if (IsRefused(Call::Size) || fstat(Descriptor(file), &info) != 0) return std::nullopt;
     return static_cast<std::uint64_t>(info.st_size);
 }
 
 bool CloseFile(FileHandle file) {
+    const bool isRefused = IsRefused(Call::Close);
     host::NoteClosed(Descriptor(file));
-    return close(Descriptor(file)) == 0;
+    return close(Descriptor(file)) == 0 && !isRefused;
 }
 
 std::optional<FileFacts> FactsOf(const std::string& path) {
@@ -195,11 +203,12 @@ bool DirectoryExists(const std::string& path) {
 bool RemoveFile(const std::string& path) {
     const std::string hostPath = HostPath(path);
     const auto info = StatusOf(hostPath);
-    if (info && host::IsInUse(*info)) return false;
+    if (info && (IsRefused(Call::Remove) || host::IsInUse(*info))) return false;
     return hostPath.empty() || unlink(hostPath.c_str()) == 0 || !PathExists(path);
 }
 
 bool RenameFile(const std::string& from, const std::string& to) {
+    if (IsRefused(Call::Rename)) return false;
     const std::string source = HostPath(from);
     const std::string target = HostPath(to);
     const auto sourceInfo = StatusOf(source);
@@ -212,6 +221,7 @@ bool RenameFile(const std::string& from, const std::string& to) {
 bool MakeDirectory(const std::string& path) {
     constexpr mode_t kUsableByAll = 0777;
     const std::string hostPath = HostPath(path);
+    if (IsRefused(Call::MakeDirectory)) return false;
     return !hostPath.empty() && (mkdir(hostPath.c_str(), kUsableByAll) == 0 || DirectoryExists(path));
 }
 

@@ -115,11 +115,11 @@ class SettingsLines {
 std::optional<std::string> ReadText(const std::string& file) {
     const FileHandle handle = OpenFile(file, OpenMode::Read);
     if (handle == kNoFile) return std::nullopt;
-    std::string text(
-        static_cast<std::size_t>(std::min<std::uint64_t>(FileSize(handle).value_or(0), kLargestSettingsFile)), '\0');
+    const std::optional<std::uint64_t> size = FileSize(handle);
+    std::string text(static_cast<std::size_t>(std::min<std::uint64_t>(size.value_or(0), kLargestSettingsFile)), '\0');
     const std::optional<std::size_t> count = ReadFile(handle, text.data(), text.size());
     CloseFile(handle);
-    if (!count) return std::nullopt;
+    if (!size || !count) return std::nullopt;
     text.resize(*count);
     return text;
 }

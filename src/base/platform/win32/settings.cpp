@@ -11,6 +11,18 @@ std::string Located(const std::string& file) {
     return FullPath(file);
 }
 
+// Opened and closed unchanged: a file that may not be written is left alone even where the system would not mind.
+bool IsWritable(const std::string& file) {
+    const FileHandle writable = OpenFile(file, OpenMode::ReadWrite);
+    return writable != kNoFile && CloseFile(writable);
+}
+
+// Old systems keep what they know of a file in memory until told to write it; it is read anew then.
+bool WrittenOut(const std::string& file) {
+    WritePrivateProfileStringA(nullptr, nullptr, nullptr, file.c_str());
+    return PathExists(file);
+}
+
 }  // namespace
 
 std::string ReadSetting(const std::string& file, const std::string& section, const std::string& key,
@@ -31,16 +43,16 @@ std::int32_t ReadIntSetting(const std::string& file, const std::string& section,
 bool WriteSetting(const std::string& file, const std::string& section, const std::string& key,
                   const std::string& value) {
     const std::string located = Located(file);
-    // Opened and closed unchanged: a file that may not be written is left alone even where the system would not mind.
-    if (PathExists(located)) {
-        const FileHandle writable = OpenFile(located, OpenMode::ReadWrite);
-        if (writable == kNoFile) return false;
-        CloseFile(writable);
-    }
-    const bool written = WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(), located.c_str());
-    // Old systems keep the change in memory until told to write it.
-    WritePrivateProfileStringA(nullptr, nullptr, nullptr, located.c_str());
-    return written;
+    const std::string changed = located + ".~";
+    // The system writes a settings file in place, so it is given a copy, which then takes the file's place.
+    const bool isReady = PathExists(located) ? IsWritable(located) && CopyFileA(located.c_str(), changed.c_str(), FALSE)
+                                             : RemoveFile(changed);
+    const bool isDone = isReady &&
+                        WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(), changed.c_str()) &&
+                        WrittenOut(changed) && RenameFile(changed, located);
+    if (!isDone) RemoveFile(changed);
+    WrittenOut(located);
+    return isDone;
 }
 
 }  // namespace vexa::platform
