@@ -75,11 +75,13 @@ void DialogFrameCL::close(bool accepted) {
 // ---- messages ----------------------------------------------------------------------------------------------------
 
 INT_PTR CALLBACK DialogFrameCL::Procedure(HWND window, UINT number, WPARAM wParam, LPARAM lParam) noexcept {
-    if (number == WM_INITDIALOG) {
-        SetWindowLongPtrA(window, DWLP_USER, lParam);
-        reinterpret_cast<DialogFrameCL*>(lParam)->window_ = window;
-    }
     auto* dialog = reinterpret_cast<DialogFrameCL*>(GetWindowLongPtrA(window, DWLP_USER));
+    if (number == WM_INITDIALOG) {
+        if (dialog) return FALSE;  // another program's: the system sends one alone
+        SetWindowLongPtrA(window, DWLP_USER, lParam);
+        dialog = reinterpret_cast<DialogFrameCL*>(lParam);
+        dialog->window_ = window;
+    }
     if (!dialog) return FALSE;
     try {
         return dialog->receive(number, wParam, lParam);

@@ -9,4 +9,8 @@ namespace vexa {
 // the program runs.
 HMODULE LoadSystemLibrary(const char* name);
 
+// From now on a library that the program or the system loads by its bare name is looked for in the system's directory
+// alone, on systems that can be told so; without the current directory on others that can be told that.
+void LoadSystemLibrariesAlone();
+
 }  // namespace vexa

@@ -55,8 +55,10 @@ void WindowCL::destroy() {
 }
 
 WindowCL* WindowCL::Attach(HWND window, UINT number, LPARAM lParam) {
-    if (number != WM_NCCREATE) return reinterpret_cast<WindowCL*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-    WindowCL* object = ObjectOf(*reinterpret_cast<const CREATESTRUCTA*>(lParam));
+    auto* object = reinterpret_cast<WindowCL*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    // Of those for a window that has its object another program is the sender.
+    if (number != WM_NCCREATE || object) return object;
+    object = ObjectOf(*reinterpret_cast<const CREATESTRUCTA*>(lParam));
     object->window_ = window;
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(object));
     return object;

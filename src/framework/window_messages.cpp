@@ -1,6 +1,7 @@
 // Which message goes to which handler of a window, and how its parameters are read.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <shellapi.h>
 #include <windowsx.h>
 
@@ -62,6 +63,12 @@ std::vector<std::string> TakeDroppedNames(HDROP drop) {
     return names;
 }
 
+// What a message points to. Another program can send one with any number in place of the pointer; none then.
+void* Pointed(const Message& message, std::size_t size) {
+    const auto pointer = reinterpret_cast<void*>(message.lParam);
+    return IsBadWritePtr(pointer, size) ? nullptr : pointer;
+}
+
 bool Answer(Message& message, LRESULT result) {
     message.result = result;
     return true;
@@ -97,7 +104,10 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_SIZE, [](WindowCL& w, Message& m) { return w.onSize(static_cast<UINT>(m.wParam)); }},
     {WM_MOVE, [](WindowCL& w, Message&) { return w.onMove(), false; }},
     {kDpiChangedMessage,
-     [](WindowCL& w, Message& m) { return m.lParam && w.onDpiChanged(*reinterpret_cast<const RECT*>(m.lParam)); }},
+     [](WindowCL& w, Message& m) {
+         const auto* const place = static_cast<const RECT*>(Pointed(m, sizeof(RECT)));
+         return place && w.onDpiChanged(*place);
+     }},
     {WM_SETTINGCHANGE, [](WindowCL& w, Message&) { return w.onSettingChange(), false; }},
     {WM_PAINT, [](WindowCL& w, Message&) { return w.paint(); }},
     {WM_ERASEBKGND,
@@ -132,7 +142,11 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_TIMER, [](WindowCL& w, Message& m) { return w.onTimer(m.wParam); }},
     {WM_COMMAND,
      [](WindowCL& w, Message& m) { return w.onCommand(LOWORD(m.wParam), HIWORD(m.wParam) == kFromAccelerator); }},
-    {WM_NOTIFY, [](WindowCL& w, Message& m) { return m.lParam && w.onNotify(*reinterpret_cast<NMHDR*>(m.lParam)); }},
+    {WM_NOTIFY,
+     [](WindowCL& w, Message& m) {
+         auto* const notice = static_cast<NMHDR*>(Pointed(m, sizeof(TOOLTIPTEXTA)));
+         return notice && w.onNotify(*notice);
+     }},
     {WM_DROPFILES,
      [](WindowCL& w, Message& m) { return w.onDropFiles(TakeDroppedNames(reinterpret_cast<HDROP>(m.wParam))); }},
     {WM_INITMENUPOPUP,
@@ -143,7 +157,10 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
          return isClosing ? w.onMenuClosed() : w.onMenuSelect(LOWORD(m.wParam), HIWORD(m.wParam));
      }},
     {WM_HELP,
-     [](WindowCL& w, Message& m) { return m.lParam && w.onHelp(*reinterpret_cast<const HELPINFO*>(m.lParam)); }},
+     [](WindowCL& w, Message& m) {
+         const auto* const help = static_cast<const HELPINFO*>(Pointed(m, sizeof(HELPINFO)));
+         return help && w.onHelp(*help);
+     }},
 };
 
 bool WindowCL::route(Message& message) {

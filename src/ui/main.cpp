@@ -10,6 +10,7 @@
 #include "base/platform.h"
 #include "base/strings.h"
 #include "framework/message_box.h"
+#include "framework/system_library.h"
 #include "shell/command_line.h"
 #include "shell/hand_off.h"
 #include "shell/out_of_memory.h"
@@ -73,6 +74,7 @@ int RunEditor(const vexa::CommandLine& commandLine, int showCommand, StartTurn& 
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     SetErrorMode(SEM_FAILCRITICALERRORS);  // an empty drive is a file that cannot be opened, not a question to the user
+    vexa::LoadSystemLibrariesAlone();
     InitCommonControls();
     const vexa::CommandLine commandLine = vexa::ParseCommandLine(GetCommandLineA());
     if (vexa::AsksForHelp(commandLine.arguments)) {

@@ -68,9 +68,23 @@ TEST(Guard, OddMessagesDoNotEndTheEditor) {
     SendMessageTimeoutA(editor.activePane(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(big.c_str()), SMTO_NORMAL, 2000,
                         &ignored);
     constexpr UINT kDpiChanged = 0x02E0;
-    for (const UINT message : {kDpiChanged, UINT{WM_NOTIFY}, UINT{WM_DROPFILES}})
-        SendMessageTimeoutA(editor.frame(), message, 0, 0, SMTO_NORMAL, kPatience, &ignored);
-    EXPECT_TRUE(editor.isRunning() && editor.answers());
+    editor.command(CommandId::GotoLine);
+    const HWND dialog = editor.dialog("Goto Line");
+    ASSERT_TRUE(dialog);
+    // A pointer of another program points to nothing here.
+    for (const LPARAM pointer : {LPARAM{0}, LPARAM{0x41414140}}) {
+        for (const UINT message :
+             {kDpiChanged, UINT{WM_NOTIFY}, UINT{WM_HELP}, UINT{WM_DROPFILES}, UINT{WM_INITDIALOG}}) {
+            for (const HWND window : {editor.frame(), editor.activePane(), dialog}) {
+                PostMessageA(window, message, static_cast<WPARAM>(pointer), pointer);
+                SendMessageTimeoutA(window, message, static_cast<WPARAM>(pointer), pointer, SMTO_NORMAL, 2000,
+                                    &ignored);
+                ASSERT_TRUE(editor.isRunning() && editor.answers()) << message << " " << pointer;
+            }
+        }
+    }
+    PostMessageA(dialog, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
     editor.keys("y");
     EXPECT_TRUE(editor.showsPosition(1, 3));
 }
