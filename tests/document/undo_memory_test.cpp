@@ -78,5 +78,28 @@ TEST(UndoMemory, WhateverAllocationFailsUndoIsExact) {
     EXPECT_GT(failures, 50);
 }
 
+// Each round begins with the loaded text, and half of them end with everything undone.
+void UseForRounds(Session& session, int rounds) {
+    constexpr int kCommandsARound = 400;
+    for (int round = 0; round < rounds; ++round) {
+        ASSERT_TRUE(session.document.load());
+        for (int i = 0; i < kCommandsARound; ++i)
+            kCommands[static_cast<std::size_t>(i * 3 + round) % std::size(kCommands)](session.view);
+        if (round % 2 == 0) session.undoAll();
+    }
+    ASSERT_TRUE(session.document.load());
+    session.notices = RecordingNotices();
+}
+
+TEST(UndoMemory, AHundredThousandCommandsLeaveNothingAllocated) {
+    const TestDisk disk;
+    disk.put("a.txt", kText);
+    Session session(disk.path("a.txt"));
+    UseForRounds(session, 10);
+    const long before = AllocationsAlive();
+    UseForRounds(session, 250);
+    EXPECT_EQ(AllocationsAlive(), before);
+}
+
 }  // namespace
 }  // namespace vexa::test

@@ -6,17 +6,29 @@
 namespace {
 
 long allocationsLeft = -1;
+long allocationsAlive = 0;
 
 void* Allocate(std::size_t size) {
     if (allocationsLeft == 0) return nullptr;
     if (allocationsLeft > 0) --allocationsLeft;
-    return std::malloc(size != 0 ? size : 1);
+    void* const memory = std::malloc(size != 0 ? size : 1);
+    if (memory) ++allocationsAlive;
+    return memory;
+}
+
+void Free(void* memory) {
+    if (memory) --allocationsAlive;
+    std::free(memory);
 }
 
 }  // namespace
 
 void vexa::test::AllowAllocations(long count) {
     allocationsLeft = count;
+}
+
+long vexa::test::AllocationsAlive() {
+    return allocationsAlive;
 }
 
 void* operator new(std::size_t size) {
@@ -37,17 +49,17 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
 }
 
 void operator delete(void* memory) noexcept {
-    std::free(memory);
+    Free(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+    Free(memory);
 }
 
 void operator delete[](void* memory) noexcept {
-    std::free(memory);
+    Free(memory);
 }
 
 void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
+    Free(memory);
 }
