@@ -22,6 +22,7 @@
 #include "shell/file_saving.h"
 #include "shell/hand_off.h"
 #include "shell/startup_files.h"
+#include "shell/unsaved/recovery_job.h"
 
 namespace vexa::test {
 
@@ -105,6 +106,19 @@ void BackUpBesideAnother(FaultScene& scene) {
         return std::nullopt;
     };
     scene.attempt(save, lookForOther);
+}
+
+void KeepUnsaved(FaultScene& scene) {
+    TextDocument document(scene.options, scene.notices);
+    document.newEmpty();
+    Type(scene, document);
+    scene.attempt([&] {
+        RecoveryJob job(document, scene.disk.path("vbackup\\A.TXT"));
+        RecoveryJob::State state = RecoveryJob::State::Working;
+        while (state == RecoveryJob::State::Working || state == RecoveryJob::State::Waiting)
+            state = job.step();
+        return state == RecoveryJob::State::Written;
+    });
 }
 
 // ---- files of the program's own formats -----------------------------------------------------------------------------
@@ -278,6 +292,7 @@ const std::vector<WritingOperation>& WritingOperations() {
         {"first backup", {}, "", kOldOrNew, BackUp},
         {"later backup", backup, "", kOldOrNew, BackUp},
         {"backup of a second file of a name", {}, "", AfterFailure::OldOrNone, BackUpBesideAnother},
+        {"recovery file", backup, "", kOldOrNew, KeepUnsaved},
         {"electric words", words, "vexa.elc", kOldOrNew, SaveElectricWords},
         {"tools", tools, "", kOldOrNew, SaveTools},
         {"profile", profile, "VexaC.PRF", kOldOrNew, SaveProfile},
