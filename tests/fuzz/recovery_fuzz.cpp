@@ -30,16 +30,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     LineViews lines = recovered.lines();
     while (lines.size() > 1 && lines.back().empty())
         lines.pop_back();
-    Require(LinesOf(document) == lines);
+    Require(vexa::LinesOf(document) == lines);
     std::string again = RecoveryBeginning(document);
-    for (const std::string_view line : LinesOf(document))
+    for (const std::string_view line : vexa::LinesOf(document))
         again.append(line) += '\n';
     SealRecovery(again, ChecksumOf(std::string_view(again).substr(kUncounted)));
     const auto second = ReadRecoveryText(again);
     Require(second && second->lines() == lines && second->path() == recovered.path());
     while (document.history().undo()) {
     }
-    Require(LinesOf(document) == LineViews{""});
+    Require(vexa::LinesOf(document) == LineViews{""});
     return 0;
 }
 
