@@ -12,6 +12,7 @@
 namespace vexa::test {
 namespace {
 
+constexpr const char* kText = "alpha beta\r\n  gamma\r\ndelta\r\n";
 const std::vector<std::string> kLines = {"alpha beta", "  gamma", "delta"};
 
 struct Session : DocumentSession {
@@ -55,7 +56,7 @@ bool RunWith(long allocations, Work work) {
 
 TEST(UndoMemory, WhateverAllocationFailsUndoIsExact) {
     const TestDisk disk;
-    disk.put("a.txt", "alpha beta\r\n  gamma\r\ndelta\r\n");
+    disk.put("a.txt", kText);
     int failures = 0;
     for (const Command command : kCommands) {
         bool isDone = false;
@@ -82,13 +83,13 @@ TEST(UndoMemory, WhateverAllocationFailsUndoIsExact) {
 void UseForRounds(Session& session, int rounds) {
     constexpr int kCommandsARound = 400;
     for (int round = 0; round < rounds; ++round) {
-        ASSERT_TRUE(session.document.load());
+        ASSERT_TRUE(session.document_.load());
         for (int i = 0; i < kCommandsARound; ++i)
-            kCommands[static_cast<std::size_t>(i * 3 + round) % std::size(kCommands)](session.view);
+            kCommands[static_cast<std::size_t>(i * 3 + round) % std::size(kCommands)](session);
         if (round % 2 == 0) session.undoAll();
     }
-    ASSERT_TRUE(session.document.load());
-    session.notices = RecordingNotices();
+    ASSERT_TRUE(session.document_.load());
+    session.notices_ = RecordingNotices();
 }
 
 TEST(UndoMemory, AHundredThousandCommandsLeaveNothingAllocated) {
