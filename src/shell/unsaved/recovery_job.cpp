@@ -1,5 +1,7 @@
 #include "shell/unsaved/recovery_job.h"
 
+#include <utility>
+
 #include "shell/unsaved/recovery_file.h"
 #include "shell/unsaved/recovery_names.h"
 
@@ -24,25 +26,25 @@ void RecoveryJob::begin() {
     ++beginnings_;
     revision_ = document_.revision();
     line_ = LineIndex(0);
-    bytes_ = RecoveryBeginning(document_);
+    parts_.assign(1, RecoveryBeginning(document_));
     checksum_ = {};
-    counted_ = kUncounted;
+    checksum_.add(std::string_view(parts_[0]).substr(kUncounted));
 }
 
 // A text that is changed between two parts is copied from its beginning again.
 RecoveryJob::State RecoveryJob::copyLines() {
     if (revision_ != document_.revision()) begin();
-    const std::size_t limit = beginnings_ < kMostBeginnings ? bytes_.size() + kPart : bytes_.max_size();
+    std::string part;
+    const std::size_t limit = beginnings_ < kMostBeginnings ? kPart : part.max_size();
     const std::int32_t last = document_.lastLine(LastUsed::Text);
-    for (; line_.value <= last && bytes_.size() < limit; ++line_) {
-        bytes_ += document_.text(line_);
-        bytes_ += '\n';
+    for (; line_.value <= last && part.size() < limit; ++line_) {
+        part += document_.text(line_);
+        part += '\n';
     }
-    checksum_.add(std::string_view(bytes_).substr(counted_));
-    counted_ = bytes_.size();
+    checksum_.add(part);
+    parts_.push_back(std::move(part));
     if (line_.value <= last) return State::Working;
-    SealRecovery(bytes_, checksum_.value());
-    counted_ = 0;
+    SealRecovery(parts_[0], checksum_.value());
     next_ = &RecoveryJob::writePart;
     return State::Working;
 }
@@ -50,10 +52,8 @@ RecoveryJob::State RecoveryJob::copyLines() {
 RecoveryJob::State RecoveryJob::writePart() {
     if (path_.empty()) return State::Failed;
     if (!file_.isOpen()) file_ = File(RecoveryNames::unfinished(path_), platform::OpenMode::CreateAlways);
-    const std::string_view part = std::string_view(bytes_).substr(counted_, kPart);
-    if (!file_.isOpen() || !file_.write(part)) return State::Failed;
-    counted_ += part.size();
-    if (counted_ < bytes_.size()) return State::Working;
+    if (!file_.isOpen() || !file_.write(parts_[written_])) return State::Failed;
+    if (++written_ < parts_.size()) return State::Working;
     flush_ = file_.flushAside();
     next_ = &RecoveryJob::awaitDevice;
     return flush_ ? State::Waiting : State::Failed;

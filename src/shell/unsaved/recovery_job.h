@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/checksum.h"
 #include "base/file.h"
@@ -41,10 +42,10 @@ class RecoveryJob {
     State (RecoveryJob::*next_)() = &RecoveryJob::copyLines;
     std::uint32_t revision_ = 0;
     int beginnings_ = 0;
-    std::string bytes_;
-    LineIndex line_;  // the next to be copied
+    std::vector<std::string> parts_;  // of the file; one string would have to move when it grows
+    LineIndex line_;                  // the next to be copied
     Checksum checksum_;
-    std::size_t counted_ = 0;  // bytes of the checksum, and then those written
+    std::size_t written_ = 0;  // parts
     File file_;
     std::unique_ptr<platform::BackgroundFlush> flush_;
 };
