@@ -148,10 +148,12 @@ TEST_F(Programs, OldOutputIsNeverTakenForNew) {
     EXPECT_EQ(notices.lastStatus(), "Can't open error file '" + disk.path("VexaPip.dat") + "'.");
     EXPECT_EQ(printed(), Texts{});
     disk.setReadOnly("VexaPip.dat", false);
+#ifndef _WIN32  // there a file that is written to cannot be removed
     notices.statuses.clear();
     run("rm " + disk.path("VexaPip.dat"));  // a program that takes its own output away
     ASSERT_TRUE(finish());
     EXPECT_EQ(notices.lastStatus(), "Can't open error file '" + disk.path("VexaPip.dat") + "'.");
+#endif
 }
 
 TEST_F(Programs, AToolWithoutCaptureIsStartedAndForgotten) {

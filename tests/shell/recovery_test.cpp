@@ -49,7 +49,7 @@ class RecoveryTest : public testing::Test {
             files.emplace_back(name, texts_.disk.get("vbackup\\" + name));
         keeper_.reset();
         for (const auto& [name, bytes] : files)
-            texts_.disk.put("vbackup\\" + name, bytes);
+            if (!platform::PathExists(before + name)) texts_.disk.put("vbackup\\" + name, bytes);
         texts_.open.clear();
         keeper_ = std::make_unique<RecoveryKeeper>(texts_, directory_, texts_.notices, [] { return g_ticks; });
     }
@@ -246,9 +246,11 @@ TEST_F(RecoveryTest, AFailureKeepsTheOlderFileAndIsToldOnce) {
     EXPECT_EQ(texts_.notices.statuses.size(), 1u);
     pass(RecoveryKeeper::kPause);
     EXPECT_NE(texts_.disk.get("vbackup\\unsaved-1-1.vxr"), older) << "and is tried again";
+#ifndef _WIN32  // there the mark of a running editor holds the directory
     texts_.disk.remove("vbackup");
     texts_.type(texts_.add(), "3");
     keeper_->writeAll();
+#endif
 }
 
 // The longest that a key can have to wait is a part of the work; a part copies or writes no more than this.
