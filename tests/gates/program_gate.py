@@ -51,7 +51,7 @@ def import_faults(program):
                 yield f"imports {name} from {dll_name}, which Windows 98 does not have"
 
 
-def header_faults(program, subsystem="IMAGE_SUBSYSTEM_WINDOWS_GUI"):
+def header_faults(program, subsystem="IMAGE_SUBSYSTEM_WINDOWS_GUI", relocates=True):
     header = program.OPTIONAL_HEADER
     if header.Subsystem != pefile.SUBSYSTEM_TYPE[subsystem]:
         yield f"is no program {KINDS[subsystem]}"
@@ -61,7 +61,8 @@ def header_faults(program, subsystem="IMAGE_SUBSYSTEM_WINDOWS_GUI"):
     for flag, what in NEEDED_FLAGS.items():
         if not getattr(header, flag):
             yield f"does not allow {what}"
-    if program.FILE_HEADER.IMAGE_FILE_RELOCS_STRIPPED or not getattr(program, "DIRECTORY_ENTRY_BASERELOC", None):
+    has_none = relocates and not getattr(program, "DIRECTORY_ENTRY_BASERELOC", None)
+    if program.FILE_HEADER.IMAGE_FILE_RELOCS_STRIPPED or has_none:
         yield "has no relocations, so that it cannot be loaded at a random address"
 
 
