@@ -12,44 +12,19 @@ namespace {
 const WindowClass kPaneClass{.name = "PaneWindowCL", .cursor = IDC_IBEAM};
 constexpr POINT kOutOfSight = {-1000, -1000};
 
-std::int32_t CellsIn(LONG pixels, int cell) {
-    return std::max<std::int32_t>(pixels / cell, 1);
-}
-
 }  // namespace
 
 bool PaneWindowCL::open(HWND parent) {
-    return create(kPaneClass,
-                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {0, 0, 0, 0}, .parent = parent});
-}
-
-bool PaneWindowCL::onCreate() {
-    painter_.setFont(MakePaneFont(fontDetails_, window()));
-    return true;
-}
-
-void PaneWindowCL::refreshFont() {
-    painter_.setFont(MakePaneFont(fontDetails_, window()));
-    rows_.clear();
-    fitView();
+    return RowPane::open(kPaneClass, parent);
 }
 
 void PaneWindowCL::refreshColours() {
     view_.setHighlighting(colours_.isHighlightingOn());
-    refresh();
-    InvalidateRect(window(), nullptr, FALSE);
+    RowPane::refreshColours();
 }
 
-bool PaneWindowCL::onSize(UINT /*kind*/) {
-    fitView();
-    // What the system has moved along with the window need not be what belongs there now.
-    InvalidateRect(window(), nullptr, FALSE);
-    return true;
-}
-
-void PaneWindowCL::fitView() {
-    const RECT client = clientArea();
-    view_.resize(CellsIn(client.bottom, painter_.cellHeight()), CellsIn(client.right, painter_.cellWidth()));
+void PaneWindowCL::fit() {
+    view_.resize(rowsInWindow(), columnsInWindow());
     refresh();
 }
 
@@ -59,28 +34,14 @@ void PaneWindowCL::refresh() {
     if (!window()) return;
     refreshRows();
     refreshCaret();
-    for (const int bar : {SB_VERT, SB_HORZ})
-        scrollBars_.show(window(), bar, scrollState(bar));
+    showScrollBars();
     host_.viewChanged();
 }
 
 void PaneWindowCL::refreshRows() {
     const std::int32_t moved = view_.topLine() - std::exchange(shownTop_, view_.topLine());
     const bool isSideways = view_.leftColumn() != std::exchange(shownLeft_, view_.leftColumn());
-    const int height = painter_.cellHeight();
-    const auto count = static_cast<std::size_t>((clientArea().bottom + height - 1) / height);
-    rows_.show(window(), count, height, isSideways ? 0 : moved, [this](std::int32_t row) { return view_.render(row); });
-}
-
-bool PaneWindowCL::onEraseBackground(HDC /*dc*/) {
-    return true;
-}
-
-bool PaneWindowCL::onPaint(HDC dc, const RECT& update) {
-    const LONG right = clientArea().right;
-    rows_.paint(update, painter_.cellHeight(),
-                [&](int top, const ViewRow& row) { painter_.paint(dc, top, right, row); });
-    return true;
+    showRows(isSideways ? 0 : moved, [this](std::int32_t row) { return view_.render(row); });
 }
 
 POINT PaneWindowCL::caretPlace() const {
@@ -132,33 +93,12 @@ ScrollState PaneWindowCL::scrollState(int bar) const {
     return {view_.widestColumn().value, view_.columns(), view_.leftColumn().value};
 }
 
-void PaneWindowCL::scrollTo(int bar, std::int32_t position) {
+void PaneWindowCL::moveTo(int bar, std::int32_t position) {
     if (bar == SB_VERT) {
         view_.scrollToLine(LineIndex(position));
     } else {
         view_.scrollToColumn(DisplayColumn(position));
     }
-    refresh();
-    UpdateWindow(window());
-}
-
-bool PaneWindowCL::onScroll(int bar, UINT request) {
-    host_.userActs();
-    scrollTo(bar, WindowScrollBars::target(window(), bar, request, scrollState(bar)));
-    return true;
-}
-
-bool PaneWindowCL::onWheel(const WheelMessage& turn) {
-    if (turn.control) {
-        const std::int32_t steps = zoom_.add(-turn.delta, 1);
-        if (steps != 0) host_.zoom(steps);
-        return true;
-    }
-    const int bar = WindowScrollBars::barOf(turn);
-    const ScrollState state = scrollState(bar);
-    const std::int32_t target = scrollBars_.target(turn, state);
-    if (target != state.position) scrollTo(bar, target);
-    return true;
 }
 
 // ---- keys --------------------------------------------------------------------------------------------------------

@@ -4,21 +4,14 @@
 #include <optional>
 
 #include "document/view/edit_view.h"
-#include "framework/window.h"
 #include "ui/document/click_rules.h"
 #include "ui/document/key_translation.h"
-#include "ui/document/row_painter.h"
-#include "ui/document/shown_rows.h"
-#include "ui/document/window_scroll_bars.h"
+#include "ui/document/row_pane.h"
 
 namespace vexa {
 
-// What a pane tells the window around it.
-class PaneHost {
+class PaneHost : public RowPaneHost {
   public:
-    virtual ~PaneHost() = default;
-    // The user is about to do something in the pane.
-    virtual void userActs() = 0;
     // The user has pressed a mouse button in the text or beside it.
     virtual void mousePressed() = 0;
     // The view has used a key.
@@ -27,36 +20,25 @@ class PaneHost {
     virtual void viewChanged() = 0;
     // What a key or the mouse has started has broken off.
     virtual void commandFailed() = 0;
-    // The user wants larger characters, or smaller ones below 0.
-    virtual void zoom(std::int32_t steps) = 0;
-    // The user wants the pop-up menu, at a point of the screen.
-    virtual void showContextMenu(POINT screenPlace) = 0;
 };
 
-class PaneWindowCL : public WindowCL {
+class PaneWindowCL : public RowPane {
   public:
     PaneWindowCL(EditView& view, const DisplayColours& colours, const FontDetails& font, PaneHost& host)
-        : view_(view), colours_(colours), fontDetails_(font), host_(host), painter_(colours) {}
+        : RowPane(colours, font, host), view_(view), host_(host) {}
 
     bool open(HWND parent);
-    // Shows the view as it now is: draws the rows that look different, moves the caret and the scroll bars.
-    void refresh();
+    // Moves the caret, too.
+    void refresh() override;
     const RowPainter& painter() const { return painter_; }
     // Where columns of a line are on the screen, as far as they are in sight.
     RECT screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const;
-    // Takes over the font and the resolution in force.
-    void refreshFont();
-    // Takes over the colours in force.
+    // Takes over the colours in force, and whether there are any but those of plain text.
     void refreshColours();
     // Follows the mouse, whose button was pressed at a point of the screen beside the pane, and marks lines.
     void startMarkingLines(POINT screenPlace, bool extend);
-    bool onWheel(const WheelMessage& turn) override;
 
   protected:
-    bool onCreate() override;
-    bool onSize(UINT kind) override;
-    bool onPaint(HDC dc, const RECT& update) override;
-    bool onEraseBackground(HDC dc) override;
     bool onFocusGained() override;
     void onFailed() override { host_.commandFailed(); }
     bool onFocusLost() override;
@@ -69,11 +51,10 @@ class PaneWindowCL : public WindowCL {
     bool onMouseRelease() override;
     bool onCaptureLost() override;
     bool onTimer(UINT_PTR timer) override;
-    bool onScroll(int bar, UINT request) override;
     bool onContextMenu(std::optional<POINT> screenPlace) override;
 
   private:
-    void fitView();
+    void fit() override;
     void refreshRows();
     void refreshCaret();
     void startDrag(POINT place, bool extend, MousePress how);
@@ -81,21 +62,15 @@ class PaneWindowCL : public WindowCL {
     MousePress kindOf(const MouseButtonMessage& press);
     Cell cellAt(POINT place) const;
     POINT caretPlace() const;
-    ScrollState scrollState(int bar) const;
-    void scrollTo(int bar, std::int32_t position);
+    ScrollState scrollState(int bar) const override;
+    void moveTo(int bar, std::int32_t position) override;
 
     EditView& view_;
-    const DisplayColours& colours_;
-    const FontDetails& fontDetails_;
     PaneHost& host_;
-    RowPainter painter_;
     KeyTranslator keys_;
     TripleClick tripleClick_;
-    WheelSteps zoom_;
-    ShownRows<ViewRow> rows_;
     LineIndex shownTop_;  // where the rows begin
     DisplayColumn shownLeft_;
-    WindowScrollBars scrollBars_;
     SIZE caretSize_ = {};  // none while the window has not the focus
     POINT dragPlace_ = {};
     bool isDragging_ = false;

@@ -8,49 +8,13 @@ namespace {
 
 const WindowClass kPaneClass{.name = "ListPaneCL"};
 
-std::int32_t CellsIn(LONG pixels, int cell) {
-    return std::max<std::int32_t>(pixels / cell, 1);
-}
-
 }  // namespace
 
 bool ListPane::open(HWND parent) {
-    return create(kPaneClass,
-                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {0, 0, 0, 0}, .parent = parent});
-}
-
-bool ListPane::onCreate() {
-    painter_.setFont(MakePaneFont(fontDetails_, window()));
-    return true;
-}
-
-void ListPane::refreshFont() {
-    painter_.setFont(MakePaneFont(fontDetails_, window()));
-    refreshColours();
-}
-
-void ListPane::refreshColours() {
-    rows_.clear();
-    refresh();
-    InvalidateRect(window(), nullptr, FALSE);
-}
-
-bool ListPane::onSize(UINT /*kind*/) {
-    refresh();
-    // What the system has moved along with the window need not be what belongs there now.
-    InvalidateRect(window(), nullptr, FALSE);
-    return true;
+    return RowPane::open(kPaneClass, parent);
 }
 
 // ---- showing -----------------------------------------------------------------------------------------------------
-
-std::int32_t ListPane::rowsInWindow() const {
-    return CellsIn(clientArea().bottom, painter_.cellHeight());
-}
-
-std::int32_t ListPane::columnsInWindow() const {
-    return CellsIn(clientArea().right, painter_.cellWidth());
-}
 
 void ListPane::refresh() {
     if (!window()) return;
@@ -59,16 +23,12 @@ void ListPane::refresh() {
     if (!list_.selectedRow()) selection_.clear();
     top_ = std::clamp(top_, 0, std::max(count - rowsInWindow(), 0));
     drawRows();
-    for (const int bar : {SB_VERT, SB_HORZ})
-        scrollBars_.show(window(), bar, scrollState(bar));
+    showScrollBars();
 }
 
 void ListPane::drawRows() {
     const std::int32_t moved = top_ - std::exchange(shownTop_, top_);
-    const int height = painter_.cellHeight();
-    const auto count = static_cast<std::size_t>((clientArea().bottom + height - 1) / height);
-    rows_.show(window(), count, height, moved,
-               [this](std::int32_t row) { return render(static_cast<std::size_t>(top_ + row)); });
+    showRows(moved, [this](std::int32_t row) { return render(static_cast<std::size_t>(top_ + row)); });
 }
 
 bool ListPane::needsMarks() const {
@@ -84,17 +44,6 @@ ViewRow ListPane::render(std::size_t row) {
     const std::string_view text = list_.rowText(row);
     widest_ = std::max(widest_, ListRowWidth(text));
     return RenderListRow(text, list_.rowKind(row), selection().holds(row), view);
-}
-
-bool ListPane::onEraseBackground(HDC /*dc*/) {
-    return true;
-}
-
-bool ListPane::onPaint(HDC dc, const RECT& update) {
-    const LONG right = clientArea().right;
-    rows_.paint(update, painter_.cellHeight(),
-                [&](int top, const ViewRow& row) { painter_.paint(dc, top, right, row); });
-    return true;
 }
 
 void ListPane::showSelection() {
@@ -116,27 +65,8 @@ ScrollState ListPane::scrollState(int bar) const {
     return {longest + 1 + (needsMarks() ? kMarkWidth : 0), columnsInWindow(), left_};
 }
 
-void ListPane::scrollTo(int bar, std::int32_t position) {
+void ListPane::moveTo(int bar, std::int32_t position) {
     (bar == SB_VERT ? top_ : left_) = position;
-    refresh();
-    UpdateWindow(window());
-}
-
-bool ListPane::onScroll(int bar, UINT request) {
-    host_.userActs();
-    scrollTo(bar, WindowScrollBars::target(window(), bar, request, scrollState(bar)));
-    return true;
-}
-
-bool ListPane::onWheel(const WheelMessage& turn) {
-    if (turn.control) {
-        const std::int32_t steps = zoom_.add(-turn.delta, 1);
-        if (steps != 0) host_.zoom(steps);
-        return true;
-    }
-    const int bar = WindowScrollBars::barOf(turn);
-    scrollTo(bar, scrollBars_.target(turn, scrollState(bar)));
-    return true;
 }
 
 // ---- keys and mouse ----------------------------------------------------------------------------------------------

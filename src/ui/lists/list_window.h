@@ -21,7 +21,7 @@ class ListHost {
 
 extern const WindowClass kListWindowClass;
 
-class ListWindow : public TextWindow, private ListPaneHost {
+class ListWindow : public TextWindow, private RowPaneHost {
   public:
     // The owner is told when the window has gone, and the object is going to be destroyed.
     using Gone = std::function<void()>;
