@@ -61,25 +61,24 @@ class BackgroundFlush {
     bool done_ = false;
 };
 
-// What the system knows of a file.
-struct FileFacts {
-    std::uint64_t volume = 0;     // with the index it tells the file from all others that exist at the time,
-    std::uint64_t index = 0;      // whatever name it is reached by; 0 where the disk has no such numbers
-    std::uint64_t writeTime = 0;  // to be compared with others alone: later is more
-    bool isReadOnly = false;
-    std::uint64_t size = 0;
-};
-// None for what is missing or no file; a file that another program holds has facts all the same.
-std::optional<FileFacts> FactsOf(const std::string& path);
-// Tells whether a file has been written since; asked for without opening it, which takes far longer on some systems.
+// Tells whether a file has been written since.
 struct FileStamp {
     std::uint64_t size = 0;
-    std::uint64_t writeTime = 0;
+    std::uint64_t writeTime = 0;  // to be compared with others alone: later is more
 
     bool operator==(const FileStamp&) const = default;
 };
-// None for what is missing or no file.
+// None for what is missing or no file. Does not open the file, which takes far longer on some systems.
 std::optional<FileStamp> StampOf(const std::string& path);
+// What the system knows of a file.
+struct FileFacts {
+    std::uint64_t volume = 0;  // with the index it tells the file from all others that exist at the time,
+    std::uint64_t index = 0;   // whatever name it is reached by; 0 where the disk has no such numbers
+    FileStamp stamp;
+    bool isReadOnly = false;
+};
+// None for what is missing or no file; a file that another program holds has facts all the same.
+std::optional<FileFacts> FactsOf(const std::string& path);
 // Whether anything (a file or a directory) of that name exists.
 bool PathExists(const std::string& path);
 bool DirectoryExists(const std::string& path);

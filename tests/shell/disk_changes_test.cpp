@@ -17,7 +17,7 @@ class DiskChangesTest : public testing::Test, private DifferenceView {
     // As another program writes it, at another time than ours.
     void change(TextDocument& document, const std::string& bytes) {
         texts_.disk.put(document.baseName(), bytes);
-        document.disk().facts->writeTime -= 1;
+        document.disk().facts->stamp.writeTime -= 1;
     }
     std::size_t asked() {
         changes_.look(texts_.open);
@@ -81,7 +81,7 @@ TEST_F(DiskChangesTest, NothingIsAskedWithoutOtherContents) {
     EXPECT_EQ(asked(), 0u) << "a touched time stamp";
     EXPECT_EQ(document.tryWrite(false).result, WriteResult::Written);
     EXPECT_EQ(asked(), 0u) << "its own save";
-    document.disk().facts->writeTime -= 2'000'000'000;
+    document.disk().facts->stamp.writeTime -= 2'000'000'000;
     EXPECT_EQ(asked(), 0u) << "a share with coarse times";
     texts_.type(document, "x");
     texts_.disk.remove("a.txt");
@@ -105,7 +105,7 @@ TEST_F(DiskChangesTest, AModifiedDocumentIsAskedAboutOnceAndTheAnswersHold) {
         EXPECT_TRUE(changes_.rows().empty());
         EXPECT_EQ(texts_.textOf(document), button == 1 ? "theirs|" : "my text|");
         EXPECT_EQ(asked(), button == 2 ? 1u : 0u) << "showing differences decides nothing";
-        document.disk().facts->writeTime -= 1;
+        document.disk().facts->stamp.writeTime -= 1;
         EXPECT_EQ(asked(), button == 2 ? 1u : 0u) << "the same contents again";
         EXPECT_EQ(document.tryWrite(false).result, button < 2 ? WriteResult::Written : WriteResult::FileChanged);
         change(document, "other\r\n");

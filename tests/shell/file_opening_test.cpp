@@ -105,10 +105,10 @@ TEST_F(FileOpeningTest, LeftSafetyCopiesAreOfferedUntilTheUserHasDecided) {
 TEST_F(FileOpeningTest, TheLatestOfSeveralCopiesIsSpokenOfFirst) {
     disk_.put("a.c", "now");
     disk_.put("a.c.vx7", "older");
-    const auto older = platform::FactsOf(disk_.path("a.c.vx7"))->writeTime;
+    const auto older = platform::FactsOf(disk_.path("a.c.vx7"))->stamp.writeTime;
     do {
         disk_.put("a.c.vx2", "later");
-    } while (platform::FactsOf(disk_.path("a.c.vx2"))->writeTime == older);
+    } while (platform::FactsOf(disk_.path("a.c.vx2"))->stamp.writeTime == older);
     notices_.answers = {BoxAnswer::Yes, BoxAnswer::Yes};
     EXPECT_TRUE(opening_.OpenFileAtLine(disk_.path("a.c"), 1));
     EXPECT_EQ(takeLog(), "open a.c 0;open a.c.vx2 0;open a.c.vx7 0;");

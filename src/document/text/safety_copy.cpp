@@ -137,9 +137,10 @@ std::vector<std::string> LeftSafetyCopies(const std::string& path) {
         for (const char digit : kDigits) {
             const auto facts = platform::FactsOf(stem + digit);
             if (!facts) continue;
-            const auto older = std::ranges::find_if(times, [&](std::uint64_t time) { return time < facts->writeTime; });
+            const auto older =
+                std::ranges::find_if(times, [&](std::uint64_t time) { return time < facts->stamp.writeTime; });
             names.insert(names.begin() + (older - times.begin()), stem + digit);
-            times.insert(older, facts->writeTime);
+            times.insert(older, facts->stamp.writeTime);
         }
     }
     return names;

@@ -18,7 +18,7 @@ constexpr std::size_t kTakeTheirs = 1;
 
 // At the next look the file counts as not looked at.
 void LookAgain(TextDocument& document) {
-    if (document.disk().facts) document.disk().facts->writeTime = 0;
+    if (document.disk().facts) document.disk().facts->stamp.writeTime = 0;
 }
 
 // The checksum of what another program has written, unless it has been spoken of already. Reads the file only when its
@@ -27,7 +27,7 @@ std::optional<std::uint64_t> NewContents(TextDocument& document) {
     DiskState& disk = document.disk();
     const auto facts =
         document.isNamed() && disk.checksum && disk.facts ? platform::FactsOf(document.fullPath()) : std::nullopt;
-    if (!facts || (facts->size == disk.facts->size && facts->writeTime == disk.facts->writeTime)) return std::nullopt;
+    if (!facts || facts->stamp == disk.facts->stamp) return std::nullopt;
     const auto contents = ContentsOf(document.fullPath());
     if (!contents) return std::nullopt;
     disk.facts = facts;

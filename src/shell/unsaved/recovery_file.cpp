@@ -35,8 +35,8 @@ std::string RecoveryBeginning(const TextDocument& document) {
     RecoveryHead head;
     head.isFileKnown = disk.checksum && disk.facts;
     head.fileChecksum = disk.checksum.value_or(0);
-    if (disk.facts) head.fileSize = disk.facts->size;
-    if (disk.facts) head.fileWriteTime = disk.facts->writeTime;
+    if (disk.facts) head.fileSize = disk.facts->stamp.size;
+    if (disk.facts) head.fileWriteTime = disk.facts->stamp.writeTime;
     head.caretLine = document.currentLine().value;
     head.pathLength = static_cast<std::uint32_t>(document.fullPath().size());
     std::string bytes(sizeof head, '\0');

@@ -76,8 +76,7 @@ void GiveText(TextDocument& document, const RecoveredText& recovered) {
         document.forgetFile();
     } else if (disk.facts && disk.checksum != head.fileChecksum) {
         disk.checksum = head.fileChecksum;
-        disk.facts->size = head.fileSize;
-        disk.facts->writeTime = head.fileWriteTime;
+        disk.facts->stamp = {head.fileSize, head.fileWriteTime};
     }
 }
 

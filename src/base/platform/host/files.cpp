@@ -181,8 +181,10 @@ bool CloseFile(FileHandle file) {
 std::optional<FileFacts> FactsOf(const std::string& path) {
     const auto info = StatusOf(HostPath(path));
     if (!info || !S_ISREG(info->st_mode)) return std::nullopt;
-    return FileFacts{info->st_dev, info->st_ino, WriteTimeOf(*info), (info->st_mode & S_IWUSR) == 0,
-                     static_cast<std::uint64_t>(info->st_size)};
+    return FileFacts{info->st_dev,
+                     info->st_ino,
+                     {static_cast<std::uint64_t>(info->st_size), WriteTimeOf(*info)},
+                     (info->st_mode & S_IWUSR) == 0};
 }
 
 std::optional<FileStamp> StampOf(const std::string& path) {

@@ -205,9 +205,10 @@ std::optional<FileFacts> FactsOf(const std::string& path) {
                          !(info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
     CloseHandle(file);
     if (!isKnown) return std::nullopt;
-    return FileFacts{info.dwVolumeSerialNumber, Joined(info.nFileIndexHigh, info.nFileIndexLow),
-                     TimeOf(info.ftLastWriteTime), (info.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0,
-                     Joined(info.nFileSizeHigh, info.nFileSizeLow)};
+    return FileFacts{info.dwVolumeSerialNumber,
+                     Joined(info.nFileIndexHigh, info.nFileIndexLow),
+                     {Joined(info.nFileSizeHigh, info.nFileSizeLow), TimeOf(info.ftLastWriteTime)},
+                     (info.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0};
 }
 
 std::optional<FileStamp> StampOf(const std::string& path) {
