@@ -248,14 +248,31 @@ void Editor::settle() const {
     });
 }
 
+// Alt is put into the editor's own state of the keys. As an input it would be lost at times: when the pointer moves,
+// Wine takes the state of the keys from the host, which knows of none that is held here.
 void Editor::dragWithAlt(POINT from, POINT to) const {
+    const DWORD thread = GetWindowThreadProcessId(frame_, nullptr);
+    BYTE keys[256];
     settle();
     moveMouse(from, 0);
-    ClientToScreen(activePane(), &from);
-    ClientToScreen(activePane(), &to);
-    INPUT inputs[] = {KeyInput(VK_MENU, 0), MouseInput(from, MOUSEEVENTF_LEFTDOWN), MouseInput(to, 0),
-                      MouseInput(to, MOUSEEVENTF_LEFTUP), KeyInput(VK_MENU, KEYEVENTF_KEYUP)};
-    SendInput(std::size(inputs), inputs, sizeof(INPUT));
+    AttachThreadInput(GetCurrentThreadId(), thread, TRUE);
+    GetKeyboardState(keys);
+    keys[VK_MENU] = 0x80;
+    SetKeyboardState(keys);
+    moveMouse(from, MOUSEEVENTF_LEFTDOWN);
+    WaitUntil([this] { return capture() == activePane(); });
+    keys[VK_MENU] = 0;
+    SetKeyboardState(keys);
+    AttachThreadInput(GetCurrentThreadId(), thread, FALSE);
+    moveMouse(to, 0);
+    moveMouse(to, MOUSEEVENTF_LEFTUP);
+}
+
+HWND Editor::capture() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(frame_, nullptr), &info);
+    return info.hwndCapture;
 }
 
 void Editor::moveMouse(POINT place, DWORD flags) const {

@@ -117,6 +117,8 @@ class Editor {
     // Waits, before the mouse is first used, until the active pane has stood still for some looks: the first layout may
     // come late.
     void settle() const;
+    // The window that has caught the mouse; null when none has.
+    HWND capture() const;
     // A place of the active pane; the flags say which button goes up or down there.
     void moveMouse(POINT place, DWORD flags) const;
 
