@@ -59,6 +59,7 @@ void EditorOptions::Load(const ConfigStore& store) {
     Filter1 = store.ReadString(kOptionsSection, "Filter1", "", kFilterLimit + 1);
     Filter2 = store.ReadString(kOptionsSection, "Filter2", "", kFilterLimit + 1);
     LastDirectoryUsed = store.ReadString(kHistorySection, kLastDirectoryKey, "", kLastDirectoryLimit + 1);
+    habits.Load(store);
 }
 
 void EditorOptions::Save(ConfigStore& store) {
@@ -72,6 +73,7 @@ void EditorOptions::Save(ConfigStore& store) {
     if (std::string current = platform::CurrentDirectory(); current.size() <= kLastDirectoryLimit)
         LastDirectoryUsed = std::move(current);
     store.WriteString(kHistorySection, kLastDirectoryKey, LastDirectoryUsed);
+    habits.Save(store);
 }
 
 void ApplyStartDirectory(const EditorOptions& options) {

@@ -6,6 +6,7 @@
 
 #include "base/config_store.h"
 #include "base/directories.h"
+#include "base/habits.h"
 
 namespace vexa {
 
@@ -47,6 +48,7 @@ struct EditorOptions {
     std::string Filter1;
     std::string Filter2;
     std::string LastDirectoryUsed;
+    Habits habits;
 
     void Load(const ConfigStore& store);
     // Also notes the current directory as LastDirectoryUsed, in the record and in the file.

@@ -6,6 +6,7 @@
 #include "base/dialog_position.h"
 #include "base/editor_options_model.h"
 #include "base/platform.h"
+#include "support/case_files.h"
 #include "support/test_disk.h"
 
 namespace vexa {
@@ -81,6 +82,44 @@ TEST_F(Options, EveryFieldSurvivesARun) {
     EXPECT_EQ(again.Filter1, "*.c;*.h");
     EXPECT_EQ(again.Filter2, "*.txt");
     EXPECT_EQ(again.LastDirectoryUsed, options.LastDirectoryUsed);
+}
+
+// A row for each habit: in the file, and in the record.
+struct HabitRow {
+    const char* key;
+    bool Habits::*habit;
+};
+constexpr HabitRow kHabits[] = {
+    {"KeepFiles", &Habits::keepFiles},           {"LargeFiles", &Habits::largeFiles},
+    {"LargeClipboard", &Habits::largeClipboard}, {"WholeSession", &Habits::wholeSession},
+    {"LanguageQuotes", &Habits::languageQuotes}, {"ReplacementGroups", &Habits::replacementGroups},
+    {"SearchAround", &Habits::searchAround},     {"KeepMarking", &Habits::keepMarking}};
+
+TEST_F(Options, EachHabitIsKeptByItselfAndNoneIsChosenWithoutTheSection) {
+    EXPECT_EQ(loaded().habits, Habits());
+    for (const HabitRow& row : kHabits) {
+        EditorOptions options;
+        options.habits.*row.habit = true;
+        options.Save(store);
+        EXPECT_EQ(loaded().habits, options.habits) << row.key;
+        EXPECT_EQ(store.ReadInt("Extended", row.key, -1), 1);
+    }
+    for (const char* bytes : {"", "=", "yes", "\xFF\x80", "[", "0"}) {
+        disk.put("VEXA.INI", std::string("[Extended]\r\nKeepFiles=") + bytes);
+        EXPECT_EQ(loaded().habits, Habits()) << bytes;
+    }
+}
+
+constexpr test::CaseFile kShippedSettings[] = {
+#include "shipped_settings.inc"
+};
+
+TEST_F(Options, TheShippedSettingsChooseEveryHabit) {
+    disk.put("VEXA.INI", kShippedSettings[0].content);
+    const EditorOptions options = loaded();
+    for (const HabitRow& row : kHabits)
+        EXPECT_TRUE(options.habits.*row.habit) << row.key;
+    EXPECT_TRUE(options.UseExplorer);
 }
 
 TEST_F(Options, ValuesOfTheFileAreTakenAsTheyAreAndFlagsWrittenAsOneOrZero) {

@@ -46,6 +46,21 @@ TEST_F(Clipboard, RefusesLargerBlocksAndChangesNothing) {
     EXPECT_FALSE(document_.isModified());
 }
 
+TEST_F(Clipboard, AsALargeOneTakesBlocksOfAnySizeWithTheirKind) {
+    options_.habits.largeClipboard = true;
+    markTo(1001, MarkMode::Column);
+    view_.copy();
+    EXPECT_TRUE(notices_.boxes.empty());
+    EXPECT_EQ(clipboard_.text->size(), 1002 * std::string("li\r\n").size());
+    EXPECT_EQ(clipboard_.kind, MarkMode::Column);
+    markTo(1099);
+    view_.cut();
+    EXPECT_FALSE(view_.marker().isActive());
+    EXPECT_EQ(text(0), "");
+    view_.paste();
+    EXPECT_EQ(lines(LastUsed::Text), std::vector<std::string>(1100, "line"));
+}
+
 TEST_F(Clipboard, ABlockThatReachesBeyondTheLastSlotEndsWithIt) {
     document_.marked() = {MarkMode::Lines, true, {LineIndex(1099), {}}, {LineIndex(2000), {}}};
     view_.key({.key = kKeyTab});

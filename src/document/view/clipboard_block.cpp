@@ -29,7 +29,8 @@ std::string ClipboardBlock::markedText() const {
 
 bool ClipboardBlock::put(TextId tooLarge) {
     const MarkedArea& area = document_.marked();
-    if (area.active && area.end.line - area.start.line > kClipboardLineLimit) {
+    const bool isLimited = !document_.options().habits.largeClipboard;
+    if (isLimited && area.active && area.end.line - area.start.line > kClipboardLineLimit) {
         document_.notices().box(LoadText(tooLarge), kErrorCaption, BoxButtons::Ok);
         return false;
     }

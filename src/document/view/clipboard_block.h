@@ -13,7 +13,8 @@
 
 namespace vexa {
 
-// Marked blocks whose end line is further below their start line than this are not copied.
+// Marked blocks whose end line is further below their start line than this are not copied, unless the
+// habit of a large clipboard is chosen.
 inline constexpr std::int32_t kClipboardLineLimit = 1000;
 
 // On the clipboard every line ends with CR LF, but for a stream within one line, which is no whole line. The caller

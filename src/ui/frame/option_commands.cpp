@@ -4,6 +4,7 @@
 #include "framework/font_dialog.h"
 #include "ui/dialogs/colour_setup_dialog.h"
 #include "ui/dialogs/editor_options_dialog.h"
+#include "ui/dialogs/extended_dialog.h"
 #include "ui/dialogs/file_extensions_dialog.h"
 #include "ui/document/pane_font.h"
 #include "ui/frame/command_rows.h"
@@ -16,6 +17,7 @@ void OptionCommands::registerCommands(CommandDispatcher& dispatcher) {
         {CommandId::ChangeFont, &OptionCommands::changeFont},
         {CommandId::ChangeColours, &OptionCommands::changeColours},
         {CommandId::ChangeExtensions, &OptionCommands::changeExtensions},
+        {CommandId::ChangeHabits, &OptionCommands::changeHabits},
     };
     RegisterRows(dispatcher, *this, kRows);
 }
@@ -27,6 +29,11 @@ void OptionCommands::registerKeys(KeyActions& keys) {
 
 void OptionCommands::changeOptions() {
     EditorOptionsDialog dialog(application_.store, application_.options);
+    if (dialog.runModal(documents_.frame().window())) documents_.refreshOptions();
+}
+
+void OptionCommands::changeHabits() {
+    ExtendedDialog dialog(application_.store, application_.options);
     if (dialog.runModal(documents_.frame().window())) documents_.refreshOptions();
 }
 

@@ -19,6 +19,7 @@ class OptionCommands {
 
   private:
     void changeOptions();
+    void changeHabits();
     void changeFont();
     void resetZoom();
     void changeColours();

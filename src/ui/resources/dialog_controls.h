@@ -24,6 +24,7 @@
 #define IDD_TOOLS 3320
 #define IDD_COMPILER_SETUP 3330
 #define IDD_DOCUMENT_CHOICE 3340
+#define IDD_EXTENDED 3350
 
 // The one field of the dialogs that ask for a number.
 #define IDC_NUMBER 101
@@ -171,3 +172,16 @@
 #define IDC_CHOICE_ROWS 1802
 #define IDC_CHOICE_SECOND 1803
 #define IDC_CHOICE_THIRD 1804
+
+// "Extended". The check boxes are numbered in a row.
+#define IDC_KEEP_FILES 1901
+#define IDC_LARGE_FILES 1902
+#define IDC_LARGE_CLIPBOARD 1903
+#define IDC_WHOLE_SESSION 1904
+#define IDC_LANGUAGE_QUOTES 1905
+#define IDC_REPLACEMENT_GROUPS 1906
+#define IDC_SEARCH_AROUND 1907
+#define IDC_KEEP_MARKING 1908
+#define IDC_EXPLORER_OPEN 1909
+#define IDC_ALL_HABITS 1911
+#define IDC_NO_HABITS 1912
