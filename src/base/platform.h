@@ -86,7 +86,7 @@ bool DirectoryExists(const std::string& path);
 // exists afterwards (a file in use, a directory).
 bool RemoveFile(const std::string& path);
 // Renames a file to a new name or over an existing file, in one step where the system can. A read-only file is not
-// replaced. False leaves both as they were.
+// replaced. One that another program holds is waited for, a fifth of a second at most. False leaves both as they were.
 bool RenameFile(const std::string& from, const std::string& to);
 // Makes one directory; true also when it exists already.
 bool MakeDirectory(const std::string& path);

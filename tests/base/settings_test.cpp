@@ -1,5 +1,8 @@
 // Settings files: what is read from any of them, and what writing leaves as it was.
 #include <gtest/gtest.h>
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 #include "base/config_store.h"
 #include "base/platform.h"
@@ -119,6 +122,26 @@ TEST_F(Settings, AFileThatCannotBeWrittenKeepsItsContents) {
     EXPECT_EQ(disk.count(), 1u);
     EXPECT_FALSE(platform::WriteSetting(disk.path("NO\\X.INI"), "Main", "key", "x"));
 }
+
+#ifdef _WIN32
+DWORD WINAPI WriteNew(void* store) {
+    static_cast<ConfigStore*>(store)->WriteString("Main", "key", "new");
+    return 0;
+}
+
+TEST_F(Settings, AFileThatAnotherProgramReadsForAMomentIsWritten) {
+    disk.put("VEXA.INI", "[Main]\r\nkey=old\r\n");
+    const platform::FileHandle reader = platform::OpenFile(disk.path("VEXA.INI"), platform::OpenMode::Read);
+    const HANDLE writer = CreateThread(nullptr, 0, &WriteNew, &store, 0, nullptr);
+    constexpr int kLooks = 5;  // at the copy that is to take the file's place: its renaming has been tried
+    for (int looks = 0; looks < kLooks && WaitForSingleObject(writer, 1) == WAIT_TIMEOUT;)
+        looks += disk.has("VEXA.INI.~") ? 1 : 0;
+    platform::CloseFile(reader);
+    WaitForSingleObject(writer, INFINITE);
+    CloseHandle(writer);
+    EXPECT_EQ(text("key"), "new");
+}
+#endif
 
 TEST(SettingsFile, IsNamedLikeTheExecutable) {
     EXPECT_EQ(SettingsFileOf("C:\\EDIT\\VEXA.EXE"), "C:\\EDIT\\VEXA.INI");

@@ -91,6 +91,19 @@ bool ReplaceInSteps(const std::string& from, const std::string& to) {
     return true;
 }
 
+bool Replaced(const std::string& from, const std::string& to) {
+    if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
+    return GetLastError() == ERROR_CALL_NOT_IMPLEMENTED && ReplaceInSteps(from, to);
+}
+
+// Another program that has a file open, to look for viruses in it or to copy it, is usually done with it in a moment.
+constexpr int kTries = 10;
+constexpr DWORD kPause = 20;  // milliseconds
+
+bool IsHeldByAnother(DWORD error) {
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+}
+
 constexpr DWORD kNotShown = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
 
 // The sorted names that match a pattern and pass the test.
@@ -240,9 +253,14 @@ bool RemoveFile(const std::string& path) {
 }
 
 bool RenameFile(const std::string& from, const std::string& to) {
-    if (Attributes(from) == INVALID_FILE_ATTRIBUTES || DirectoryExists(from) || IsReadOnlyFile(to)) return false;
-    if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
-    return GetLastError() == ERROR_CALL_NOT_IMPLEMENTED && ReplaceInSteps(from, to);
+    if (Attributes(from) == INVALID_FILE_ATTRIBUTES || DirectoryExists(from) || DirectoryExists(to) ||
+        IsReadOnlyFile(to))
+        return false;
+    for (int tries = 1; !Replaced(from, to); ++tries) {
+        if (tries == kTries || !IsHeldByAnother(GetLastError())) return false;
+        Sleep(kPause);
+    }
+    return true;
 }
 
 bool MakeDirectory(const std::string& path) {
