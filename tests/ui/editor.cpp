@@ -33,9 +33,10 @@ std::string CommandLineOf(const std::vector<std::string>& names) {
 }
 
 // Places of the mouse are given to the system in 65536ths of the screen.
-INPUT MouseInput(POINT screenPlace, DWORD flags) {
+INPUT MouseInput(POINT screenPlace, DWORD flags, DWORD time = 0) {
     INPUT input{};
     input.type = INPUT_MOUSE;
+    input.mi.time = time;
     input.mi.dx = MulDiv(screenPlace.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
     input.mi.dy = MulDiv(screenPlace.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
     input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
@@ -129,6 +130,7 @@ HWND StartedProgram::dialog(const std::string& caption) const {
 
 Editor::Editor(const TestFolder& folder, const std::vector<std::string>& names, const std::string& directory)
     : program_(folder, CommandLineOf(names), directory) {
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);  // over no menu or button
     WaitUntil([this] { return (frame_ = findFrame()) != nullptr; });
     // Idle: everything the command line asks for has been done, or stands in a box.
     WaitForInputIdle(process(), kPatience);
@@ -201,9 +203,7 @@ bool Editor::showsPosition(int line, int column) const {
 }
 
 bool Editor::hasTopWindow(const std::string& className) const {
-    return WaitUntil([&] {
-        return std::ranges::any_of(program_.topWindows(), [&](HWND window) { return ClassOf(window) == className; });
-    });
+    return std::ranges::any_of(program_.topWindows(), [&](HWND window) { return ClassOf(window) == className; });
 }
 
 void Editor::takePicture(const std::string& name) const {
@@ -225,20 +225,27 @@ bool Editor::runCommand(CommandId id) const {
 }
 
 void Editor::keys(const std::string& script) const {
-    // A box of the editor that is open is in front instead of the frame.
+    // A box of the editor that is open is in front instead of the frame. While the editor closes windows, its frame is
+    // disabled and loses keys.
     WaitUntil([this] {
+        const HWND front = GetForegroundWindow();
         DWORD owner = 0;
-        GetWindowThreadProcessId(GetForegroundWindow(), &owner);
+        GetWindowThreadProcessId(front, &owner);
         const bool isInFront = owner == GetProcessId(process());
         if (!isInFront) SetForegroundWindow(frame_);
-        return isInFront;
+        return isInFront && IsWindowEnabled(front);
     });
     PressKeys(script);
+}
+
+bool Editor::takesCommands() const {
+    return WaitUntil([this] { return !isRunning() || IsWindowEnabled(frame_); });
 }
 
 void Editor::settle() const {
     constexpr int kLooks = 5;
     RECT before{};
+    takesCommands();
     WaitUntil([&] {
         RECT now{};
         GetWindowRect(activePane(), &now);
@@ -275,14 +282,20 @@ HWND Editor::capture() const {
     return info.hwndCapture;
 }
 
-void Editor::moveMouse(POINT place, DWORD flags) const {
+void Editor::moveMouse(POINT place, DWORD flags, DWORD time) const {
     ClientToScreen(activePane(), &place);
-    INPUT input = MouseInput(place, flags);
+    INPUT input = MouseInput(place, flags, time);
     SendInput(1, &input, sizeof input);
 }
 
-void Editor::point(POINT place) const {
-    moveMouse(place, 0);
+bool Editor::pointUntil(POINT place, const std::function<bool()>& condition) const {
+    return WaitUntil([&] {
+        POINT now{};
+        GetCursorPos(&now);
+        ScreenToClient(activePane(), &now);
+        if (now.x != place.x || now.y != place.y) moveMouse(place, 0);
+        return condition();
+    });
 }
 
 void Editor::click(POINT place) const {
@@ -292,14 +305,22 @@ void Editor::click(POINT place) const {
     moveMouse(place, MOUSEEVENTF_MIDDLEUP);
 }
 
+void Editor::clickTimes(POINT place, int times) const {
+    settle();
+    moveMouse(place, 0);
+    const DWORD now = GetTickCount();
+    for (int i = 0; i < times; ++i) {
+        moveMouse(place, MOUSEEVENTF_LEFTDOWN, now);
+        moveMouse(place, MOUSEEVENTF_LEFTUP, now);
+    }
+}
+
 void Editor::doubleClick(POINT place) const {
-    drag({place});
-    drag({place});
+    clickTimes(place, 2);
 }
 
 void Editor::tripleClick(POINT place) const {
-    doubleClick(place);
-    drag({place});
+    clickTimes(place, 3);
 }
 
 void Editor::rightClick(POINT place) const {
@@ -308,14 +329,15 @@ void Editor::rightClick(POINT place) const {
     moveMouse(place, MOUSEEVENTF_RIGHTUP);
 }
 
-void Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile) const {
+bool Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& condition) const {
     settle();
     moveMouse(places.front(), 0);
     moveMouse(places.front(), MOUSEEVENTF_LEFTDOWN);
     for (const POINT place : places)
         moveMouse(place, 0);
-    if (meanwhile) meanwhile();
+    const bool holds = !condition || pointUntil(places.back(), condition);
     moveMouse(places.back(), MOUSEEVENTF_LEFTUP);
+    return holds;
 }
 
 }  // namespace vexa::test

@@ -82,6 +82,8 @@ class Editor {
     void command(CommandId id) const { PostMessageA(frame_, WM_COMMAND, static_cast<WPARAM>(id), 0); }
     // Runs a command to its end; false when the editor does not answer.
     bool runCommand(CommandId id) const;
+    // Waits until no dialog and no closing of windows makes the editor refuse commands and its own end.
+    bool takesCommands() const;
     // Whether the editor still takes messages.
     bool answers() const;
     void kill() { program_.kill(); }
@@ -90,10 +92,11 @@ class Editor {
     void doubleClick(POINT place) const;
     void tripleClick(POINT place) const;
     void rightClick(POINT place) const;
-    // Moves the mouse to a place of the active pane.
-    void point(POINT place) const;
-    // The button is held at the last place until meanwhile is done.
-    void drag(const std::vector<POINT>& places, const std::function<bool()>& meanwhile = nullptr) const;
+    // Moves the mouse to a place of the active pane, and back there while it waits until the condition holds: late news
+    // of where the display's mouse was before makes it jump.
+    bool pointUntil(POINT place, const std::function<bool()>& condition) const;
+    // The button is held at the last place until the condition holds; false when it never does.
+    bool drag(const std::vector<POINT>& places, const std::function<bool()>& condition = nullptr) const;
     // All in one go: the system would else believe the keyboard of the display, where no key is down.
     void dragWithAlt(POINT from, POINT to) const;
     void requestClose() const { PostMessageA(frame_, WM_CLOSE, 0, 0); }
@@ -103,7 +106,7 @@ class Editor {
     // Waits for a dialog with that caption; null when none comes.
     HWND dialog(const std::string& caption) const { return program_.dialog(caption); }
     bool hasDialog() const { return program_.findDialog("") != nullptr; }
-    // Waits for a window of that class on top of the others: a pop-up menu, a tooltip.
+    // Looks once for a window of that class on top of the others: a pop-up menu, a tooltip.
     bool hasTopWindow(const std::string& className) const;
     bool hasPopupMenu() const { return hasTopWindow("#32768"); }
     bool isRunning() const { return program_.isRunning(); }
@@ -119,8 +122,10 @@ class Editor {
     void settle() const;
     // The window that has caught the mouse; null when none has.
     HWND capture() const;
-    // A place of the active pane; the flags say which button goes up or down there.
-    void moveMouse(POINT place, DWORD flags) const;
+    // A place of the active pane; the flags say which button goes up or down there, and when, for none now.
+    void moveMouse(POINT place, DWORD flags, DWORD time = 0) const;
+    // At one time, so that no machine is too slow for a double click.
+    void clickTimes(POINT place, int times) const;
 
     StartedProgram program_;
     HWND frame_ = nullptr;

@@ -126,7 +126,7 @@ TEST_F(RecoveryTest, WhatAKilledEditorHadNotSavedIsOfferedInOneDialog) {
 TEST_F(RecoveryTest, WhatAnotherProgramWritesIsReadAnewOrAskedAbout) {
     const Editor editor(folder, {"a.txt", "b.txt"});
     editor.keys("my ");
-    ASSERT_TRUE(editor.hasCaption("b.txt *]"));
+    ASSERT_TRUE(editor.showsPosition(1, 4));
     folder.put("a.txt", "another's a\r\n");
     folder.put("b.txt", "another's b\r\n");
     comeBackTo(editor);

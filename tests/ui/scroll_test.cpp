@@ -15,49 +15,61 @@ class ScrollTest : public ::testing::Test {
             text += "line " + std::to_string(i) + "\r\n";
         folder.put("a.txt", text);
     }
-    // What the window shows when many looks in a row have shown the same.
-    static std::vector<std::uint32_t> settledPixels(HWND window) {
-        constexpr int kLooks = 20;
-        std::vector<std::uint32_t> pixels;
-        int same = 0;
-        EXPECT_TRUE(WaitUntil([&] {
-            auto now = PixelsOf(window);
-            same = now == pixels ? same + 1 : 0;
-            pixels = std::move(now);
-            return same == kLooks;
-        }));
-        return pixels;
+    static void scroll(HWND document, WORD request, int times = 1) {
+        const HWND pane = ChildrenOf(document, "PaneWindowCL").at(0);
+        for (int i = 0; i < times; ++i)
+            PostMessageA(pane, WM_VSCROLL, request, 0);
     }
-    static void scroll(const Editor& editor, UINT message, WORD request) {
-        PostMessageA(editor.activePane(), message, request, 0);
+    // The document windows, of one size and side by side.
+    static std::vector<HWND> placedDocuments(const Editor& editor) {
+        RECT room{};
+        GetClientRect(ChildrenOf(editor.frame(), "MDIClient").at(0), &room);
+        const std::vector<HWND> documents = ChildrenOf(editor.frame(), "MDIchildCL");
+        const int width = room.right / 2;
+        int left = 0;
+        for (const HWND document : documents) {
+            SetWindowPos(document, nullptr, left, 0, width, room.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+            left += width;
+        }
+        return documents;
     }
+    static void putCaretsAtEnd(const Editor& editor) {
+        for (int i = 0; i < 2; ++i) {
+            const HWND before = editor.activeDocument();
+            editor.keys("{Alt+N}");
+            ASSERT_TRUE(WaitUntil([&] { return editor.activeDocument() != before && editor.line() == 1; }));
+            editor.keys("{Ctrl+End}");
+            ASSERT_TRUE(WaitUntil([&] { return editor.line() > 1; }));
+        }
+    }
+    static bool lookAlike(const std::vector<HWND>& windows) { return PixelsOf(windows[0]) == PixelsOf(windows[1]); }
 
     TestFolder folder;
 };
 
-// Rows that stay in sight are moved and the others drawn; at a jump to the other end of the text all are drawn.
+// Rows that stay in sight are moved and the others drawn; at a jump to the other end of the text all are drawn. Two
+// windows on one text, of which one only jumps, look alike whenever both have drawn what they were told to.
 TEST_F(ScrollTest, RowsThatAreMovedLookAsIfTheyWereDrawn) {
-    const Editor editor(folder, {"a.txt"});
-    const HWND window = editor.activeDocument();
+    folder.put("vexa.INI", "[Editor Options]\r\nMultipleCopies=1\r\nDisplayMode=1\r\n");
+    const Editor editor(folder, {"a.txt", "a.txt"});
+    const std::vector<HWND> windows = placedDocuments(editor);
+    ASSERT_EQ(windows.size(), 2u);
     struct Case {
-        const char* caretKey;  // puts the caret, which blinks, out of sight
-        WORD jump;
+        WORD jump;  // to where the caret, which blinks, is not
         WORD away;
         WORD back;
     };
-    const Case cases[] = {{"{Ctrl+Home}", SB_BOTTOM, SB_LINEUP, SB_LINEDOWN},
-                          {"{Ctrl+End}", SB_TOP, SB_LINEDOWN, SB_LINEUP}};
+    const Case cases[] = {{SB_BOTTOM, SB_LINEUP, SB_LINEDOWN}, {SB_TOP, SB_LINEDOWN, SB_LINEUP}};
     for (const Case& c : cases) {
-        editor.keys(c.caretKey);
-        ASSERT_TRUE(WaitUntil([&] { return (editor.line() == 1) == (c.jump == SB_BOTTOM); }));
-        scroll(editor, WM_VSCROLL, c.jump);
-        const auto drawn = settledPixels(window);
-        for (int i = 0; i < 3; ++i)
-            scroll(editor, WM_VSCROLL, c.away);
-        ASSERT_TRUE(WaitUntil([&] { return PixelsOf(window) != drawn; }));
-        for (int i = 0; i < 3; ++i)
-            scroll(editor, WM_VSCROLL, c.back);
-        EXPECT_TRUE(WaitUntil([&] { return PixelsOf(window) == drawn; })) << c.caretKey;
+        if (c.jump == SB_TOP) putCaretsAtEnd(editor);
+        scroll(windows[0], c.jump);
+        ASSERT_TRUE(WaitUntil([&] { return !lookAlike(windows); })) << c.jump;
+        scroll(windows[1], c.jump);
+        ASSERT_TRUE(WaitUntil([&] { return lookAlike(windows); })) << c.jump;
+        scroll(windows[1], c.away, 3);
+        ASSERT_TRUE(WaitUntil([&] { return !lookAlike(windows); })) << c.jump;
+        scroll(windows[1], c.back, 3);
+        EXPECT_TRUE(WaitUntil([&] { return lookAlike(windows); })) << c.jump;
     }
 }
 
@@ -78,7 +90,8 @@ TEST_F(ScrollTest, DraggingBelowTheWindowScrollsOnAndMarks) {
     const Editor editor(folder, {"a.txt"});
     RECT client;
     ASSERT_TRUE(GetClientRect(editor.activePane(), &client));
-    editor.drag({{0, 2}, {0, client.bottom + 5}}, [&] { return WaitUntil([&] { return editor.line() > 100; }); });
+    EXPECT_TRUE(editor.drag({{0, 2}, {0, client.bottom + 5}}, [&] { return editor.line() > 100; }))
+        << editor.position();
     editor.keys("{Del}");
     ASSERT_TRUE(editor.hasCaption("*"));
     EXPECT_TRUE(editor.showsPosition(1, 1));  // what was marked from the first line on has gone

@@ -67,8 +67,8 @@ TEST(ToolBar, ButtonRunsItsCommandAndSaysItsName) {
     EXPECT_TRUE(editor.hasCaption("[untitled.txt]"));
     editor.keys("x");  // the focus has stayed with the text
     EXPECT_TRUE(editor.hasCaption("[untitled.txt *]"));
-    editor.point({FirstButton(editor).x + 1, FirstButton(editor).y});
-    EXPECT_TRUE(editor.hasTopWindow(TOOLTIPS_CLASSA));
+    EXPECT_TRUE(editor.pointUntil({FirstButton(editor).x + 1, FirstButton(editor).y},
+                                  [&] { return editor.hasTopWindow(TOOLTIPS_CLASSA); }));
     editor.takePicture("tooltip");
 }
 

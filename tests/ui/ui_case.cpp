@@ -118,7 +118,14 @@ bool StartAgain(Stage& stage, Words words) {
     return second.ends() && GetExitCodeProcess(second.process(), &code) && code == 0;
 }
 
+bool Command(Stage& stage, Words words) {
+    if (!stage.editor->takesCommands()) return false;
+    stage.editor->command(CommandNamed(words.word()));
+    return true;
+}
+
 bool End(Stage& stage, Words) {
+    if (!stage.editor->takesCommands()) return false;
     stage.editor->requestClose();
     return stage.editor->ends();
 }
@@ -242,7 +249,7 @@ const std::map<std::string, Run> kDoing = {
     {"kill", [](Stage& s, Words) { return s.editor->kill(), true; }},
     {"keys", [](Stage& s, Words w) { return s.editor->keys(w.rest()), true; }},
     {"keys-there", [](Stage&, Words w) { return PressKeys(w.rest()), true; }},
-    {"command", [](Stage& s, Words w) { return s.editor->command(CommandNamed(w.word())), true; }},
+    {"command", &Command},
     {"click-pane", &PressPane},
     {"click", [](Stage& s, Words w) -> bool { return PostMessageA(w.control(s), BM_CLICK, 0, 0); }},
     {"click-label", &ClickLabel},
@@ -321,8 +328,14 @@ bool HasMoved(Stage& stage, Words words) {
     return place.left == x && place.top == words.number();
 }
 
+// Read when the editor takes messages, so not in the middle of its writing.
+std::string FileOf(const Stage& stage, const std::string& name) {
+    if (stage.editor) stage.editor->answers();
+    return stage.folder.get(name);
+}
+
 bool FileHas(Stage& stage, Words words) {
-    const std::string text = "\r\n" + stage.folder.get(words.word());
+    const std::string text = "\r\n" + FileOf(stage, words.word());
     return text.find("\r\n" + words.rest() + "\r\n") != std::string::npos;
 }
 
@@ -410,7 +423,7 @@ const std::map<std::string, Run> kSeeing = {
     {"row", &HasRow},
     {"chosen", [](Stage& s, Words w) { return SendMessageA(w.control(s), LB_GETCURSEL, 0, 0) == w.number(); }},
     {"moved", &HasMoved},
-    {"file-is", [](Stage& s, Words w) { return s.folder.get(w.rest()) == w.lines(); }},
+    {"file-is", [](Stage& s, Words w) { return FileOf(s, w.rest()) == w.lines(); }},
     {"file-has", &FileHas},
     {"exists", [](Stage& s, Words w) { return s.folder.has(w.rest()); }},
     {"missing", [](Stage& s, Words w) { return !s.folder.has(w.rest()); }},
