@@ -220,7 +220,11 @@ bool Scroll(Stage& stage, Words words) {
 // Beside NAME.png the file NAME.area says which part of the screen it is, as "WIDTHxHEIGHT+X+Y".
 bool TakePictureOf(Stage& stage, Words words) {
     RECT area{};
-    GetWindowRect(words.word() == "frame" ? stage.editor->frame() : stage.dialog(), &area);
+    const std::string part = words.word();
+    GetWindowRect(part == "frame"    ? stage.editor->frame()
+                  : part == "viewer" ? FindWindowA("VexaHelp", nullptr)
+                                     : stage.dialog(),
+                  &area);
     if (const char* folder = std::getenv("VEXA_SCREENSHOTS"))
         std::ofstream(std::string(folder) + "/" + words.rest() + ".area")
             << area.right - area.left << 'x' << area.bottom - area.top << '+' << area.left << '+' << area.top;

@@ -66,7 +66,7 @@
 //   background black, first-line yellow       colours of the text's window
 //   pages 3                         pages that were printed last
 //   picture find                    for people to look at
-//   picture-of dialog find          and which part of it the dialog, or the frame, is
+//   picture-of dialog find          and which part of it the dialog, the frame or the viewer is
 #pragma once
 
 #include <ostream>

@@ -1,4 +1,5 @@
-// The dialogs of the help viewer: the index, the choice among topics, and the text to find.
+// The dialogs of the help viewer: the index, the choice among topics, and the text to find. They have no Help of their
+// own, as it would take the viewer away from the help file that they are about.
 #pragma once
 
 #include <string>
