@@ -28,15 +28,31 @@ fs::path ProgramUnderTest() {
     return fs::path(self).replace_filename("vexa.exe");
 }
 
-// Read-only files can only be removed when they are no longer so, and programs when they have ended.
-void RemoveAll(const fs::path& folder) {
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        SetFileAttributesA(entry.path().string().c_str(), FILE_ATTRIBUTE_NORMAL);
-    }
+// Read-only files can only be removed when they are no longer so. Programs that are about to end may remove files of
+// theirs meanwhile, which the functions of the standard library do not bear.
+void RemoveWhatCanBe(const std::string& folder) {
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        const std::string name = found.cFileName;
+        const std::string path = folder + "\\" + name;
+        if (name == "." || name == "..") continue;
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
+            RemoveWhatCanBe(path);
+        else
+            DeleteFileA(path.c_str());
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    RemoveDirectoryA(folder.c_str());
+}
+
+// Programs can only be removed when they have ended.
+void RemoveAll(const std::string& folder) {
     WaitUntil([&folder] {
-        std::error_code failure;
-        fs::remove_all(folder, failure);
-        return !failure;
+        RemoveWhatCanBe(folder);
+        return GetFileAttributesA(folder.c_str()) == INVALID_FILE_ATTRIBUTES;
     });
 }
 
