@@ -48,7 +48,7 @@ std::int32_t NumberOf(std::string_view text) {
     return static_cast<std::int32_t>(number);
 }
 
-std::optional<std::uint32_t> OffsetOf(const HelpIndex& index, const std::string& context, ContextKind kind) {
+std::optional<std::uint32_t> OffsetOf(const TopicIndex& index, const std::string& context, ContextKind kind) {
     switch (kind) {
         case ContextKind::Name:
             return index.offsetOfContext(HashOfContext(context));
@@ -303,7 +303,7 @@ void HelpBrowser::refuseUnsafe(const std::vector<std::string>& macros) {
 // ---- keywords ----------------------------------------------------------------------------------------------------
 
 void HelpBrowser::addFound(const Keyword& keyword, char letter) {
-    const HelpIndex& index = current_.file->index();
+    const TopicIndex& index = current_.file->index();
     for (const std::uint32_t offset : index.offsetsOf(keyword, letter)) {
         if (found_.size() >= kMostFound) return;
         if (std::ranges::find(found_, offset, &FoundTopic::offset) != found_.end()) continue;

@@ -10,10 +10,10 @@
 #include "base/platform.h"
 #include "quickhelp/topics/help_container.h"
 #include "quickhelp/topics/help_fonts.h"
-#include "quickhelp/topics/help_index.h"
 #include "quickhelp/topics/help_system.h"
 #include "quickhelp/topics/phrases.h"
 #include "quickhelp/topics/topic.h"
+#include "quickhelp/topics/topic_index.h"
 #include "quickhelp/topics/topic_links.h"
 
 namespace vexa::topics {
@@ -31,7 +31,7 @@ class HelpFile {
     // Of the file when it was read; none for bytes.
     const std::optional<platform::FileStamp>& stamp() const { return stamp_; }
     const HelpSystem& system() const { return system_; }
-    const HelpIndex& index() const { return index_; }
+    const TopicIndex& index() const { return index_; }
     // A plain font for a number that the file has no font for.
     const HelpFont& font(int number) const;
     std::size_t fontCount() const { return fonts_.size(); }
@@ -63,7 +63,7 @@ class HelpFile {
 
     std::unique_ptr<HelpContainer> container_;
     HelpSystem system_;
-    HelpIndex index_;
+    TopicIndex index_;
     Phrases phrases_;
     std::vector<HelpFont> fonts_;
     TopicLinks links_;

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "quickhelp/topics/byte_reader.h"
-#include "quickhelp/topics/help_index.h"
 #include "quickhelp/topics/picture_header.h"
+#include "quickhelp/topics/topic_index.h"
 #include "quickhelp/topics/unpack.h"
 
 namespace vexa::topics {

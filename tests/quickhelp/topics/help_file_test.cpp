@@ -71,7 +71,7 @@ TEST(HelpFile, ShowsTheTextBehindAnUnknownCommandAndBlanksForControlCharacters) 
 
 TEST(HelpFile, FindsTopicsByEachIndex) {
     const auto file = Made();
-    const HelpIndex& index = file->index();
+    const TopicIndex& index = file->index();
     const std::uint32_t second = file->topicOffset(1);
     EXPECT_EQ(index.offsetOfContext(HashOfContext("second")), second);
     EXPECT_EQ(index.offsetOfContext(1), std::nullopt);

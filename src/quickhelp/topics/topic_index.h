@@ -27,9 +27,9 @@ struct TopicTitle {
 // The hash that stands for a context's name in the file; letter case does not matter.
 std::int32_t HashOfContext(std::string_view name);
 
-class HelpIndex {
+class TopicIndex {
   public:
-    explicit HelpIndex(const HelpContainer& container);
+    explicit TopicIndex(const HelpContainer& container);
 
     std::optional<std::uint32_t> offsetOfContext(std::int32_t hash) const;
     // By the number that a program asks for.

@@ -1,4 +1,4 @@
-#include "quickhelp/topics/help_index.h"
+#include "quickhelp/topics/topic_index.h"
 
 #include <algorithm>
 
@@ -46,7 +46,8 @@ std::int32_t HashOfContext(std::string_view name) {
     return static_cast<std::int32_t>(hash);
 }
 
-HelpIndex::HelpIndex(const HelpContainer& container) : container_(container), topicNumbers_(container.file("|TOMAP")) {
+TopicIndex::TopicIndex(const HelpContainer& container)
+    : container_(container), topicNumbers_(container.file("|TOMAP")) {
     ReadTree(container.file("|CONTEXT"), [this](ByteReader& in) {
         const std::int32_t hash = in.i32();
         const std::uint32_t offset = in.u32();
@@ -65,27 +66,27 @@ HelpIndex::HelpIndex(const HelpContainer& container) : container_(container), to
     }
 }
 
-std::optional<std::uint32_t> HelpIndex::offsetOfContext(std::int32_t hash) const {
+std::optional<std::uint32_t> TopicIndex::offsetOfContext(std::int32_t hash) const {
     return Find(contexts_, hash);
 }
 
-std::optional<std::uint32_t> HelpIndex::offsetOfNumber(std::int32_t number) const {
+std::optional<std::uint32_t> TopicIndex::offsetOfNumber(std::int32_t number) const {
     return Find(numbers_, number);
 }
 
-std::optional<std::uint32_t> HelpIndex::offsetOfTopicNumber(std::int32_t number) const {
+std::optional<std::uint32_t> TopicIndex::offsetOfTopicNumber(std::int32_t number) const {
     ByteReader in(topicNumbers_);
     in.skip(std::int64_t{4} * number);
     const std::uint32_t offset = in.u32();
     return in.failed() || offset == 0 ? std::nullopt : std::optional(offset);
 }
 
-std::string_view HelpIndex::titleOf(std::uint32_t offset) const {
+std::string_view TopicIndex::titleOf(std::uint32_t offset) const {
     const auto found = std::ranges::lower_bound(titles_, offset, {}, &TopicTitle::offset);
     return found != titles_.end() && found->offset == offset ? found->text : std::string_view();
 }
 
-std::vector<Keyword> HelpIndex::keywords(char letter) const {
+std::vector<Keyword> TopicIndex::keywords(char letter) const {
     std::vector<Keyword> found;
     ReadTree(container_.file(FileName(letter, "WBTREE")), [&found](ByteReader& in) {
         Keyword keyword;
@@ -97,7 +98,7 @@ std::vector<Keyword> HelpIndex::keywords(char letter) const {
     return found;
 }
 
-std::vector<std::uint32_t> HelpIndex::offsetsOf(const Keyword& keyword, char letter) const {
+std::vector<std::uint32_t> TopicIndex::offsetsOf(const Keyword& keyword, char letter) const {
     std::vector<std::uint32_t> offsets;
     ByteReader in(container_.file(FileName(letter, "WDATA")));
     in.skip(keyword.start);
