@@ -1,5 +1,6 @@
 #include "ui/dialogs/electric_dialog.h"
 
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -36,17 +37,23 @@ void ElectricDialog::refreshChoice() {
 }
 
 void ElectricDialog::onControl(int control, UINT notification) {
-    if (control == IDC_ELECTRIC_KEYWORDS && notification == LBN_SELCHANGE) {
-        if (const auto row = chosenRowOf(IDC_ELECTRIC_KEYWORDS)) model_.choose(*row);
-        showFields();
-    } else if (control == IDC_ELECTRIC_KEYWORD && notification == EN_CHANGE) {
-        model_.keyword = textOf(IDC_ELECTRIC_KEYWORD);
-        refreshChoice();
-    } else if (control == IDC_ELECTRIC_SET && notification == BN_CLICKED) {
-        set();
-    } else if (control == IDC_ELECTRIC_DELETE && notification == BN_CLICKED) {
-        remove();
-    }
+    static constexpr Notification<ElectricDialog> kRows[] = {
+        {IDC_ELECTRIC_KEYWORDS, LBN_SELCHANGE, &ElectricDialog::keywordChosen},
+        {IDC_ELECTRIC_KEYWORD, EN_CHANGE, &ElectricDialog::keywordTyped},
+        {IDC_ELECTRIC_SET, BN_CLICKED, &ElectricDialog::set},
+        {IDC_ELECTRIC_DELETE, BN_CLICKED, &ElectricDialog::remove},
+    };
+    Dispatch(*this, kRows, control, notification);
+}
+
+void ElectricDialog::keywordChosen() {
+    if (const auto row = chosenRowOf(IDC_ELECTRIC_KEYWORDS)) model_.choose(*row);
+    showFields();
+}
+
+void ElectricDialog::keywordTyped() {
+    model_.keyword = textOf(IDC_ELECTRIC_KEYWORD);
+    refreshChoice();
 }
 
 void ElectricDialog::set() {

@@ -16,6 +16,8 @@ class ElectricDialog : public EditorDialog {
     void onControl(int control, UINT notification) override;
 
   private:
+    void keywordChosen();
+    void keywordTyped();
     void read();
     void showEntries();
     void showFields();

@@ -1,5 +1,6 @@
 #include "ui/dialogs/functions_dialog.h"
 
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -32,14 +33,21 @@ void FunctionsDialog::onAccept() {
 }
 
 void FunctionsDialog::onControl(int control, UINT notification) {
-    if (control == IDC_FUNCTION_FILTER && notification == EN_CHANGE) {
-        model_.setFilter(textOf(IDC_FUNCTION_FILTER));
-        showRows();
-    } else if (control == IDC_FUNCTIONS && notification == LBN_SELCHANGE) {
-        if (const auto row = chosenRowOf(IDC_FUNCTIONS)) model_.chooseRow(*row);
-    } else if (control == IDC_FUNCTIONS && notification == LBN_DBLCLK) {
-        onAccept();
-    }
+    static constexpr Notification<FunctionsDialog> kRows[] = {
+        {IDC_FUNCTION_FILTER, EN_CHANGE, &FunctionsDialog::filterTyped},
+        {IDC_FUNCTIONS, LBN_SELCHANGE, &FunctionsDialog::functionChosen},
+        {IDC_FUNCTIONS, LBN_DBLCLK, &FunctionsDialog::onAccept},
+    };
+    Dispatch(*this, kRows, control, notification);
+}
+
+void FunctionsDialog::filterTyped() {
+    model_.setFilter(textOf(IDC_FUNCTION_FILTER));
+    showRows();
+}
+
+void FunctionsDialog::functionChosen() {
+    if (const auto row = chosenRowOf(IDC_FUNCTIONS)) model_.chooseRow(*row);
 }
 
 }  // namespace vexa

@@ -17,6 +17,8 @@ class FunctionsDialog : public EditorDialog {
     void onControl(int control, UINT notification) override;
 
   private:
+    void filterTyped();
+    void functionChosen();
     void showRows();
 
     FunctionListModel& model_;

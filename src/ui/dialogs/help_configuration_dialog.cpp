@@ -1,5 +1,6 @@
 #include "ui/dialogs/help_configuration_dialog.h"
 
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -53,22 +54,35 @@ void HelpConfigurationDialog::onAccept() {
 }
 
 void HelpConfigurationDialog::onControl(int number, UINT notification) {
-    if (number == IDC_HELP_FILES && notification == LBN_SELCHANGE) {
-        model_.chooseRow(chosenRowOf(IDC_HELP_FILES));
-        showButtons();
-    } else if (number == IDC_HELP_FILES && notification == LBN_DBLCLK) {
-        openRow();
-    } else if (number == IDC_HELP_INSTALLED && notification == LBN_SELCHANGE) {
-        model_.chooseInstalled(chosenRowOf(IDC_HELP_INSTALLED));
-        showButtons();
-    } else if (number == IDC_HELP_ADD && notification == BN_CLICKED) {
-        model_.add();
-        showFiles();
-        showInstalled();
-    } else if (number == IDC_HELP_REMOVE && notification == BN_CLICKED) {
-        model_.remove();
-        showInstalled();
-    }
+    static constexpr Notification<HelpConfigurationDialog> kRows[] = {
+        {IDC_HELP_FILES, LBN_SELCHANGE, &HelpConfigurationDialog::fileChosen},
+        {IDC_HELP_FILES, LBN_DBLCLK, &HelpConfigurationDialog::openRow},
+        {IDC_HELP_INSTALLED, LBN_SELCHANGE, &HelpConfigurationDialog::installedChosen},
+        {IDC_HELP_ADD, BN_CLICKED, &HelpConfigurationDialog::add},
+        {IDC_HELP_REMOVE, BN_CLICKED, &HelpConfigurationDialog::remove},
+    };
+    Dispatch(*this, kRows, number, notification);
+}
+
+void HelpConfigurationDialog::fileChosen() {
+    model_.chooseRow(chosenRowOf(IDC_HELP_FILES));
+    showButtons();
+}
+
+void HelpConfigurationDialog::installedChosen() {
+    model_.chooseInstalled(chosenRowOf(IDC_HELP_INSTALLED));
+    showButtons();
+}
+
+void HelpConfigurationDialog::add() {
+    model_.add();
+    showFiles();
+    showInstalled();
+}
+
+void HelpConfigurationDialog::remove() {
+    model_.remove();
+    showInstalled();
 }
 
 }  // namespace vexa

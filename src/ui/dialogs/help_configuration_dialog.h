@@ -19,6 +19,10 @@ class HelpConfigurationDialog : public EditorDialog {
     void onControl(int control, UINT notification) override;
 
   private:
+    void fileChosen();
+    void installedChosen();
+    void add();
+    void remove();
     void showFiles();
     void showInstalled();
     void showButtons();

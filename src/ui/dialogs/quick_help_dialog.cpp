@@ -1,6 +1,7 @@
 #include "ui/dialogs/quick_help_dialog.h"
 
 #include "base/strings.h"
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -49,12 +50,15 @@ void QuickHelpDialogWindow::onAccept() {
 }
 
 void QuickHelpDialogWindow::onControl(int number, UINT notification) {
-    if (number != IDC_HELP_MATCHES) return;
-    if (notification == LBN_SELCHANGE) {
-        if (const auto row = chosenRowOf(IDC_HELP_MATCHES)) model_.chooseRow(*row);
-    } else if (notification == LBN_DBLCLK) {
-        onAccept();
-    }
+    static constexpr Notification<QuickHelpDialogWindow> kRows[] = {
+        {IDC_HELP_MATCHES, LBN_SELCHANGE, &QuickHelpDialogWindow::matchChosen},
+        {IDC_HELP_MATCHES, LBN_DBLCLK, &QuickHelpDialogWindow::onAccept},
+    };
+    Dispatch(*this, kRows, number, notification);
+}
+
+void QuickHelpDialogWindow::matchChosen() {
+    if (const auto row = chosenRowOf(IDC_HELP_MATCHES)) model_.chooseRow(*row);
 }
 
 }  // namespace vexa

@@ -24,6 +24,7 @@ class QuickHelpDialogWindow : public EditorDialog {
     void onGone() override { history_.Save(); }
 
   private:
+    void matchChosen();
     void showRows();
     void focusList();
 

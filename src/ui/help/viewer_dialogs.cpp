@@ -1,6 +1,7 @@
 #include "ui/help/viewer_dialogs.h"
 
 #include "base/strings.h"
+#include "framework/dialog_fields.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -27,14 +28,18 @@ void HelpIndexDialog::onOpen() {
 }
 
 void HelpIndexDialog::onControl(int number, UINT notification) {
-    if (number == IDC_HELP_TEXT && notification == EN_CHANGE) {
-        const std::string text = textOf(IDC_HELP_TEXT);
-        if (!text.empty())
-            SendMessageA(control(IDC_HELP_KEYWORDS), LB_SELECTSTRING, static_cast<WPARAM>(-1),
-                         reinterpret_cast<LPARAM>(text.c_str()));
-    } else if (number == IDC_HELP_KEYWORDS && notification == LBN_DBLCLK) {
-        onAccept();
-    }
+    static constexpr Notification<HelpIndexDialog> kRows[] = {
+        {IDC_HELP_TEXT, EN_CHANGE, &HelpIndexDialog::textTyped},
+        {IDC_HELP_KEYWORDS, LBN_DBLCLK, &HelpIndexDialog::onAccept},
+    };
+    Dispatch(*this, kRows, number, notification);
+}
+
+void HelpIndexDialog::textTyped() {
+    const std::string text = textOf(IDC_HELP_TEXT);
+    if (!text.empty())
+        SendMessageA(control(IDC_HELP_KEYWORDS), LB_SELECTSTRING, static_cast<WPARAM>(-1),
+                     reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 void HelpIndexDialog::onAccept() {
@@ -58,7 +63,10 @@ void HelpChoiceDialog::onOpen() {
 }
 
 void HelpChoiceDialog::onControl(int number, UINT notification) {
-    if (number == IDC_HELP_TOPICS && notification == LBN_DBLCLK) onAccept();
+    static constexpr Notification<HelpChoiceDialog> kRows[] = {
+        {IDC_HELP_TOPICS, LBN_DBLCLK, &HelpChoiceDialog::onAccept},
+    };
+    Dispatch(*this, kRows, number, notification);
 }
 
 void HelpChoiceDialog::onAccept() {

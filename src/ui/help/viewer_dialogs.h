@@ -24,6 +24,8 @@ class HelpIndexDialog : public DialogFrameCL {
     void onControl(int control, UINT notification) override;
 
   private:
+    void textTyped();
+
     std::vector<topics::Keyword> keywords_;
     std::size_t chosen_ = 0;
 };
