@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "base/strings.h"
+
 namespace vexa {
 
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
@@ -16,16 +18,12 @@ class Notices {
     // Shows text in the status line's message area, with the warning beep and highlighted if asked.
     virtual void status(std::string_view text, bool beep, bool highlight) = 0;
     // Shows a message box after the exclamation beep, and returns the button that the user chose.
-    virtual BoxAnswer box(std::string_view text, std::string_view caption, BoxButtons buttons) = 0;
+    virtual BoxAnswer box(std::string_view text, TextId caption, BoxButtons buttons) = 0;
     // Shows or takes away the busy cursor. Calls nest: the cursor is busy until each true is matched by a false.
     virtual void setBusy(bool busy) = 0;
     // Lets queued messages run. Returns true, at once, when the next message is the one that ends the program.
     virtual bool pumpMessages() = 0;
 };
-
-// The captions of the program's message boxes.
-inline constexpr std::string_view kProgramCaption = "Vexa 95";
-inline constexpr std::string_view kErrorCaption = "Vexa Error";
 
 // Shows the busy cursor while it lives.
 class BusyCursor {

@@ -35,22 +35,22 @@ void CompilerSetupModel::test(Notices& notices) const {
     if (const std::optional<SampleCommand> parsed = ParseSampleCommand(command)) {
         CompilerSetup tried;
         tried.setCommand(*parsed);
-        notices.box(tried.expandedCommand(), LoadText(TextId::SampleFormatOk), BoxButtons::Ok);
+        notices.box(tried.expandedCommand(), TextId::SampleFormatOk, BoxButtons::Ok);
     } else {
-        notices.box(LoadText(TextId::SampleFormatError), kErrorCaption, BoxButtons::Ok);
+        notices.box(LoadText(TextId::SampleFormatError), TextId::ErrorCaption, BoxButtons::Ok);
     }
 }
 
 // A name without a file in the current directory may still be one of the PATH.
 bool CompilerSetupModel::acceptsRunFile(Notices& notices) const {
-    return platform::PathExists(runFile) ||
-           notices.box(FillText(TextId::RunFileMissing, {runFile}), kErrorCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
+    return platform::PathExists(runFile) || notices.box(FillText(TextId::RunFileMissing, {runFile}),
+                                                        TextId::ErrorCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 CompilerSetupModel::Outcome CompilerSetupModel::update(Notices& notices) {
     const std::optional<SampleCommand> parsed = ParseSampleCommand(command);
     if (usesBatchFile_ && !parsed) {
-        notices.box(LoadText(TextId::BadSampleCommand), kErrorCaption, BoxButtons::Ok);
+        notices.box(LoadText(TextId::BadSampleCommand), TextId::ErrorCaption, BoxButtons::Ok);
         return Outcome::StayAtCommand;
     }
     if (!usesBatchFile_ && !acceptsRunFile(notices)) return Outcome::StayAtRunFile;

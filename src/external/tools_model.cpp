@@ -44,7 +44,7 @@ std::optional<ToolsModel::Outcome> ToolsModel::readFields(ProgramRequest& tool) 
     if (kind != ProgramKind::Interpreter) {
         const std::optional<std::string> found = FindProgram(program, searchPath_);
         if (!found) {
-            notices_.box(SpawnText(SpawnResult::FileNotFound), kErrorCaption, BoxButtons::Ok);
+            notices_.box(SpawnText(SpawnResult::FileNotFound), TextId::ErrorCaption, BoxButtons::Ok);
             return Outcome::StayAtProgram;
         }
         program = *found;
@@ -52,7 +52,7 @@ std::optional<ToolsModel::Outcome> ToolsModel::readFields(ProgramRequest& tool) 
     }
     std::ranges::transform(directory, directory.begin(), UpperAscii);
     if (!directory.empty() && !platform::DirectoryExists(directory)) {
-        notices_.box(LoadText(TextId::NoToolDirectory), kErrorCaption, BoxButtons::Ok);
+        notices_.box(LoadText(TextId::NoToolDirectory), TextId::ErrorCaption, BoxButtons::Ok);
         return Outcome::StayAtDirectory;
     }
     tool.kind = kind;
@@ -67,12 +67,13 @@ std::optional<ToolsModel::Outcome> ToolsModel::readFields(ProgramRequest& tool) 
 }
 
 bool ToolsModel::mayReplace(const std::string& name) {
-    return notices_.box(FillText(TextId::ReplaceTool, {name}), kProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
+    return notices_.box(FillText(TextId::ReplaceTool, {name}), TextId::ProgramCaption, BoxButtons::YesNo) ==
+           BoxAnswer::Yes;
 }
 
 ToolsModel::Outcome ToolsModel::add() {
     if (list_.tools().size() >= kMostTools) {
-        notices_.box(LoadText(TextId::TooManyTools), kErrorCaption, BoxButtons::Ok);
+        notices_.box(LoadText(TextId::TooManyTools), TextId::ErrorCaption, BoxButtons::Ok);
         return Outcome::Nothing;
     }
     ProgramRequest tool;
@@ -109,7 +110,7 @@ ToolsModel::Outcome ToolsModel::update() {
 ToolsModel::Outcome ToolsModel::remove() {
     if (!selected_) return Outcome::Nothing;
     const std::string& name = list_.tools()[*selected_].menuText();
-    if (notices_.box(FillText(TextId::DeleteTool, {name}), kProgramCaption, BoxButtons::YesNo) != BoxAnswer::Yes)
+    if (notices_.box(FillText(TextId::DeleteTool, {name}), TextId::ProgramCaption, BoxButtons::YesNo) != BoxAnswer::Yes)
         return Outcome::Nothing;
     Tools tools = list_.tools();
     tools.erase(tools.begin() + static_cast<std::ptrdiff_t>(*selected_));
@@ -118,7 +119,7 @@ ToolsModel::Outcome ToolsModel::remove() {
 
 ToolsModel::Outcome ToolsModel::keep(Tools tools, std::optional<std::size_t> selection) {
     if (!list_.replace(std::move(tools))) {
-        notices_.box(FillText(TextId::CannotWriteFile, {list_.path()}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::CannotWriteFile, {list_.path()}), TextId::ErrorCaption, BoxButtons::Ok);
         return Outcome::Nothing;
     }
     selected_ = selection;

@@ -41,7 +41,7 @@ std::vector<std::string> SortedOnceEach(std::vector<std::string> words) {
 }
 
 void Tell(Notices& notices, const std::string& text) {
-    notices.box(text, kErrorCaption, BoxButtons::Ok);
+    notices.box(text, TextId::ErrorCaption, BoxButtons::Ok);
 }
 
 }  // namespace
@@ -140,7 +140,7 @@ void ExtensionEditModel::importFiles(const std::vector<std::string>& paths, Noti
         }
         isAnyRead = isAnyRead || words;
     }
-    if (isAnyRead) notices.box(Summary(count), kProgramCaption, BoxButtons::Ok);
+    if (isAnyRead) notices.box(Summary(count), TextId::ProgramCaption, BoxButtons::Ok);
 }
 
 // ---- update ------------------------------------------------------------------------------------------------------
@@ -154,7 +154,7 @@ bool ExtensionEditModel::mayReplace(Notices& notices) const {
     const auto isWanted = [wanted](const std::string& name) { return EqualIgnoringCase(name, wanted); };
     if (!isNew_ || std::ranges::none_of(profiles_.extensions(), isWanted)) return true;
     const std::string question = FillText(TextId::ReplaceExtension, {wanted});
-    return notices.box(question, kProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
+    return notices.box(question, TextId::ProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 bool ExtensionEditModel::update(Notices& notices) const {

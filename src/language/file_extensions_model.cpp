@@ -27,11 +27,11 @@ std::optional<std::size_t> FileExtensionsModel::rowOf(std::string_view extension
 bool FileExtensionsModel::deleteProfile(std::size_t row, Notices& notices) {
     const std::string& extension = rows_[row].extension;
     const std::string question = FillText(TextId::DeleteExtension, {extension});
-    if (notices.box(question, kProgramCaption, BoxButtons::YesNo) != BoxAnswer::Yes) return false;
+    if (notices.box(question, TextId::ProgramCaption, BoxButtons::YesNo) != BoxAnswer::Yes) return false;
     const std::string path = profiles_.profilePath(extension);
     if (!platform::RemoveFile(path)) {
         const std::string name = path.substr(DirectoryOf(path).size());
-        notices.box(FillText(TextId::CannotWriteFile, {name}), kErrorCaption, BoxButtons::Ok);
+        notices.box(FillText(TextId::CannotWriteFile, {name}), TextId::ErrorCaption, BoxButtons::Ok);
         return false;
     }
     readRows();

@@ -117,7 +117,7 @@ bool HelpConfigurationModel::add() {
     const IndexResult result = build(name);
     if (result != IndexResult::Written) {
         const std::string message = FillText(TextId::HelpIndexFailed, {Changed(name, UpperAscii)});
-        notices_.box(message + std::string(TextOf(result)), kErrorCaption, BoxButtons::Ok);
+        notices_.box(message + std::string(TextOf(result)), TextId::ErrorCaption, BoxButtons::Ok);
         return false;
     }
     note(name);
@@ -129,7 +129,7 @@ void HelpConfigurationModel::remove() {
     if (!canRemove()) return;
     const std::string name = WithExtension(installed_[*installedRow_], ".zix");
     if (!DeleteHelpIndex(indexDirectory_ + "\\" + name)) {
-        notices_.box(FillText(TextId::HelpIndexCannotDelete, {name}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::HelpIndexCannotDelete, {name}), TextId::ErrorCaption, BoxButtons::Ok);
         return;
     }
     installed_.erase(installed_.begin() + static_cast<std::ptrdiff_t>(*installedRow_));

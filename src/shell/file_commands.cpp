@@ -36,7 +36,7 @@ bool FileCommands::open(TextDocument& document, const std::optional<std::string>
     takeProfile(document);
     if (!opened) {
         notices_.status(FillText(TextId::UnexpectedError, {"VXEPAN01", "2562"}), true, true);
-        notices_.box(FillText(TextId::CannotOpenFile, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::CannotOpenFile, {document.baseName()}), TextId::ErrorCaption, BoxButtons::Ok);
         return false;
     }
     const std::string notice = OpenedNotice(document);
@@ -45,7 +45,7 @@ bool FileCommands::open(TextDocument& document, const std::optional<std::string>
 }
 
 void FileCommands::refuseTruncated(const TextDocument& document) {
-    notices_.box(FillText(TextId::FileTruncated, {document.baseName()}), kErrorCaption, BoxButtons::Ok);
+    notices_.box(FillText(TextId::FileTruncated, {document.baseName()}), TextId::ErrorCaption, BoxButtons::Ok);
 }
 
 // An unmodified document is written only when its file is no longer there.
@@ -91,8 +91,8 @@ bool FileCommands::writeUnder(TextDocument& document, const std::string& path) {
 
 bool FileCommands::queryClose(TextDocument& document) {
     if (!document.isModified()) return true;
-    switch (
-        notices_.box(FillText(TextId::SaveChanges, {document.fullPath()}), kProgramCaption, BoxButtons::YesNoCancel)) {
+    switch (notices_.box(FillText(TextId::SaveChanges, {document.fullPath()}), TextId::ProgramCaption,
+                         BoxButtons::YesNoCancel)) {
         case BoxAnswer::Yes:
             save(document);
             return !document.isModified();

@@ -9,7 +9,7 @@ bool IsUsableName(const std::string& path, Notices& notices) {
     const NameFault fault = FaultOfName(path);
     if (fault == NameFault::None) return true;
     const TextId text = fault == NameFault::TooLong ? TextId::NameTooLong : TextId::NameNotAFile;
-    notices.box(FillText(text, {path}), kErrorCaption, BoxButtons::Ok);
+    notices.box(FillText(text, {path}), TextId::ErrorCaption, BoxButtons::Ok);
     return false;
 }
 

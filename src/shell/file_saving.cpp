@@ -22,7 +22,7 @@ TextId CauseOf(CopyFault fault) {
 }  // namespace
 
 bool FileSaving::isYes(const std::string& question) {
-    return notices_.box(question, kProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
+    return notices_.box(question, TextId::ProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 bool FileSaving::mayChangeBytes(const TextDocument& document) {
@@ -46,7 +46,7 @@ bool FileSaving::write(TextDocument& document) {
 bool FileSaving::mayGoOn(TextDocument& document, const WriteOutcome& outcome) {
     const std::string& name = document.baseName();
     if (outcome.result == WriteResult::Failed || outcome.result == WriteResult::Torn) {
-        notices_.box(FillText(TextId::CannotWriteFile, {name}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::CannotWriteFile, {name}), TextId::ErrorCaption, BoxButtons::Ok);
         return false;
     }
     if (outcome.result == WriteResult::NoCopy)

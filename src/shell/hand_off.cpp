@@ -28,7 +28,7 @@ std::string HandOffFile() {
 }
 
 void TellUnexpectedError(Notices& notices, std::string_view module, std::string_view line) {
-    notices.box(FillText(TextId::UnexpectedError, {module, line}), kErrorCaption, BoxButtons::Ok);
+    notices.box(FillText(TextId::UnexpectedError, {module, line}), TextId::ErrorCaption, BoxButtons::Ok);
 }
 
 // Quotes only keep blanks together; no name has one.

@@ -21,7 +21,7 @@ bool AreEqual(const std::string& a, const std::string& b) {
 
 void OfferLeftCopies(const std::string& path, Notices& notices, const std::function<void(const std::string&)>& open) {
     const auto isYes = [&notices](const std::string& question) {
-        return notices.box(question, kProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
+        return notices.box(question, TextId::ProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
     };
     const std::string name = path.substr(DirectoryOf(path).size());
     for (const std::string& copy : LeftSafetyCopies(path)) {
@@ -35,7 +35,7 @@ void OfferLeftCopies(const std::string& path, Notices& notices, const std::funct
                                              : FillText(TextId::DeleteLeftCopy, {copy, kept}));
         if (isDeleted) {
             if (!platform::RemoveFile(copy))
-                notices.box(FillText(TextId::CannotWriteFile, {copy}), kErrorCaption, BoxButtons::Ok);
+                notices.box(FillText(TextId::CannotWriteFile, {copy}), TextId::ErrorCaption, BoxButtons::Ok);
         } else if (!kept.empty()) {
             platform::RenameFile(copy, kept);
         }

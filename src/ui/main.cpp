@@ -22,8 +22,8 @@ namespace {
 class StartNotices : public vexa::Notices {
   public:
     void status(std::string_view, bool, bool) override {}
-    vexa::BoxAnswer box(std::string_view text, std::string_view caption, vexa::BoxButtons) override {
-        vexa::ShowBox(nullptr, std::string(text), std::string(caption), MB_OK);
+    vexa::BoxAnswer box(std::string_view text, vexa::TextId caption, vexa::BoxButtons) override {
+        vexa::ShowBox(nullptr, std::string(text), std::string(vexa::LoadText(caption)), MB_OK);
         return vexa::BoxAnswer::Ok;
     }
     void setBusy(bool) override {}
@@ -37,7 +37,7 @@ void ShowOutOfMemory(const char* text, const char* caption) {
 
 void ShowCommandLineHelp() {
     vexa::ShowBox(nullptr, std::string(vexa::LoadText(vexa::TextId::CommandLineHelp)),
-                  std::string(vexa::kProgramCaption), MB_OK);
+                  std::string(vexa::LoadText(vexa::TextId::ProgramCaption)), MB_OK);
 }
 
 // The marker of a program that was killed stays until the user logs off; a file handed over then would be read by

@@ -25,7 +25,7 @@ inline void Require(bool held) {
 class SilentNotices : public Notices {
   public:
     void status(std::string_view, bool, bool) override {}
-    BoxAnswer box(std::string_view, std::string_view, BoxButtons) override { return BoxAnswer::Ok; }
+    BoxAnswer box(std::string_view, TextId, BoxButtons) override { return BoxAnswer::Ok; }
     void setBusy(bool) override {}
     bool pumpMessages() override { return false; }
 };

@@ -8,8 +8,8 @@ void RecordingNotices::status(std::string_view text, bool beep, bool highlight) 
     statuses.push_back({std::string(text), beep, highlight});
 }
 
-BoxAnswer RecordingNotices::box(std::string_view text, std::string_view caption, BoxButtons buttons) {
-    boxes.push_back({std::string(text), std::string(caption), buttons});
+BoxAnswer RecordingNotices::box(std::string_view text, TextId caption, BoxButtons buttons) {
+    boxes.push_back({std::string(text), std::string(LoadText(caption)), buttons});
     if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;
     if (answers.empty()) {
         ADD_FAILURE() << "unexpected question: " << text;
@@ -28,6 +28,7 @@ void RecordingNotices::setBusy(bool busy) {
 
 bool RecordingNotices::pumpMessages() {
     ++pumpCount;
+    if (onPump) onPump();
     return quitAtPump != 0 && pumpCount >= quitAtPump;
 }
 

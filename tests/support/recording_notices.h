@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,13 +31,14 @@ class RecordingNotices : public Notices {
     void status(std::string_view text, bool beep, bool highlight) override;
     // Gives the next of the answers. A box with one button needs none; a question without one fails the test, and is
     // cancelled.
-    BoxAnswer box(std::string_view text, std::string_view caption, BoxButtons buttons) override;
+    BoxAnswer box(std::string_view text, TextId caption, BoxButtons buttons) override;
     void setBusy(bool busy) override;
     bool pumpMessages() override;
 
     // The text last shown in the status line; empty when there was none.
     std::string lastStatus() const { return statuses.empty() ? std::string() : statuses.back().text; }
 
+    std::function<void()> onPump;  // what else happens when messages run
     std::vector<StatusNotice> statuses;
     std::vector<BoxNotice> boxes;
     std::deque<BoxAnswer> answers;

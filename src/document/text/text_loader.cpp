@@ -40,7 +40,7 @@ bool TextLoader::read(File& file) {
     const bool complete = readLines();
     document_.lines().setGrowBy(growBy);
     if (complete && document_.linesWrapped_)
-        document_.notices().box(LoadText(TextId::LinesWrapped), kProgramCaption, BoxButtons::Ok);
+        document_.notices().box(LoadText(TextId::LinesWrapped), TextId::ProgramCaption, BoxButtons::Ok);
     return complete;
 }
 
@@ -52,7 +52,7 @@ bool TextLoader::readLines() try {
             return true;
         }
         if (lines_ > kLastLoadedLine) {
-            document_.notices().box(LoadText(TextId::FileTooLarge), kProgramCaption, BoxButtons::Ok);
+            document_.notices().box(LoadText(TextId::FileTooLarge), TextId::ProgramCaption, BoxButtons::Ok);
             document_.truncated_ = true;
             return true;
         }

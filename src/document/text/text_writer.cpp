@@ -96,7 +96,7 @@ WriteOutcome WriteNewFile(const TextDocument& document, const std::string& path,
 }
 
 void Tell(const TextDocument& document, TextId text, const std::string& copyName) {
-    document.notices().box(FillText(text, {document.baseName(), copyName}), kErrorCaption, BoxButtons::Ok);
+    document.notices().box(FillText(text, {document.baseName(), copyName}), TextId::ErrorCaption, BoxButtons::Ok);
 }
 
 WriteResult PutBack(const TextDocument& document, const std::string& path, const SafetyCopy& old) {

@@ -31,7 +31,7 @@ bool ClipboardBlock::put(TextId tooLarge) {
     const MarkedArea& area = document_.marked();
     const bool isLimited = !document_.options().habits.largeClipboard;
     if (isLimited && area.active && area.end.line - area.start.line > kClipboardLineLimit) {
-        document_.notices().box(LoadText(tooLarge), kErrorCaption, BoxButtons::Ok);
+        document_.notices().box(LoadText(tooLarge), TextId::ErrorCaption, BoxButtons::Ok);
         return false;
     }
     const std::string line = std::string(document_.text(document_.currentLine())).append(kLineEnd);

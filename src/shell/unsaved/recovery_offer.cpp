@@ -50,8 +50,8 @@ std::vector<std::string> RecoveryOffer::rows() const {
 }
 
 bool RecoveryOffer::mayAct(std::size_t button, std::size_t rows) {
-    return button == kRecover || notices_.box(FillText(TextId::DeleteUnsaved, {std::to_string(rows)}), kProgramCaption,
-                                              BoxButtons::YesNo) == BoxAnswer::Yes;
+    return button == kRecover || notices_.box(FillText(TextId::DeleteUnsaved, {std::to_string(rows)}),
+                                              TextId::ProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
 }
 
 void RecoveryOffer::act(std::size_t button, std::size_t row) {

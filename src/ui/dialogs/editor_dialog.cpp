@@ -12,7 +12,7 @@ void EditorDialog::onHelp() {
 
 void EditorDialog::tell(const std::string& text) const {
     MessageBeep(MB_ICONEXCLAMATION);
-    MessageBoxA(window(), text.c_str(), std::string(kErrorCaption).c_str(), MB_OK | MB_ICONEXCLAMATION);
+    MessageBoxA(window(), text.c_str(), LoadText(TextId::ErrorCaption).data(), MB_OK | MB_ICONEXCLAMATION);
 }
 
 std::optional<POINT> EditorDialog::openingCorner(POINT owner) {

@@ -54,12 +54,13 @@ void FrameNotices::endHelp() {
 }
 
 // A modal dialog, which has switched the frame off, has to wait for the answer itself.
-BoxAnswer FrameNotices::box(std::string_view text, std::string_view caption, BoxButtons buttons) {
+BoxAnswer FrameNotices::box(std::string_view text, TextId caption, BoxButtons buttons) {
     const HWND frame = frame_.window();
     const HWND owner = IsWindowEnabled(frame) ? frame : GetLastActivePopup(frame);
     constexpr std::size_t kLongestWord = 80;
-    return AnswerOf(ShowBox(owner, BreakLongWords(text, kLongestWord), std::string(caption), ButtonsOf(buttons)),
-                    buttons);
+    return AnswerOf(
+        ShowBox(owner, BreakLongWords(text, kLongestWord), std::string(LoadText(caption)), ButtonsOf(buttons)),
+        buttons);
 }
 
 void FrameNotices::setBusy(bool busy) {

@@ -15,7 +15,7 @@ class FrameNotices : public Notices {
         : frame_(frame), statusBar_(statusBar), loop_(loop) {}
 
     void status(std::string_view text, bool beep, bool highlight) override;
-    BoxAnswer box(std::string_view text, std::string_view caption, BoxButtons buttons) override;
+    BoxAnswer box(std::string_view text, TextId caption, BoxButtons buttons) override;
     void setBusy(bool busy) override;
     bool pumpMessages() override { return loop_.PumpMessages(); }
 

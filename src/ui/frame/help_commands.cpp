@@ -31,8 +31,8 @@ void HelpCommands::showKeys() {
 }
 
 void HelpCommands::showAbout() {
-    const std::string text = FillText(TextId::AboutProgram, {kProgramCaption, VEXA_VERSION});
-    ShowAboutBox(frame_.window(), text, FillText(TextId::AboutTitle, {kProgramCaption}), IDI_VEXA);
+    const std::string text = FillText(TextId::AboutProgram, {LoadText(TextId::ProgramCaption), VEXA_VERSION});
+    ShowAboutBox(frame_.window(), text, FillText(TextId::AboutTitle, {LoadText(TextId::ProgramCaption)}), IDI_VEXA);
 }
 
 }  // namespace vexa

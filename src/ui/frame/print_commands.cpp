@@ -28,7 +28,7 @@ void PrintCommands::tell(PrintResult result, const std::string& name) {
     if (text.empty()) return;
     const bool isDone = result == PrintResult::Done;
     if (result <= PrintResult::Cancelled) return notices_.status(text, !isDone, !isDone);
-    notices_.box(text, kErrorCaption, BoxButtons::Ok);
+    notices_.box(text, TextId::ErrorCaption, BoxButtons::Ok);
 }
 
 }  // namespace vexa

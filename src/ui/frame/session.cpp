@@ -42,7 +42,7 @@ void Session::restoreFile(const std::string& path, std::int32_t line) {
         documents_.opening().OpenFileAtLine(path, line);
     } else {
         const std::string name = path.substr(DirectoryOf(path).size());
-        notices_.box(FillText(TextId::CannotOpenFile, {name}), kErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(TextId::CannotOpenFile, {name}), TextId::ErrorCaption, BoxButtons::Ok);
     }
 }
 

@@ -38,8 +38,8 @@ VexaFrame::VexaFrame(Application& application)
 // ---- the window --------------------------------------------------------------------------------------------------
 
 bool VexaFrame::open(int showCommand) {
-    const std::string title(kProgramCaption);
-    if (!create(kFrameClass, {.title = title.c_str(), .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN})) return false;
+    const char* const title = LoadText(TextId::ProgramCaption).data();
+    if (!create(kFrameClass, {.title = title, .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN})) return false;
     outside_.start();
     session_.restorePlacement(showCommand);
     UpdateWindow(window());

@@ -62,7 +62,10 @@ void PageSetupDialog::onAccept() {
 }
 
 void PageSetupDialog::onControl(int control, UINT notification) {
-    if (control == IDC_PRINTER && notification == BN_CLICKED) setUpPrinter();
+    static constexpr Notification<PageSetupDialog> kRows[] = {
+        {IDC_PRINTER, BN_CLICKED, &PageSetupDialog::setUpPrinter},
+    };
+    Dispatch(*this, kRows, control, notification);
 }
 
 void PageSetupDialog::setUpPrinter() {
@@ -72,7 +75,7 @@ void PageSetupDialog::setUpPrinter() {
 }
 
 void PageSetupDialog::tell(const std::string& text) const {
-    ShowBox(window(), text, std::string(kErrorCaption), MB_OK);
+    ShowBox(window(), text, std::string(LoadText(TextId::ErrorCaption)), MB_OK);
 }
 
 }  // namespace vexa
