@@ -29,7 +29,7 @@ PROJECT = {
     "docs/keys.md": "| Key | What it does |\n|---|---|\n| Left | Go left |\n",
     "manual/contents.md": "# Sample\n\n- [Finding](find.md)\n- [Words](glossary.md)\n",
     "manual/find.md": "# Finding\n"
-                      "<!-- keywords: find; search | commands: Find, HelpOnKeys, LineEnd | dialogs: IDD_FIND -->\n\n"
+                      "<!-- keywords: a, b; find; search | commands: Find, HelpOnKeys, LineEnd | dialogs: IDD_FIND -->\n\n"
                       "**Bold** `code` and a [word](glossary.md#word), [below](#more-about-it).\n\n"
                       "1. one\n   - two\n\n     still two\n\n"
                       "<!-- table: commands -->\n\n<!-- table: keys -->\n\n<!-- table: editing keys -->\n\n"
@@ -61,7 +61,7 @@ class ManualTest(unittest.TestCase):
         self.assertEqual(faults, [])
         self.assertEqual(content, self.compiled()[0])
         self.assertEqual(content.count(b"In this chapter"), 1)  # that of the glossary has no links of its own
-        for text in [b"Sample\0", b"What one is.", b"find\0", b"search\0", b"Go left", b"Line end", b"|bm0\0"]:
+        for text in [b"Sample\0", b"What one is.", b"find\0", b"search\0", b"a, b\0", b"Go left", b"Line end", b"|bm0\0"]:
             self.assertIn(text, content)
         self.assertNotIn(b"Search\0\1", content)  # the index has one spelling of it
 

@@ -32,14 +32,14 @@ def leaf_pages(groups, page_size):
 
 
 def index_level(children, first_number, page_size):
-    """The pages above others; children are (first key, number). Gives the pages and their own keys and numbers."""
+    """The index pages above children, each (first key, number), and the first key and number of each index page."""
     groups = split_pages([(key, key + short(number)) for key, number in children], page_size, 6)
     pages = [page(group[0][1][-2:], group[1:], page_size) for group in groups]
     return pages, [(group[0][0], number) for number, group in enumerate(groups, first_number)]
 
 
 class BTree:
-    """Of entries (key, rest), both as bytes, already in their order."""
+    """Made of entries (key, rest), both as bytes, which are in order already."""
 
     def __init__(self, entries, structure, page_size, flags=2):
         groups = split_pages([(key, key + rest) for key, rest in entries], page_size, 8) if entries else []

@@ -15,7 +15,7 @@ def internal_file(content, mark=0):
 
 
 def help_file(files):
-    """The bytes of a help file of the internal files, a dict from name to content."""
+    """The bytes of a help file with these internal files, a dict from name to content."""
     body, entries = b"", []
     for name in sorted(files, key=str.encode):
         entries.append((text(name), long(HEADER_SIZE + len(body))))

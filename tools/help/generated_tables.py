@@ -16,7 +16,7 @@ def link_to(topic, text):
 
 
 def name_of(command):
-    """As the menus show it; the words of its name for one that no menu shows."""
+    """The command as the menus show it, or the words of its name where no menu does."""
     return command.text or re.sub(r"(?<=[a-z])(?=[A-Z0-9])", " ", command.name).capitalize()
 
 
@@ -35,7 +35,7 @@ def command_table(tables, topic_of):
 
 
 def key_table(tables, topic_of):
-    """A key that stands twice is that of the first command that has it."""
+    """A key that stands twice belongs to the first command listed with it."""
     rows = {}
     for command in tables.commands.values():
         for key in command.keys:
@@ -52,6 +52,6 @@ KINDS = {"commands": command_table, "keys": key_table, "editing keys": editing_k
 
 
 def generated_table(kind, tables, manual):
-    """The table in Markdown; none for a kind that does not exist."""
+    """The table of a kind in Markdown, or none for an unknown kind."""
     topics = {name: topic for topic in manual.topics() for name in topic.commands}
     return KINDS[kind](tables, topics.get) if kind in KINDS else None

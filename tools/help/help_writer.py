@@ -47,7 +47,7 @@ def keyword_order(keyword):
 
 
 class HelpWriter:
-    """Faults are pictures that cannot be converted."""
+    """faults receives each picture that cannot be converted."""
 
     def __init__(self, manual, tables, faults):
         self.manual = manual
@@ -77,7 +77,7 @@ class HelpWriter:
         return f"{link.chapter}#{link.slug or self.first_slugs[link.chapter]}"
 
     def written(self, topic):
-        """A title stays when its topic is scrolled, but not in a pop-up, which shows all of itself."""
+        """A title stays when its topic is scrolled, except in a pop-up, which is shown whole."""
         records, marks = [self.writer.title(topic)], {}
         for block in topic.blocks + self.list_of_chapter(topic):
             if isinstance(block, SubHeading):

@@ -65,8 +65,8 @@ def text_of(runs):
 @dataclass
 class Paragraph:
     runs: list
-    indent: int = 0  # depth of the list that it stands in
-    marker: str = ""  # in front of the first paragraph of a list's item
+    indent: int = 0  # depth of the list around the paragraph
+    marker: str = ""  # before the first paragraph of a list item
     ends_list: bool = False
 
 

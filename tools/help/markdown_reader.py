@@ -12,7 +12,7 @@ from packing import ENCODING
 
 DEEPEST_LIST = 2
 LONGEST_KEYWORD = 79  # characters that an index of Quick Help keeps
-PARTS = ("keywords", "commands", "dialogs")
+PARTS = {"keywords": ";", "commands": ",", "dialogs": ","}  # what a comment says of a topic, and what separates it
 DESCRIPTIONS = tuple(f"{part}:" for part in PARTS)
 COMMENT = re.compile(r"<!--(.*?)-->", re.DOTALL)
 GENERATED = re.compile(r"table:\s*([\w ]+)$")
@@ -32,8 +32,8 @@ def plain_text(node):
     return "".join(child.content or plain_text(child) for child in node.children)
 
 
-def split_list(text):
-    return [entry.strip() for entry in re.split("[;,]", text) if entry.strip()]
+def split_list(text, separator):
+    return [entry.strip() for entry in text.split(separator) if entry.strip()]
 
 
 class InlineReader:
@@ -214,7 +214,7 @@ class ChapterReader:
         for part in text.split("|"):
             name, _, entries = part.strip().partition(":")
             if name in PARTS:
-                getattr(self.topic, name).extend(split_list(entries))
+                getattr(self.topic, name).extend(split_list(entries, PARTS[name]))
             else:
                 self.faults.add(self.position(node), f'"{name}" says nothing about a topic')
         for keyword in self.topic.keywords:

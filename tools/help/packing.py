@@ -9,7 +9,7 @@ LONGEST_COPY = 18
 WINDOW = 4096
 LONGEST_RUN = 127
 SHORTEST_RUN = 3
-NEWEST_TRIED = 32  # of the earlier occurrences of three bytes; more of them gain little
+NEWEST_TRIED = 32  # earlier occurrences of three bytes; trying more gains little
 
 
 def short(value):
@@ -88,7 +88,7 @@ class Matches:
         self.starts[self.data[start:start + SHORTEST_COPY]].append(start)
 
     def best(self, position):
-        """Length and start of the longest one, at most as long as a copy may be."""
+        """Length and start of the longest occurrence, at most as long as a copy may be."""
         found = (0, 0)
         for start in reversed(self.starts[self.data[position:position + SHORTEST_COPY]][-NEWEST_TRIED:]):
             if position - start > WINDOW or found[0] == LONGEST_COPY:

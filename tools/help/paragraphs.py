@@ -36,7 +36,7 @@ class Record:
     kind: int
     format: bytes
     text: bytes
-    length: int  # characters and pictures, by which places in a topic are counted
+    length: int  # characters and pictures, by which positions in a topic are counted
 
 
 class Group:
@@ -88,7 +88,7 @@ class Group:
 
 
 def paragraph_info(measures=None, tabs=(), bits=0):
-    """What stands in front of the commands; measures are a dict by their bits."""
+    """The bytes before the commands; measures are a dict by their bits."""
     measures = {bit: value for bit, value in (measures or {}).items() if value}
     operands = b"".join(packed_short(measures[bit]) for bit in MEASURES if bit in measures)
     if tabs:
@@ -112,7 +112,7 @@ def column_widths(rows):
 
 
 class ParagraphWriter:
-    """Contexts gives the name of the topic that a link leads to, pictures the number of a file."""
+    """contexts gives the name of the topic a link leads to, pictures the number of a file."""
 
     def __init__(self, fonts, contexts, pictures):
         self.fonts = fonts

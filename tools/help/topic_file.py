@@ -15,14 +15,14 @@ NONE = -1
 
 @dataclass
 class Entry:
-    """A record and, once it has been placed, where it is."""
+    """A record and, after place(), its address and offset."""
 
     kind: int
     format: bytes
     text: bytes
     length: int = 0
     address: int = 0  # of the data of all blocks in a row
-    offset: int = 0  # by which indexes and links name it
+    offset: int = 0  # by which indexes and links name the record
 
     @property
     def size(self):
@@ -45,7 +45,7 @@ class PlacedTopic:
     records: list
     fixed: int
     is_browsed: bool
-    marks: dict = field(default_factory=dict)  # slugs of the headings inside, and their records
+    marks: dict = field(default_factory=dict)  # the record of each heading inside, by slug
 
     def first_scrolling(self):
         return self.records[self.fixed].position if self.fixed < len(self.records) else NONE
@@ -57,7 +57,7 @@ def placed_topic(title, records, fixed, is_browsed):
 
 
 class TopicFile:
-    """Topics have their places as soon as this is made. Those of one group that are browsed follow each other."""
+    """Gives each topic its address and offset when made. The browsed topics of a group follow each other."""
 
     def __init__(self, groups):
         self.groups = groups
@@ -70,7 +70,7 @@ class TopicFile:
     def place(self):
         address, block, characters = 0, NONE, 0
         for entry in self.entries:
-            # The end of a block never cuts the header of a record, nor what that of a topic says.
+            # A block never ends inside the header of a record, nor inside the format of a topic header.
             whole = RECORD_HEADER + (HEADER_FORMAT if entry.kind == TOPIC else 0)
             if BLOCK_DATA - address % BLOCK_DATA < whole:
                 address += BLOCK_DATA - address % BLOCK_DATA
