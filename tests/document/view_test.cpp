@@ -1,201 +1,225 @@
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "document/document_session.h"
+// A document in its window: where the caret, the marking and the colours are shown, in the cases of the folder
+// scripts/.
+#include "base/config_store.h"
+#include "document/replay_case.h"
+#include "document/view/bookmark_model.h"
+#include "document/view/edit_view.h"
+#include "document/view/goto_line_model.h"
 #include "document/view/margin_row.h"
+#include "document/view/row_renderer.h"
+#include "support/script.h"
 
-namespace vexa {
+namespace vexa::test {
 namespace {
 
-class View : public testing::Test, protected test::DocumentSession {
-  protected:
-    View() {
-        std::vector<std::string> lines;
-        for (int i = 0; i < 300; ++i)
-            lines.push_back("line " + std::to_string(i));
-        fill(lines);
-        view_.resize(10, 40);
-    }
-    int top() const { return view_.topLine().value; }
-    int line() const { return document_.currentLine().value; }
+constexpr CaseFile kFiles[] = {
+#include "view_scripts.inc"
 };
 
-TEST_F(View, TheWindowFollowsTheCaretAndNoFurther) {
-    press(kKeyDown, 9);
-    EXPECT_EQ(top(), 0);
-    press(kKeyDown);
-    EXPECT_EQ(top(), 1);
-    press(kKeyUp, 9);
-    EXPECT_EQ(top(), 1);
-    press(kKeyUp);
-    EXPECT_EQ(top(), 0);
-    EXPECT_EQ(view_.caret(), (Cell{0, 0}));
+// A window of 10 rows of 40 columns.
+struct ViewStage : ScriptStage {
+    ViewStage() {
+        document.newEmpty();
+        view.resize(10, 40);
+    }
+
+    EditorOptions options;
+    ExtensionProfile profile;
+    TextDocument document{options, notices};
+    EditView view{document, options, notices};
+    ConfigStore store{disk.path("VEXA.INI")};
+};
+
+// ---- what is given -------------------------------------------------------------------------------------------------
+
+void Put(ViewStage& stage, std::int32_t line, std::string_view text) {
+    stage.document.lines().put(TextDocument::makeLine(text), line);
 }
 
-TEST_F(View, PagesTurnTheWindowAndStopAtTheEnds) {
-    press(kKeyPageDown);
-    EXPECT_EQ(top(), 9);
-    EXPECT_EQ(line(), 9);
-    press(kKeyPageUp, 3);
-    EXPECT_EQ(line(), 0);
-    press(kKeyPageDown, 100);
-    EXPECT_EQ(line(), 299);
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 299) << "a page makes no new lines";
+// Lines from the first on, with "|" between them.
+Told Fill(ViewStage& stage, Words words) {
+    std::string text = words.rest();
+    for (std::int32_t line = 0;; ++line) {
+        const std::size_t end = std::min(text.find('|'), text.size());
+        Put(stage, line, text.substr(0, end));
+        if (end == text.size()) return {};
+        text.erase(0, end + 1);
+    }
 }
 
-TEST_F(View, HomeAndEndReachTheWindowThenTheDocument) {
-    view_.goTo(LineIndex(100), CharColumn(3));
-    const int shown = top();
-    press(kKeyHome, 2);
-    EXPECT_EQ(line(), shown);
-    press(kKeyHome);
-    EXPECT_EQ(line(), 0);
-    press(kKeyEnd, 2);
-    EXPECT_EQ(line(), 9);
-    press(kKeyEnd);
-    EXPECT_EQ(line(), 299);
+Told FillNumbered(ViewStage& stage, Words words) {
+    const int count = words.number();
+    for (int i = 0; i < count; ++i)
+        Put(stage, i, "line " + std::to_string(i));
+    return {};
 }
 
-TEST_F(View, SidewaysScrollingKeepsTheCaretInSight) {
-    press(kKeyRight, 39);
-    EXPECT_EQ(view_.leftColumn(), DisplayColumn(0));
-    press(kKeyRight);
-    EXPECT_GT(view_.leftColumn(), DisplayColumn(0));
-    EXPECT_LT(view_.caret()->column, 40);
-    press(kKeyHome);
-    EXPECT_EQ(view_.leftColumn(), DisplayColumn(0));
+Told Press(ViewStage& stage, Words words) {
+    while (words.more())
+        PressWord(stage.view, words.word());
+    return {};
 }
 
-TEST_F(View, UndoOutOfSightIsShownInTheMiddle) {
-    view_.goTo(LineIndex(100), CharColumn(0));
-    type("x");
-    view_.scrollToLine(LineIndex(0));
-    EXPECT_EQ(view_.caret(), std::nullopt);
-    view_.undo();
-    EXPECT_EQ(top(), 95);
+Told Type(ViewStage& stage, Words words) {
+    for (const char c : words.rest())
+        stage.view.key(KeyEvent{.character = static_cast<unsigned char>(c)});
+    return {};
 }
 
-TEST_F(View, TheMousePlacesTheCaretAndMarks) {
-    view_.scrollToLine(LineIndex(50));
-    view_.press({2, 3}, false);
-    view_.drag({2, 3});
-    EXPECT_EQ(line(), 52);
-    EXPECT_FALSE(document_.marked().active) << "a click is not a drag";
-    view_.drag({4, 1});
-    view_.drag({4, 2});
-    view_.release();
-    EXPECT_EQ(
-        document_.marked(),
-        (MarkedArea{MarkMode::Stream, true, {LineIndex(52), DisplayColumn(3)}, {LineIndex(54), DisplayColumn(2)}}));
-    view_.press({0, 0}, true);
-    view_.release();
-    EXPECT_EQ(document_.marked().start.line, LineIndex(50));
-    EXPECT_EQ(document_.marked().end, (MarkPoint{LineIndex(52), DisplayColumn(3)}));
-    view_.press({0, 0}, false);
-    view_.release();
-    EXPECT_FALSE(document_.marked().active);
+// Whether a key with Alt, or with Ctrl and Alt, means anything.
+Told KeyMeans(ViewStage& stage, Words words) {
+    const std::string held = words.word();
+    return stage.view.key(
+        KeyEvent{.key = static_cast<std::uint16_t>(words.word()[0]), .control = held == "ctrl-alt", .alt = true});
 }
 
-TEST_F(View, MouseMarksColumnsLinesAndWords) {
-    const auto area = [](MarkMode mode, int fromLine, int fromColumn, int toLine, int toColumn) {
-        return MarkedArea{
-            mode, true, {LineIndex(fromLine), DisplayColumn(fromColumn)}, {LineIndex(toLine), DisplayColumn(toColumn)}};
+Told GoTo(ViewStage& stage, Words words) {
+    const LineIndex line(words.number());
+    return stage.view.goTo(line, CharColumn(words.number())), Told();
+}
+
+Cell CellOf(Words& words) {
+    const int row = words.number();
+    return {row, words.number()};
+}
+
+// Row and column, and how: "extend" from the caret on, by columns, lines or words.
+Told MouseDown(ViewStage& stage, Words words) {
+    static const std::map<std::string, MousePress> kWays = {
+        {"column", MousePress::Column}, {"lines", MousePress::Lines}, {"word", MousePress::Word}};
+    const Cell cell = CellOf(words);
+    const std::string way = words.word();
+    if (const auto found = kWays.find(way); found != kWays.end())
+        return stage.view.press(cell, false, found->second), Told();
+    return stage.view.press(cell, way == "extend"), Told();
+}
+
+const std::map<std::string, MarkMode> kModes = {
+    {"lines", MarkMode::Lines}, {"stream", MarkMode::Stream}, {"column", MarkMode::Column}};
+
+// Mode, and line and column of start and end.
+Told Mark(ViewStage& stage, Words words) {
+    const MarkMode mode = kModes.at(words.word());
+    const auto point = [&words] {
+        const LineIndex line(words.number());
+        return MarkPoint{line, DisplayColumn(words.number())};
     };
-    view_.press({2, 4}, false, MousePress::Column);
-    view_.drag({1, 7});
-    view_.release();
-    EXPECT_EQ(document_.marked(), area(MarkMode::Column, 1, 4, 2, 7));
-    view_.press({5, -2}, false, MousePress::Lines);
-    EXPECT_EQ(document_.marked(), area(MarkMode::Lines, 5, 0, 5, 0)) << "the pressed line at once";
-    view_.drag({3, -2});
-    view_.release();
-    EXPECT_EQ(document_.marked(), area(MarkMode::Lines, 3, 0, 5, 0));
-    view_.press({6, 6}, false, MousePress::Word);
-    EXPECT_EQ(document_.marked(), area(MarkMode::Stream, 6, 5, 6, 6));
-    view_.drag({6, 1});
-    EXPECT_EQ(document_.marked(), area(MarkMode::Stream, 6, 0, 6, 6)) << "both words, whichever comes first";
-    view_.drag({7, 2});
-    view_.release();
-    EXPECT_EQ(document_.marked(), area(MarkMode::Stream, 6, 5, 7, 4));
-    view_.press({0, 20}, false, MousePress::Word);
-    EXPECT_FALSE(document_.marked().active) << "there is no word";
+    const MarkPoint start = point();
+    return stage.document.marked() = {mode, true, start, point()}, Told();
 }
 
-TEST_F(View, MarginShowsNumbersBookmarksAndChangedLines) {
-    const auto margin = [this](int line) { return RenderMarginRow(document_, LineIndex(line)); };
-    EXPECT_EQ(margin(0), (MarginRow{"   1", ' ', false, true}));
-    EXPECT_EQ(margin(99), (MarginRow{" 100", ' ', false, false}));
-    EXPECT_EQ(margin(300), (MarginRow{"    ", ' ', false, false})) << "beyond the end";
-    press(kKeyDelete);
-    view_.undo();  // from here on the text counts as loaded
-    view_.goTo(LineIndex(99), CharColumn(0));
-    document_.dropBookmark(7);
-    document_.dropBookmark(3);
-    press(kKeyEnter);
-    EXPECT_EQ(margin(99), (MarginRow{" 100", '3', true, false}));
-    EXPECT_EQ(margin(100), (MarginRow{" 101", ' ', false, true})) << "it has only moved";
-    view_.undo();
-    EXPECT_FALSE(margin(99).isChanged) << "all changes have been undone";
-    press(kKeyDelete);
-    EXPECT_TRUE(margin(99).isChanged);
-    EXPECT_FALSE(margin(100).isChanged) << "a line that had only been changed before the undo";
-    options_.LineNumbers = false;
-    EXPECT_EQ(margin(99).number, "");
+// ---- what is seen --------------------------------------------------------------------------------------------------
+
+Told Marked(ViewStage& stage, Words) {
+    const MarkedArea& area = stage.document.marked();
+    if (!area.active) return "none";
+    std::string shown;
+    for (const auto& [name, mode] : kModes)
+        shown += mode == area.mode ? name : "";
+    for (const MarkPoint& point : {area.start, area.end})
+        shown += " " + std::to_string(point.line.value) + " " + std::to_string(point.column.value);
+    return shown;
 }
 
-TEST_F(View, DraggingOutsideScrolls) {
-    view_.scrollToLine(LineIndex(50));
-    view_.press({5, 0}, false);
-    view_.drag({-3, -5});
-    EXPECT_EQ(top(), 47);
-    view_.drag({12, 0});
-    EXPECT_EQ(top(), 50);
-    view_.release();
+Told Caret(ViewStage& stage, Words) {
+    const auto caret = stage.view.caret();
+    return caret ? std::to_string(caret->row) + " " + std::to_string(caret->column) : "none";
 }
 
-TEST_F(View, OneDragIsOneUndoStep) {
-    view_.press({1, 1}, false);
-    for (int column = 2; column < 30; ++column)
-        view_.drag({3, column});
-    view_.release();
-    view_.undo();
-    EXPECT_EQ(line(), 0);
-    EXPECT_TRUE(document_.history().isEmpty());
+// Number and bookmark, then what is true of the line.
+Told Margin(ViewStage& stage, Words words) {
+    const MarginRow row = RenderMarginRow(stage.document, LineIndex(words.number()));
+    return row.number + row.bookmark + (row.isChanged ? " changed" : "") + (row.isCurrent ? " caret" : "");
 }
 
-TEST_F(View, KeysWithoutAMeaningAreLeftToTheWindow) {
-    KeyEvent event;
-    for (const std::uint16_t key : {std::uint16_t{'Q'}, std::uint16_t{0x70}}) {
-        event.key = key;
-        event.alt = true;
-        EXPECT_FALSE(view_.key(event));
+// Line, left column and width of the cells of a row.
+ViewRow RowOf(ViewStage& stage, Words& words, bool isHighlighted = true) {
+    const LineIndex line(words.number());
+    const DisplayColumn left(words.number());
+    return RenderRow(stage.document, line, left, words.more() ? words.number() : 12, isHighlighted);
+}
+
+// A letter a cell: "M" marked, "." plain, else the first letter of the element.
+std::string ColoursOf(const ViewRow& row) {
+    std::string letters;
+    const CellRun* before = nullptr;
+    for (const CellRun& run : row.runs) {
+        EXPECT_EQ(run.start, static_cast<std::int32_t>(letters.size())) << "runs leave no gap";
+        EXPECT_FALSE(before && before->text == run.text && before->background == run.background) << "runs are joined";
+        const bool marked = run.background == ColourElement::MarkingBackground;
+        EXPECT_EQ(run.text == ColourElement::MarkingText, marked);
+        letters.append(static_cast<std::size_t>(run.length), "?c.k?MnpsY"[static_cast<std::size_t>(run.text)]);
+        before = &run;
     }
-    event = {};
-    event.key = 'D';
-    event.alt = event.control = true;
-    EXPECT_FALSE(view_.key(event)) << "a key with AltGr";
-    EXPECT_FALSE(document_.isModified());
+    return letters;
 }
 
-TEST_F(View, TheStatusFieldsCountFromOne) {
-    view_.goTo(LineIndex(41), CharColumn(6));
-    EXPECT_EQ(view_.positionText(), " L:00042 C:007");
-    EXPECT_STREQ(view_.modeText(), "INS");
-    options_.InsertMode = false;
-    EXPECT_STREQ(view_.modeText(), "OVR");
+// ---- going to lines and bookmarks ----------------------------------------------------------------------------------
+
+Told Jump(ViewStage& stage, Words words) {
+    BookmarkModel model(stage.store);
+    model.number = words.rest();
+    return model.jump(stage.view, stage.store, stage.notices);
 }
 
-TEST_F(View, AbsurdTabSizesDoNoHarm) {
-    document_.current().append("\t\tx");
-    for (const std::int32_t size : {0, -7, 0x7FFFFFFF}) {
-        options_.TabSize = size;
-        press(kKeyEnd);
-        press(kKeyTab);
-        EXPECT_FALSE(view_.render(0).cells.empty());
-        view_.undo();
-    }
+Told GoToLine(ViewStage& stage, Words words) {
+    GotoLineModel model(stage.store);
+    model.line = words.rest();
+    model.go(stage.view, stage.store);
+    return stage.document.currentLine().value;
 }
+
+Told DropTold(ViewStage& stage, Words words) {
+    Editing editing(stage.document, stage.options, stage.notices);
+    return DropBookmark(editing, words.number()), Told();
+}
+
+const Verbs<ViewStage> kVerbs = {
+    {"lines", &Fill},
+    {"numbered", &FillNumbered},
+    {"insert-mode", [](ViewStage& s, Words w) { return s.options.InsertMode = w.yes(), Told(); }},
+    {"line-numbers", [](ViewStage& s, Words w) { return s.options.LineNumbers = w.yes(), Told(); }},
+    {"tab-size", [](ViewStage& s, Words w) { return s.options.TabSize = w.number(), Told(); }},
+    {"coloured", [](ViewStage& s, Words) { return s.document.setProfile(s.profile), Told(); }},
+    {"press", &Press},
+    {"type", &Type},
+    {"key-means", &KeyMeans},
+    {"undo", [](ViewStage& s, Words) { return s.view.undo(), Told(); }},
+    {"go", &GoTo},
+    {"scroll-to", [](ViewStage& s, Words w) { return s.view.scrollToLine(LineIndex(w.number())), Told(); }},
+    {"mouse-down", &MouseDown},
+    {"drag", [](ViewStage& s, Words w) { return s.view.drag(CellOf(w)), Told(); }},
+    {"mouse-up", [](ViewStage& s, Words) { return s.view.release(), Told(); }},
+    {"mark", &Mark},
+    {"top", [](ViewStage& s, Words) { return Told(s.view.topLine().value); }},
+    {"left", [](ViewStage& s, Words) { return Told(s.view.leftColumn().value); }},
+    {"line", [](ViewStage& s, Words) { return Told(s.document.currentLine().value); }},
+    {"column", [](ViewStage& s, Words) { return Told(s.document.column().value); }},
+    {"last-line", [](ViewStage& s, Words) { return Told(s.document.lastLine(LastUsed::Plain)); }},
+    {"caret", &Caret},
+    {"marked", &Marked},
+    {"margin", &Margin},
+    {"position-text", [](ViewStage& s, Words) { return Told(s.view.positionText()); }},
+    {"mode-text", [](ViewStage& s, Words) { return Told(s.view.modeText()); }},
+    {"modified", [](ViewStage& s, Words) { return Told(s.document.isModified()); }},
+    {"can-undo", [](ViewStage& s, Words) { return Told(!s.document.history().isEmpty()); }},
+    {"cells", [](ViewStage& s, Words w) { return Told(RowOf(s, w).cells); }},
+    {"colours", [](ViewStage& s, Words w) { return Told(ColoursOf(RowOf(s, w))); }},
+    {"plain-colours", [](ViewStage& s, Words w) { return Told(ColoursOf(RowOf(s, w, false))); }},
+    {"drop", [](ViewStage& s, Words w) { return s.document.dropBookmark(w.number()), Told(); }},
+    {"drop-told", &DropTold},
+    {"jump", &Jump},
+    {"noted-bookmark", [](ViewStage& s, Words) { return Told(BookmarkModel(s.store).number); }},
+    {"go-to-line", &GoToLine},
+    {"noted-line", [](ViewStage& s, Words) { return Told(GotoLineModel(s.store).line); }},
+    {"load",
+     [](ViewStage& s, Words w) {
+         s.document.setName(s.path(w.rest()));
+         return Told(s.document.load());
+     }},
+};
+
+VEXA_SCRIPTS(View, kFiles, ViewStage, kVerbs);
 
 }  // namespace
-}  // namespace vexa
+}  // namespace vexa::test

@@ -1,7 +1,7 @@
+// Saves that fail or end at any step. What a save writes otherwise is told by the cases of tests/shell/documents.
 #include <gtest/gtest.h>
 
 #include <string>
-#include <tuple>
 
 #include "base/file.h"
 #include "document/document_session.h"
@@ -56,47 +56,6 @@ class Write : public testing::Test, protected test::DocumentSession {
     test::TestDisk disk_;
 };
 
-TEST_F(Write, TextHasCrLfAndNoEmptyLinesAtTheEnd) {
-    load("one\n\ntwo\n  \n\n\n");
-    type("x");
-    ASSERT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "xone\r\n\r\ntwo\r\n  \r\n");
-    EXPECT_FALSE(disk_.has(copyName()));
-}
-
-TEST_F(Write, BytesHaveLfAndAFinalCtrlZ) {
-    options_.FileWrite = true;
-    load("one\ntwo");
-    ASSERT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "one\ntwo\n\x1A");
-    ASSERT_TRUE(document_.load() && document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "one\ntwo\n\x1A") << "no second one";
-}
-
-TEST_F(Write, ADocumentWithoutTextIsOneEmptyLine) {
-    document_.newEmpty();
-    document_.setName(disk_.path("NEW.TXT"));
-    ASSERT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get("NEW.TXT"), "\r\n");
-}
-
-TEST_F(Write, AShorterTextLeavesNothingOfTheLongerOne) {
-    load("a long old text\r\n");
-    document_.current().truncate(CharColumn(1));
-    ASSERT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "a\r\n");
-}
-
-TEST_F(Write, AWriteForgetsHistoryAndChanges) {
-    load("abc");
-    type("x");
-    ASSERT_TRUE(document_.isModified());
-    ASSERT_TRUE(document_.write());
-    EXPECT_FALSE(document_.isModified());
-    EXPECT_FALSE(document_.history().undo());
-    EXPECT_EQ(document_.history().group(), 0u);
-}
-
 TEST_F(Write, EveryByteSurvivesLoadingAndWriting) {
     std::string all;
     for (int c = 0; c < 256; ++c) {
@@ -105,33 +64,6 @@ TEST_F(Write, EveryByteSurvivesLoadingAndWriting) {
     load(all + "\r\n" + all + "\r\n");
     ASSERT_TRUE(document_.write());
     EXPECT_EQ(disk_.get("A.TXT"), all + "\r\n" + all + "\r\n");
-}
-
-TEST_F(Write, WhatMayNotBeWrittenIsLeftAlone) {
-    load("old");
-    type("x");
-    disk_.setReadOnly("A.TXT", true);
-    EXPECT_FALSE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "old");
-    EXPECT_TRUE(document_.isModified());
-    EXPECT_FALSE(document_.history().isEmpty());
-    EXPECT_FALSE(disk_.has(copyName()));
-    disk_.setReadOnly("A.TXT", false);
-
-    document_.forgetFile();
-    EXPECT_FALSE(document_.write()) << "a document without a name of its own";
-}
-
-TEST_F(Write, AFileThatAnotherProgramHoldsIsLeftAlone) {
-    load("old");
-    type("x");
-    {
-        const test::LockedFile held(disk_.path("A.TXT"));
-        EXPECT_FALSE(document_.write());
-    }
-    EXPECT_EQ(disk_.get("A.TXT"), "old");
-    EXPECT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "xold\r\n");
 }
 
 // ---- a disk that fails ---------------------------------------------------------------------------------------------
@@ -198,24 +130,6 @@ TEST_F(Write, AProgramThatEndsAtAnyStepLeavesTheOldTextWhole) {
     EXPECT_EQ(disk_.count(), 1u) << "what an earlier end left of a copy in the making";
 }
 
-TEST_F(Write, FilesThatBearTheNamesOfCopiesAreNotWrittenOver) {
-    load(LargeText('o'));
-    disk_.put("A.TXT.vx~", "mine");
-    disk_.put("A.TXT.vxa", LargeText('o') + "and more");
-    disk_.put("A.TXT.vx0", "mine too");
-    type("x");
-    plan = {FileStep::Write, 4, 1000, false};
-    SetFileFault(Strike);
-    EXPECT_FALSE(document_.write());
-    SetFileFault(nullptr);
-    EXPECT_EQ(disk_.get("A.TXT.vx1"), LargeText('o'));
-    EXPECT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT.vx~"), "mine");
-    EXPECT_EQ(disk_.get("A.TXT.vxa"), LargeText('o') + "and more");
-    EXPECT_EQ(disk_.get("A.TXT.vx0"), "mine too");
-    EXPECT_EQ(disk_.count(), 5u);
-}
-
 TEST_F(Write, ACopyThatCannotLieBesideTheFileLiesAmongTheBackups) {
     disk_.makeDirectory("vbackup");
     const std::string names[] = {std::string(254, 'n'), "A.TXT"};  // the first leaves no room for ".vx0"
@@ -252,90 +166,6 @@ TEST_F(Write, ADiskWithoutRoomKeepsTheOldFileWherePlaceRunsOut) {
     }
 }
 #endif
-
-TEST_F(Write, ANewFileThatCannotBeWrittenIsTakenAway) {
-    load(LargeText('o'));
-    document_.setName(disk_.path("NEW.TXT"));
-    for (const FileStep step : {FileStep::Write, FileStep::Flush, FileStep::Close}) {
-        EXPECT_FALSE(writeFailing(step, 0, 1));
-        EXPECT_TRUE(plan.struck);
-        EXPECT_FALSE(disk_.has("NEW.TXT"));
-    }
-}
-
-TEST_F(Write, WhenPuttingBackFailsTooTheOldTextStaysInItsCopyAndTheUserIsTold) {
-    const std::string old = LargeText('o');
-    load(old);
-    type("x");
-    EXPECT_FALSE(writeFailing(FileStep::Write, 4, 1000));
-    EXPECT_TRUE(document_.isModified());
-    EXPECT_EQ(disk_.get(copyName()), old);
-    ASSERT_EQ(notices_.boxes.size(), 1u);
-    EXPECT_NE(notices_.boxes[0].text.find(disk_.path(copyName())), std::string::npos);
-    EXPECT_EQ(LeftSafetyCopies(disk_.path("A.TXT")), std::vector{disk_.path(copyName())});
-
-    // The copy of an interrupted save is not overwritten by the next one.
-    ASSERT_TRUE(document_.write());
-    EXPECT_EQ(disk_.get(copyName()), old);
-    EXPECT_FALSE(disk_.has("A.TXT.vx1"));
-}
-
-TEST_F(Write, TheTenthSafetyCopyIsTheLast) {
-    load(LargeText('o'));
-    type("x");
-    for (char digit = '0'; digit <= '8'; ++digit)
-        disk_.put(std::string("A.TXT.vx") + digit, "kept");
-    EXPECT_FALSE(writeFailing(FileStep::Write, 4, 1000));
-    EXPECT_EQ(disk_.get("A.TXT.vx9"), LargeText('o'));
-}
-
-TEST_F(Write, AFileThatHasChangedSinceIsNotWrittenOver) {
-    const std::pair<std::string, WriteResult> cases[] = {
-        {"old", WriteResult::Written},  // touched only
-        {"odl", WriteResult::FileChanged},
-        {"old\r\n", WriteResult::FileChanged},
-        {"", WriteResult::FileChanged},
-    };
-    for (const auto& [bytes, result] : cases) {
-        load("old");
-        type("x");
-        disk_.put("A.TXT", bytes);
-        EXPECT_EQ(document_.tryWrite(false).result, result) << bytes;
-        EXPECT_EQ(disk_.get("A.TXT"), result == WriteResult::Written ? "xold\r\n" : bytes);
-        EXPECT_EQ(disk_.count(), 1u);
-    }
-    load("old");
-    for (int n = 0; n < 3; ++n) {
-        type("x");
-        EXPECT_TRUE(document_.write()) << "its own save is no change";
-    }
-    disk_.put("A.TXT", "other");
-    document_.setName(disk_.path("A.TXT"));
-    EXPECT_TRUE(document_.write()) << "a name that it was given has nothing to be compared with";
-}
-
-TEST_F(Write, WithoutACopyTheOldTextIsPutBackFromMemory) {
-    load(LargeText('o'));
-    type("x");
-    plan = {FileStep::Write, 1, 1, false};
-    SetFileFault(Strike);
-    EXPECT_EQ(document_.tryWrite(true).result, WriteResult::Failed);
-    SetFileFault(nullptr);
-    EXPECT_TRUE(plan.struck);
-    EXPECT_EQ(disk_.get("A.TXT"), LargeText('o'));
-    disk_.put("A.TXT", "other");
-    EXPECT_EQ(document_.tryWrite(true).result, WriteResult::FileChanged);
-}
-
-TEST_F(Write, ASaveWithoutAFreeNameForTheCopyDoesNotTouchTheFile) {
-    load("old");
-    type("x");
-    for (char digit = '0'; digit <= '9'; ++digit)
-        disk_.put(std::string("A.TXT.vx") + digit, "kept");
-    EXPECT_FALSE(document_.write());
-    EXPECT_EQ(disk_.get("A.TXT"), "old");
-    EXPECT_EQ(disk_.get("A.TXT.vx9"), "kept");
-}
 
 }  // namespace
 }  // namespace vexa

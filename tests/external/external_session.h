@@ -1,16 +1,12 @@
-// What the tests of external programs share: a disk with an interpreter, notices, and stand-ins for the frame.
+// Stand-ins for what external programs ask of the frame.
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "base/directories.h"
 #include "external/captured_programs.h"
 #include "external/message_list.h"
 #include "external/output_list.h"
-#include "support/recording_notices.h"
-#include "support/test_disk.h"
-#include "support/test_interpreter.h"
 
 namespace vexa::test {
 
@@ -74,26 +70,6 @@ class RecordingView : public ListView {
     int changes = 0;
     int shows = 0;
     bool active = false;
-};
-
-inline std::vector<std::string> RowsOf(const ListRows& rows) {
-    std::vector<std::string> texts;
-    for (std::size_t row = 0; row < rows.rowCount(); ++row)
-        texts.emplace_back(rows.rowText(row));
-    return texts;
-}
-
-// A program directory with an interpreter and all that runs programs.
-struct ExternalSession {
-    ExternalSession() { PutInterpreter(disk); }
-
-    TestDisk disk;
-    Directories directories{disk.programPath()};
-    RecordingNotices notices;
-    RecordingOpener opener;
-    RecordingTimer timer;
-    OutputList output{opener, notices};
-    MessageList messages{opener, notices};
 };
 
 }  // namespace vexa::test

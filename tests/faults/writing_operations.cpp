@@ -130,7 +130,7 @@ void SaveElectricWords(FaultScene& scene) {
     model.expansion = "word";
     scene.attempt([&]() -> Saved {
         const auto refusal = model.update();
-        if (refusal) scene.notices.box(*refusal, "", BoxButtons::Ok);
+        if (refusal) scene.notices.box(*refusal, TextId::ErrorCaption, BoxButtons::Ok);
         return !refusal;
     });
 }

@@ -43,6 +43,14 @@ TEST_F(CloseTest, EndOfTheSessionIsRefusedWithTheDocumentAndWhileAnotherQuestion
     CloseHandle(thread);
     EXPECT_EQ(answer, static_cast<DWORD>(FALSE));
     EXPECT_TRUE(editor.hasCaption("a.txt *]"));
+    editor.command(CommandId::FileClose);
+    ASSERT_TRUE(box = editor.dialog("Vexa 95"));
+    ASSERT_TRUE(Press(box, IDNO));
+    ASSERT_TRUE(WaitUntil([&] { return editor.documents().empty(); }));
+    editor.requestClose();
+    ASSERT_TRUE(editor.ends());
+    const Editor again(folder);
+    EXPECT_TRUE(again.hasCaption("[untitled.txt]")) << "what was closed by hand has not come back";
 }
 
 TEST_F(CloseTest, EndOfTheSessionThatAnotherProgramRefusesChangesNothing) {

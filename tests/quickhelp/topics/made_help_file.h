@@ -5,23 +5,15 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
-#include "quickhelp/topics/help_index.h"
+#include "quickhelp/help_file_writer.h"
+#include "quickhelp/topics/topic_index.h"
 
 namespace vexa::topics::test {
 
-inline std::string Number(std::int64_t value, int size) {
-    std::string bytes;
-    for (int i = 0; i < size; ++i)
-        bytes.push_back(static_cast<char>(value >> (8 * i)));
-    return bytes;
-}
-
-inline std::string Text(std::string_view text) {
-    return std::string(text) + '\0';
-}
+using vexa::test::Number;
+using vexa::test::TextZ;
 
 inline std::string PackedLong(int value) {
     return Number((value + 16384) * 2, 2);
@@ -36,15 +28,11 @@ inline std::string PackedShort(int value) {
 }
 
 // A tree of one leaf, whose entries are given.
-inline std::string Tree(const std::vector<std::string>& entries) {
-    std::string page;
+inline std::string Leaf(const std::vector<std::string>& entries) {
+    std::vector<vexa::test::TreeEntry> all;
     for (const std::string& entry : entries)
-        page += entry;
-    const auto count = static_cast<int>(entries.size());
-    const std::string header = Number(0x293B, 2) + Number(2, 2) + Number(4096, 2) + std::string(16, 'z') +
-                               std::string(4, '\0') + Number(0, 2) + Number(-1, 2) + Number(1, 2) + Number(1, 2) +
-                               Number(count, 4);
-    return header + Number(0, 2) + Number(count, 2) + Number(-1, 2) + Number(-1, 2) + page;
+        all.push_back({entry, ""});
+    return vexa::test::MakeTree(all, {4096, "z"}).bytes;
 }
 
 // Paragraph information of a bit field and its operands, then commands; the end of commands is added.
@@ -75,35 +63,23 @@ class MadeHelpFile {
     }
     // What follows scrolls.
     void endFixed() { topics_.replace(header_ + 21 + 20, 4, Number(placeBehind(0), 4)); }
-    void file(std::string_view name, std::string content) { files_.emplace_back(name, std::move(content)); }
+    void file(const std::string& name, std::string content) { files_.addFile(name, std::move(content)); }
 
     std::string bytes() {
         addLink(2, std::string(28, '\xFF'), "", 0);
         topics_.replace(last_ + 12, 4, Number(-1, 4));
-        files_.emplace_back("|TOPIC", Number(-1, 4) + Number(12, 4) + Number(-1, 4) + topics_);
-        std::string out = Number(0x00035F3F, 4) + std::string(12, '\0');
-        std::vector<std::string> entries;
-        for (const auto& [name, content] : files_) {
-            entries.push_back(Text(name) + Number(static_cast<std::int64_t>(out.size()), 4));
-            out += internalFile(content);
-        }
-        out.replace(4, 4, Number(static_cast<std::int64_t>(out.size()), 4));
-        out += internalFile(Tree(entries));
-        return out.replace(12, 4, Number(static_cast<std::int64_t>(out.size()), 4));
+        file("|TOPIC", Number(-1, 4) + Number(12, 4) + Number(-1, 4) + topics_);
+        return files_.bytes();
     }
 
   private:
-    static std::string internalFile(const std::string& content) {
-        const auto size = static_cast<std::int64_t>(content.size());
-        return Number(size + 9, 4) + Number(size, 4) + '\0' + content;
-    }
     std::int64_t placeBehind(std::size_t size) const {
         return static_cast<std::int64_t>(12 + topics_.size() + (size == 0 ? 0 : 21 + size));
     }
     void record(int type, std::string_view format, const std::vector<std::string>& texts) {
         std::string joined;
         for (const std::string& text : texts)
-            joined += Text(text);
+            joined += TextZ(text);
         addLink(type,
                 PackedLong(static_cast<int>(format.size())) + PackedUshort(static_cast<int>(joined.size())) +
                     std::string(format),
@@ -124,10 +100,10 @@ class MadeHelpFile {
     std::size_t header_ = 0;
     std::size_t last_ = 0;
     std::uint32_t characters_ = 0;
-    std::vector<std::pair<std::string, std::string>> files_;
+    vexa::test::HelpFileWriter files_;
 };
 
-inline std::string SystemRecord(int type, std::string_view data) {
+inline std::string Record(int type, std::string_view data) {
     return Number(type, 2) + Number(static_cast<std::int64_t>(data.size()), 2) + std::string(data);
 }
 
@@ -135,8 +111,8 @@ inline std::string SystemRecord(int type, std::string_view data) {
 inline std::string WindowRecord(std::string name, std::string caption, std::string_view fixedColour) {
     name.resize(9);
     caption.resize(51);
-    return SystemRecord(6, Number(0x206, 2) + std::string(10, '\0') + name + caption + std::string(14, '\0') +
-                               std::string(fixedColour) + '\0');
+    return Record(6, Number(0x206, 2) + std::string(10, '\0') + name + caption + std::string(14, '\0') +
+                         std::string(fixedColour) + '\0');
 }
 
 inline std::string FontDescriptor(int attributes, int halfPoints, std::string_view colour) {
@@ -149,9 +125,8 @@ inline std::string MakeHelpFile() {
     using namespace std::string_literals;
     MadeHelpFile made;
     made.file("|SYSTEM", Number(0x036C, 2) + Number(21, 2) + Number(1, 2) + Number(0, 4) + Number(0, 2) +
-                             SystemRecord(1, Text("Made")) + SystemRecord(3, Number(0, 4)) +
-                             SystemRecord(4, Text("BrowseButtons()")) + SystemRecord(99, "unknown") +
-                             WindowRecord("main", "", "\xC0\xC0\xC0") +
+                             Record(1, TextZ("Made")) + Record(3, Number(0, 4)) + Record(4, TextZ("BrowseButtons()")) +
+                             Record(99, "unknown") + WindowRecord("main", "", "\xC0\xC0\xC0") +
                              WindowRecord("side", "Beside", "\x00\x00\x80"s));
     made.file("|FONT", Number(1, 2) + Number(2, 2) + Number(8, 2) + Number(28, 2) + "Arial" + std::string(15, '\0') +
                            FontDescriptor(1, 24, "\x01\x01\x00"s) + FontDescriptor(6, 20, "\x00\x00\x80"s));
@@ -162,7 +137,7 @@ inline std::string MakeHelpFile() {
     made.topic("First");
     made.text(
         Format(0x0012, PackedShort(10) + PackedShort(20),
-               "\x80\x00\x00\xE3"s + hash + "\x89\x81\x82\x80\x01\x00\xC8\x08\x00"s + Text("Exit();") + "\x89\x82"),
+               "\x80\x00\x00\xE3"s + hash + "\x89\x81\x82\x80\x01\x00\xC8\x08\x00"s + TextZ("Exit();") + "\x89\x82"),
         {"", "Go to ", "second", ".", "next line", "", "", "run", "", ""});
     made.storedText(Format(0, "", "\x80\x00\x00\x82"s), "\0\x01\x01\x01\x02 fox\0\0"s, 16);
     const std::uint32_t second = made.topic("Second", true);
@@ -175,11 +150,11 @@ inline std::string MakeHelpFile() {
              {"", "left", "", "", "right", ""});
     made.topic("Third");
     made.text(Format(0, "", "\x80\x00\x00\x99"s), {"", "known\x01\t", "unknown"});
-    made.file("|CONTEXT", Tree({hash + Number(second, 4)}));
-    made.file("|TTLBTREE", Tree({Number(0, 4) + Text("First"), Number(second, 4) + Text("Second")}));
+    made.file("|CONTEXT", Leaf({hash + Number(second, 4)}));
+    made.file("|TTLBTREE", Leaf({Number(0, 4) + TextZ("First"), Number(second, 4) + TextZ("Second")}));
     made.file("|CTXOMAP", Number(1, 2) + Number(7, 4) + Number(second, 4));
     made.file("|KWBTREE",
-              Tree({Text("alpha") + Number(2, 2) + Number(0, 4), Text("beta") + Number(1, 2) + Number(4, 4)}));
+              Leaf({TextZ("alpha") + Number(2, 2) + Number(0, 4), TextZ("beta") + Number(1, 2) + Number(4, 4)}));
     made.file("|KWDATA", Number(0, 4) + Number(second, 4));
     return made.bytes();
 }
