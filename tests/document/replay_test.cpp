@@ -31,6 +31,7 @@ void SetOption(EditorOptions& options, const std::string& name, int value) {
     if (name == "LineWrap") return void(options.LineWrap = value != 0);
     if (name == "WrapColumn") return void(options.WrapColumn = value);
     if (name == "TabSize") return void(options.TabSize = value);
+    if (name == "KeepMarking") return void(options.habits.keepMarking = value != 0);
     FAIL() << "unknown option " << name;
 }
 

@@ -43,7 +43,11 @@ bool ClipboardBlock::put(TextId tooLarge) {
 bool ClipboardBlock::copy() {
     const BusyCursor busy(document_.notices());
     if (!put(TextId::TooManyLinesToCopy)) return false;
-    if (marker_.isActive()) marker_.clear();
+    if (document_.options().habits.keepMarking) {
+        marker_.stopExtending();
+    } else if (marker_.isActive()) {
+        marker_.clear();
+    }
     return true;
 }
 

@@ -24,8 +24,8 @@ class ClipboardBlock {
     ClipboardBlock(TextDocument& document, LineEditor& editor, Marker& marker, ClipboardStore& store)
         : document_(document), editor_(editor), marker_(marker), store_(store) {}
 
-    // The marked area, whose marking is then taken away, or without one the current line. False when the block is too
-    // large or the clipboard cannot be had; the user is told, and nothing is changed.
+    // The marked area, whose marking is then taken away unless the habit is to keep it, or without one the current
+    // line. False when the block is too large or the clipboard cannot be had; the user is told, and nothing is changed.
     bool copy();
     // The same, and the block is deleted.
     bool cut();

@@ -34,7 +34,7 @@ void TypeCharacter(Editing& editing, char c) {
 }
 
 void Enter(Editing& editing) {
-    if (editing.options.InsertMode) editing.marker.deleteMarked();
+    if (editing.options.InsertMode || editing.options.habits.keepMarking) editing.marker.deleteMarked();
     editing.editor.newLine(false);
 }
 
