@@ -16,10 +16,6 @@ std::string KeyOf(std::size_t slot) {
     return "MenuFile:" + std::to_string(slot);
 }
 
-std::size_t Next(std::size_t slot) {
-    return (slot + 1) % RecentFiles::kSlots;
-}
-
 CommandId CommandOf(std::size_t slot) {
     return CommandId(static_cast<std::uint16_t>(static_cast<std::size_t>(CommandId::FirstRecentFile) + slot));
 }
@@ -33,32 +29,57 @@ std::string MenuText(const std::string& path) {
 
 }  // namespace
 
-void RecentFiles::LoadRecentFiles(const ConfigStore& store, bool restoreFiles) {
+void RecentFiles::LoadRecentFiles(const ConfigStore& store, bool restoreFiles, bool isLong) {
     shown_.clear();
-    for (std::size_t slot = 0; slot < kSlots; ++slot) {
-        paths_[slot] = store.ReadString(kSection, KeyOf(slot), "", kPathSize);
+    paths_ = std::vector<std::string>(isLong ? kLongest : kSlots);
+    std::size_t place = 0;
+    for (std::size_t slot = 0; slot < paths_.size(); ++slot) {
+        paths_[place] = store.ReadString(kSection, KeyOf(slot), "", kPathSize);
+        const bool leavesGap = isLong && paths_[place].empty();
+        if (!leavesGap) ++place;
+    }
+    for (std::size_t slot = 0; slot < paths_.size(); ++slot) {
         if (restoreFiles && !paths_[slot].empty()) shown_.push_back(slot);
     }
-    slot_ = store.ReadInt(kSection, kSlotKey, 0) == 1 ? 1 : 0;
+    slot_ = !isLong && store.ReadInt(kSection, kSlotKey, 0) == 1 ? 1 : 0;
 }
 
 // Begins with the slot that comes next, so that the older file is the first of the next session's to be replaced.
 void RecentFiles::SaveRecentFiles(ConfigStore& store) {
     for (const std::string& path : paths_) {
         store.WriteString(kSection, KeyOf(slot_), path);
-        slot_ = Next(slot_);
-        store.WriteInt(kSection, kSlotKey, static_cast<std::int32_t>(slot_));
+        slot_ = next(slot_);
     }
+    store.WriteInt(kSection, kSlotKey, static_cast<std::int32_t>(slot_));
 }
 
 void RecentFiles::RecordRecentFile(const std::string& path) {
+    if (paths_.size() == kSlots) {
+        recordInSlot(path);
+    } else {
+        recordFirst(path);
+    }
+}
+
+void RecentFiles::recordInSlot(const std::string& path) {
     const auto isSame = [&](const std::string& known) { return EqualIgnoringCase(known, path); };
     if (std::ranges::any_of(paths_, isSame)) return;
-    const bool otherIsFree = !paths_[slot_].empty() && paths_[Next(slot_)].empty();
-    if (otherIsFree) slot_ = Next(slot_);
+    const bool otherIsFree = !paths_[slot_].empty() && paths_[next(slot_)].empty();
+    if (otherIsFree) slot_ = next(slot_);
     paths_[slot_] = path;
     if (std::ranges::find(shown_, slot_) == shown_.end()) shown_.push_back(slot_);
-    slot_ = Next(slot_);
+    slot_ = next(slot_);
+}
+
+// The files before its former place, or all, move one down.
+void RecentFiles::recordFirst(const std::string& path) {
+    std::size_t place = 0;
+    while (place < kLongest - 1 && !paths_[place].empty() && !EqualIgnoringCase(paths_[place], path))
+        ++place;
+    if (place >= shown_.size()) shown_.push_back(shown_.size());
+    for (; place > 0; --place)
+        paths_[place].swap(paths_[place - 1]);
+    paths_[0] = path;
 }
 
 std::vector<RecentFileRow> RecentFiles::menuRows() const {
@@ -70,7 +91,7 @@ std::vector<RecentFileRow> RecentFiles::menuRows() const {
 
 const std::string& RecentFiles::path(CommandId id) const {
     static const std::string none;
-    for (std::size_t slot = 0; slot < kSlots; ++slot)
+    for (std::size_t slot = 0; slot < paths_.size(); ++slot)
         if (CommandOf(slot) == id) return paths_[slot];
     return none;
 }

@@ -21,6 +21,7 @@
 #include "shell/auto_backup.h"
 #include "shell/file_saving.h"
 #include "shell/hand_off.h"
+#include "shell/session_documents.h"
 #include "shell/startup_files.h"
 #include "shell/unsaved/recovery_job.h"
 
@@ -266,6 +267,14 @@ void WriteDialogPosition(ConfigStore& store) {
     SaveDialogPosition(store, 1500, {0, 0}, {30, 40});
 }
 
+void WriteSession(FaultScene& scene) {
+    const SessionDocument document{"C:\\A.TXT", {LineIndex(7), CharColumn(0)}, {}, true};
+    scene.attempt([&]() -> Saved {
+        KeepSession(scene.disk.path("vConfig\\VexaSes.txt"), {&document, 1});
+        return std::nullopt;
+    });
+}
+
 // ---- the table ------------------------------------------------------------------------------------------------------
 
 constexpr AfterFailure kOldOrNew = AfterFailure::OldOrNew;
@@ -298,6 +307,7 @@ const std::vector<WritingOperation>& WritingOperations() {
         {"profile", profile, "VexaC.PRF", kOldOrNew, SaveProfile},
         {"deletion of a profile", profile, "VexaC.PRF", kOldOrNew, DeleteProfile},
         {"history", history, "", kOldOrNew, SaveHistory},
+        {"session", {{"vConfig/VexaSes.txt", "old"}}, "", kOldOrNew, WriteSession},
         {"hand-off", {}, "Unexpected Vexa error", kOldOrNew, HandOver},
         {"batch file", batch, "Can't ", AfterFailure::OldOrNone, WriteBatchFile},
         {"index of help", help, "Error processing 'A.HLP'", kOldOrNew, InstallHelp},

@@ -6,6 +6,7 @@
 #include "shell/closing_order.h"
 #include "shell/frame_placement.h"
 #include "shell/recent_files.h"
+#include "shell/session_documents.h"
 #include "shell/startup_files.h"
 #include "support/test_disk.h"
 
@@ -79,6 +80,58 @@ TEST_F(Session, WithoutRestoringTheRecentFilesAreKeptButNotShown) {
     RecentFiles again;
     again.LoadRecentFiles(store_, true);
     EXPECT_EQ(again.menuRows(), (Rows{{k210, "C:\\B"}, {k211, "C:\\C"}}));
+}
+
+TEST_F(Session, ALongListHasTheFileClosedLastAtItsTop) {
+    setHistory("MenuFile:1", "C:\\Old");
+    RecentFiles recent;
+    recent.LoadRecentFiles(store_, true, true);
+    for (const char c : std::string("ABCDEFGHIJKLMNOP"))
+        recent.RecordRecentFile(std::string("C:\\") + c);
+    recent.RecordRecentFile("c:\\n");
+    recent.SaveRecentFiles(store_);
+    RecentFiles again;
+    again.LoadRecentFiles(store_, true, true);
+    std::string shown;
+    for (const RecentFileRow& row : again.menuRows())
+        shown += row.text.substr(3);
+    EXPECT_EQ(shown, "nPOMLKJIHGFEDCBA");
+    EXPECT_EQ(again.path(CommandId{225}), "C:\\A");
+    EXPECT_EQ(history("MenuFile:0"), "c:\\n");
+    again.LoadRecentFiles(store_, false, true);
+    EXPECT_EQ(again.menuRows(), Rows{});
+    again.RecordRecentFile("C:\\P");
+    EXPECT_EQ(again.menuRows(), (Rows{{k210, "C:\\P"}})) << "of those that are not shown";
+}
+
+// ---- all documents -----------------------------------------------------------------------------------------------
+
+TEST_F(Session, AnyNumberOfDocumentsIsKeptWithTheirPositions) {
+    std::vector<SessionDocument> documents(1000);
+    for (std::size_t i = 0; i < documents.size(); ++i) {
+        documents[i].path = "C:\\My file " + std::to_string(i);
+        documents[i].caret = {LineIndex(static_cast<std::int32_t>(i)), CharColumn(7)};
+        documents[i].bookmarks.drop(static_cast<std::int32_t>(i % 10), LineIndex(5));
+        documents[i].isActive = i == 500;
+    }
+    const std::string file = disk_.path("SESSION.TXT");
+    KeepSession(file, documents);
+    const std::vector<SessionDocument> taken = TakeSession(file);
+    ASSERT_EQ(taken.size(), documents.size());
+    EXPECT_EQ(SessionText(taken), SessionText(documents));
+    EXPECT_EQ(taken[999].path, "C:\\My file 999");
+    EXPECT_EQ(taken[999].caret, documents[999].caret);
+    EXPECT_EQ(taken[999].bookmarks.line(9), LineIndex(5));
+    EXPECT_EQ(taken[999].bookmarks.line(8), std::nullopt);
+    EXPECT_TRUE(TakeSession(file).empty()) << "each is opened once";
+}
+
+TEST_F(Session, AnyBytesAreASession) {
+    const auto read =
+        ReadSessionText("\r\n\t\r\nC:\\A\r\n\tC:\\B\r\n1 -5 x 99999999999 -2 \xFF\tC:\\C D\r\n0 1 2\tC:\\CUT");
+    ASSERT_EQ(read.size(), 2u);
+    EXPECT_EQ(read[0].path, "C:\\B");
+    EXPECT_EQ(SessionText({&read[1], 1}), "1 0 0 2147483647 -1 0 -1 -1 -1 -1 -1 -1 -1\tC:\\C D\r\n");
 }
 
 // ---- files open at exit ------------------------------------------------------------------------------------------

@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <utility>
+
 #include "base/directories.h"
 #include "base/platform.h"
 #include "base/strings.h"
@@ -12,15 +15,24 @@ namespace {
 
 constexpr WORD kRecentFilesSeparator = 100;
 
+constexpr std::size_t kPathsInBox = 10;
+
 WORD NumberOf(CommandId id) {
     return static_cast<WORD>(id);
+}
+
+std::vector<WORD> RecentFileNumbers() {
+    std::vector<WORD> numbers;
+    for (std::size_t n = 0; n < RecentFiles::kLongest; ++n)
+        numbers.push_back(static_cast<WORD>(NumberOf(CommandId::FirstRecentFile) + n));
+    return numbers;
 }
 
 }  // namespace
 
 void Session::registerCommands(CommandDispatcher& dispatcher) {
-    for (const CommandId id : {CommandId::FirstRecentFile, CommandId::SecondRecentFile})
-        dispatcher.RegisterCommand(id, [this](CommandId chosen) { openRecentFile(chosen); });
+    for (const WORD number : RecentFileNumbers())
+        dispatcher.RegisterCommand(CommandId{number}, [this](CommandId chosen) { openRecentFile(chosen); });
 }
 
 void Session::restorePlacement(int showCommand) {
@@ -28,10 +40,12 @@ void Session::restorePlacement(int showCommand) {
 }
 
 void Session::openFirstFiles(std::span<const FileAtLine> files) {
-    recentFiles_.LoadRecentFiles(application_.store, application_.options.RestoreFiles);
+    const EditorOptions& options = application_.options;
+    recentFiles_.LoadRecentFiles(application_.store, options.RestoreFiles, options.habits.wholeSession);
     showRecentFiles();
-    startupFiles_.RestoreStartupFiles(application_.options.RestoreFiles,
+    startupFiles_.RestoreStartupFiles(options.RestoreFiles,
                                       [this](const std::string& path, std::int32_t line) { restoreFile(path, line); });
+    if (options.RestoreFiles) restoreAll();
     const DrawingPause pause = documents_.pauseFor(files.size());
     documents_.opening().OpenCommandLineFiles(files);
 }
@@ -41,9 +55,64 @@ void Session::restoreFile(const std::string& path, std::int32_t line) {
     if (platform::PathExists(path)) {
         documents_.opening().OpenFileAtLine(path, line);
     } else {
-        const std::string name = path.substr(DirectoryOf(path).size());
-        notices_.box(FillText(TextId::CannotOpenFile, {name}), TextId::ErrorCaption, BoxButtons::Ok);
+        tellMissing({&path, 1});
     }
+}
+
+// One box for all of them.
+void Session::tellMissing(std::span<const std::string> paths) {
+    if (paths.empty()) return;
+    std::string text;
+    if (paths.size() == 1) {
+        text = FillText(TextId::CannotOpenFile, {paths[0].substr(DirectoryOf(paths[0]).size())});
+    } else {
+        std::string names;
+        for (const std::string& path : paths.first(std::min(paths.size(), kPathsInBox)))
+            names.append(path).append("\n");
+        if (paths.size() > kPathsInBox) names.append("...");
+        text = FillText(TextId::SessionFilesGone, {std::to_string(paths.size()), names});
+    }
+    notices_.box(text, TextId::ErrorCaption, BoxButtons::Ok);
+}
+
+void Session::restoreAll() {
+    std::vector<SessionDocument> present;
+    std::vector<std::string> missing;
+    for (SessionDocument& document : TakeSession(allFile())) {
+        if (platform::PathExists(document.path)) {
+            present.push_back(std::move(document));
+        } else {
+            missing.push_back(document.path);
+        }
+    }
+    restoreAll(present);
+    tellMissing(missing);
+}
+
+void Session::restoreAll(std::span<const SessionDocument> all) {
+    const DrawingPause pause = documents_.pauseFor(all.size());
+    DocumentWindow* active = nullptr;
+    for (const SessionDocument& document : all) {
+        DocumentWindow* shown = restore(document);
+        if (document.isActive && shown) active = shown;
+    }
+    if (active) documents_.frame().activate(*active);
+}
+
+// None when it could not be opened.
+DocumentWindow* Session::restore(const SessionDocument& kept) {
+    if (!documents_.opening().OpenFileAtLine(kept.path, 0)) return nullptr;
+    DocumentWindow* shown = documents_.active();
+    if (!shown) return nullptr;
+    TextDocument& document = shown->document();
+    for (std::int32_t n = 0; n < Bookmarks::kCount; ++n) {
+        const std::optional<LineIndex> line = kept.bookmarks.line(n);
+        if (line) document.setCurrentLine(*line);  // a bookmark is dropped where the caret is
+        if (line) document.dropBookmark(n);
+    }
+    shown->view().goTo(kept.caret.line, kept.caret.column);
+    shown->refresh();
+    return shown;
 }
 
 void Session::openRecentFile(CommandId id) {
@@ -55,9 +124,7 @@ void Session::showRecentFiles() {
     std::vector<MenuItem> items;
     for (const RecentFileRow& row : recentFiles_.menuRows())
         items.push_back({NumberOf(row.id), row.text});
-    ReplaceItemsBefore(fileMenu_, NumberOf(CommandId::Exit),
-                       {NumberOf(CommandId::FirstRecentFile), NumberOf(CommandId::SecondRecentFile)}, items,
-                       kRecentFilesSeparator);
+    ReplaceItemsBefore(fileMenu_, NumberOf(CommandId::Exit), RecentFileNumbers(), items, kRecentFilesSeparator);
     DrawMenuBar(documents_.frame().window());
 }
 
@@ -73,8 +140,29 @@ void Session::documentCloses(const TextDocument& document) {
     }
 }
 
+void Session::recordAll() {
+    if (isRecorded_) return;
+    isRecorded_ = true;
+    std::vector<SessionDocument> all;
+    documents_.each([&](const DocumentWindow& window) {
+        if (window.document().isNamed())
+            all.push_back(DescribeForSession(window.document(), &window == documents_.active()));
+    });
+    KeepSession(allFile(), all);
+}
+
 void Session::recordStartupFile(const TextDocument& document) {
-    startupFiles_.RecordStartupFile(document.fullPath(), document.currentLine().value + 1);
+    if (application_.options.habits.wholeSession) {
+        recordAll();
+    } else {
+        startupFiles_.RecordStartupFile(document.fullPath(), document.currentLine().value + 1);
+    }
+}
+
+void Session::takeBackEnd() {
+    startupFiles_.takeBack();
+    if (isRecorded_) KeepSession(allFile(), {});
+    isRecorded_ = false;
 }
 
 void Session::save() {
@@ -92,6 +180,7 @@ void Session::save() {
 // end.
 void Session::prepareEnd() {
     startupFiles_.keep();
+    isRecorded_ = false;
     for (MDIchildCL* child : documents_.inSessionOrder()) {
         const DocumentWindow* shown = OpenDocuments::DocumentOf(child);
         if (shown && shown->document().isNamed()) recordStartupFile(shown->document());

@@ -8,6 +8,7 @@
 #include "shell/command_dispatcher.h"
 #include "shell/command_line.h"
 #include "shell/recent_files.h"
+#include "shell/session_documents.h"
 #include "shell/startup_files.h"
 #include "ui/frame/open_documents.h"
 #include "ui/frame/window_placement.h"
@@ -38,13 +39,20 @@ class Session {
     void prepareEnd();
     void end(bool ends);
     // The user, or another program, has refused the end.
-    void takeBackEnd() { startupFiles_.takeBack(); }
+    void takeBackEnd();
 
   private:
     void openRecentFile(CommandId id);
     void showRecentFiles();
     void restoreFile(const std::string& path, std::int32_t line);
+    void tellMissing(std::span<const std::string> paths);
     void recordStartupFile(const TextDocument& document);
+    // All documents, for the habit of the whole session.
+    void restoreAll();
+    void restoreAll(std::span<const SessionDocument> all);
+    DocumentWindow* restore(const SessionDocument& document);
+    void recordAll();
+    std::string allFile() const { return application_.directories.GetDirectory(kConfigDirectory) + "\\VexaSes.txt"; }
 
     OpenDocuments& documents_;
     Application& application_;
@@ -53,6 +61,7 @@ class Session {
     StartupFiles startupFiles_;
     WindowPlacement placement_;
     HMENU fileMenu_ = nullptr;
+    bool isRecorded_ = false;  // all documents, before the first of them is closed
 };
 
 }  // namespace vexa

@@ -1,0 +1,87 @@
+#include "shell/session_documents.h"
+
+#include <algorithm>
+
+#include "base/ascii.h"
+#include "base/file.h"
+#include "base/platform.h"
+
+namespace vexa {
+
+namespace {
+
+constexpr std::size_t kFileLimit = 16 * 1024 * 1024;  // bytes
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr char kBeforePath = '\t';  // what no path has
+
+// The number at the start of a line of numbers, which is taken out.
+std::int32_t TakeNumber(std::string_view& line) {
+    const std::string_view number = line.substr(0, line.find(' '));
+    line.remove_prefix(std::min(number.size() + 1, line.size()));
+    return LeadingInteger(number);
+}
+
+// Whether it is the active one, the caret's line and column, and the lines of the bookmarks, -1 for none.
+SessionDocument ReadLine(std::string_view numbers, std::string_view path) {
+    SessionDocument document;
+    document.path = path;
+    document.isActive = TakeNumber(numbers) == 1;
+    document.caret.line = LineIndex(std::max(TakeNumber(numbers), 0));
+    document.caret.column = CharColumn(std::max(TakeNumber(numbers), 0));
+    for (std::int32_t n = 0; n < Bookmarks::kCount && !numbers.empty(); ++n) {
+        const LineIndex line(TakeNumber(numbers));
+        if (line.value >= 0) document.bookmarks.drop(n, line);
+    }
+    return document;
+}
+
+std::string LineOf(const SessionDocument& document) {
+    std::string line = document.isActive ? "1" : "0";
+    const auto add = [&line](std::int32_t number) { line.append(1, ' ').append(std::to_string(number)); };
+    add(document.caret.line.value);
+    add(document.caret.column.value);
+    for (std::int32_t n = 0; n < Bookmarks::kCount; ++n)
+        add(document.bookmarks.line(n).value_or(LineIndex(-1)).value);
+    return line.append(1, kBeforePath).append(document.path).append(kLineEnd);
+}
+
+}  // namespace
+
+SessionDocument DescribeForSession(const TextDocument& document, bool isActive) {
+    return {document.fullPath(), {document.currentLine(), document.column()}, document.bookmarks(), isActive};
+}
+
+std::string SessionText(std::span<const SessionDocument> documents) {
+    std::string text;
+    for (const SessionDocument& document : documents)
+        text += LineOf(document);
+    return text;
+}
+
+std::vector<SessionDocument> ReadSessionText(std::string_view text) {
+    std::vector<SessionDocument> documents;
+    for (std::size_t end = text.find(kLineEnd); end != std::string_view::npos; end = text.find(kLineEnd)) {
+        const std::string_view line = text.substr(0, end);
+        const std::size_t tab = line.find(kBeforePath);
+        if (tab < line.size() - 1) documents.push_back(ReadLine(line.substr(0, tab), line.substr(tab + 1)));
+        text.remove_prefix(end + kLineEnd.size());
+    }
+    return documents;
+}
+
+void KeepSession(const std::string& file, std::span<const SessionDocument> documents) {
+    if (!documents.empty()) {
+        WriteWholeFile(file, SessionText(documents));
+    } else if (platform::PathExists(file)) {
+        platform::RemoveFile(file);
+    }
+}
+
+std::vector<SessionDocument> TakeSession(const std::string& file) {
+    const std::optional<std::string> text = ReadKeptFile(file, kFileLimit);
+    if (!text) return {};
+    KeepSession(file, {});
+    return ReadSessionText(*text);
+}
+
+}  // namespace vexa
