@@ -52,7 +52,7 @@ bool FindCommands::findAtCaret(const SearchTarget& target) {
     if (!span) tellError(LoadText(TextId::NoWordAtCursor));
     if (!span) return false;
     options_.setFindText(FindTextFor(TextOf(document, line, *span), options_.regularExpression()), true);
-    options_.lastMatch.line = line;
+    options_.lastMatch.line = options_.lastMatch.endLine = line;
     options_.lastMatch.column = span->begin;
     options_.lastMatch.length = span->end - span->begin;
     options_.lastMatch.cursorColumn = document.column();

@@ -32,7 +32,8 @@ void FindDialogModel::storeFindFields(bool pending) {
 }
 
 void FindDialogModel::patternChanged() {
-    if (regularExpression && HoldsTabEscape(findText)) commands_.explainTabEscape();
+    const bool isLiteral = regularExpression && !options().habits().replacementGroups;
+    if (isLiteral && HoldsTabEscape(findText)) commands_.explainTabEscape();
 }
 
 // A match of another text that is still under the cursor is stepped over, so its search counts as one.

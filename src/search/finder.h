@@ -11,7 +11,8 @@
 
 namespace vexa {
 
-// Searches line by line, forward to the last line that is not empty or backward to the first, and never around. A
+// Searches line by line, forward to the last line that is not empty or backward to the first, and around only with that
+// habit and when the user agrees, which is asked once in an operation. A
 // search in either direction begins at the cursor's column and at the start of each further line, so that a backward
 // one too finds a line's matches from left to right.
 //
@@ -33,7 +34,8 @@ class Finder {
     // replacements; what a stopped operation had replaced by then stays, and can be undone.
     //
     // In replacing all, each position of the text is looked at once: the search goes on after the new text, and matches
-    // of no length are replaced only after the characters that follow the match before.
+    // of no length are replaced only after the characters that follow the match before. With the habit of going around,
+    // replacing one also moves to the next.
     std::int32_t replace(EditView& view);
 
     // Whether the user has stopped the last operation.

@@ -22,15 +22,22 @@ struct LineMatch {
 };
 
 // Prepared once for many lines. Each search looks at what a line has from a column on as if the line began there: "^"
-// matches at that column, and it is the start of a word. An empty find text, and a pattern that does not compile, are
-// found nowhere.
+// matches at that column, and it is the start of a word. With the habit of groups in replacements the line begins where
+// it does. An empty find text, and a pattern that does not compile, are found nowhere.
 //
 // A whole word is looked for at the first occurrence alone: where that is part of a longer word, the line has no match.
 // After the word the delimiters of the document's profile count as a word's end, before it only blanks and tabs do.
+// With the habit of going around, a whole word is any occurrence that neither begins nor ends inside a word.
 class LineSearch {
   public:
     // The characters, beside blanks and tabs, that may follow a whole word.
     LineSearch(const SearchOptions& options, std::string_view delimiters);
+
+    bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
+    // The lines after a line whose text must follow it, each behind a "\n", for the find text to be found in it.
+    std::int32_t furtherLines() const { return furtherLines_; }
+    // What is to be put in for the match that was found last, whose text must still be there.
+    std::string replacement() const;
 
     // The first match at or after a column; none where the text ends before it. A NUL must follow the text.
     std::optional<LineMatch> find(std::string_view text, CharColumn from);
@@ -39,17 +46,21 @@ class LineSearch {
     std::optional<LineMatch> findAfter(std::string_view text, CharColumn column);
 
   private:
-    bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
     // Both are called for every line, and most lines have no match: a flag costs half of what an optional does.
     bool findPlain(std::string_view subject, LineMatch& match) const;
     bool findRegular(std::string_view subject, std::size_t from, LineMatch& match) const;
+    bool findWord(std::string_view text, std::size_t from, LineMatch& match) const;
     bool isWholeWord(std::string_view subject, std::size_t at) const;
 
+    const Habits& habits_;
     const std::string text_;
+    const std::string replacement_;
     const std::string delimiters_;
     const bool regular_;
     const bool wholeWord_;
+    const bool seesWholeLine_;  // also where the search begins in its middle
     const LetterCase letterCase_;
+    std::int32_t furtherLines_ = 0;
     PlainSearch plain_;
     // The engine itself rather than a RegexMatcher, which looks its pattern up for each line. Matches have the same
     // limit.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "search/search_texts.h"
+
 namespace vexa {
 
 namespace {
@@ -22,16 +24,6 @@ constexpr OptionKey kOptionKeys[] = {
 
 std::string Limited(std::string_view text) {
     return std::string(text.substr(0, std::min(text.find('\0'), SearchOptions::kTextLimit)));
-}
-
-std::string WithoutEscapes(const std::string& typed) {
-    std::string text;
-    for (std::size_t i = 0; i < typed.size(); ++i) {
-        const char next = typed[i] == '\\' && i + 1 < typed.size() ? typed[i + 1] : '\0';
-        if (next == 't' || next == '\\') ++i;
-        text += next == 't' ? '\t' : typed[i];
-    }
-    return text;
 }
 
 }  // namespace
@@ -62,11 +54,13 @@ void SearchOptions::setReplaceText(std::string_view text) {
 }
 
 std::string SearchOptions::searchedText() const {
-    return regularExpression() ? findText() : WithoutEscapes(findText());
+    const bool lineEnds = habits_->replacementGroups;
+    if (!regularExpression()) return WithoutEscapes(findText(), lineEnds);
+    return lineEnds ? PatternWithLineEnds(findText()) : findText();
 }
 
 std::string SearchOptions::insertedText() const {
-    return regularExpression() ? replaceText() : WithoutEscapes(replaceText());
+    return regularExpression() ? replaceText() : WithoutEscapes(replaceText(), habits_->replacementGroups);
 }
 
 }  // namespace vexa

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/config_store.h"
+#include "base/habits.h"
 #include "base/units.h"
 
 namespace vexa {
@@ -15,6 +16,7 @@ struct LastMatch {
     bool isNone() const { return line.value < 0; }
 
     LineIndex line{-1};
+    LineIndex endLine{-1};
     CharColumn column{-1};
     std::int32_t length = 0;  // characters
     // What was marked: from the match's screen column on a column a character, and at least one.
@@ -29,6 +31,10 @@ class SearchOptions {
     // Characters in each of the texts; setters cut what is longer, and at a byte 0.
     static constexpr std::size_t kTextLimit = 60;
 
+    // The habits, which must stay where they are, say what the texts mean and how far a search goes.
+    explicit SearchOptions(const Habits& habits = kGivenHabits) : habits_(&habits) {}
+    const Habits& habits() const { return *habits_; }
+
     // From and to section "Searching".
     void Load(const ConfigStore& store);
     void Save(ConfigStore& store) const;
@@ -41,7 +47,9 @@ class SearchOptions {
 
     // The texts as they are searched and inserted. Where the find text is no regular expression, "\t" in either stands
     // for a tab and "\\" for a backslash; any other backslash stands for itself. With regular expressions both are as
-    // typed: the find text's backslashes are the pattern's own, and the replacement has no escapes.
+    // typed: the find text's backslashes are the pattern's own, and the replacement has no escapes. With the habit of
+    // groups in replacements, "\t" and "\n" (a line end) have their meaning in both texts and with both kinds of
+    // search; a replacement of a regular expression is as typed still, for its meaning depends on what is found.
     std::string searchedText() const;
     std::string insertedText() const;
 
@@ -83,7 +91,10 @@ class SearchOptions {
     }
 
   private:
+    static constexpr Habits kGivenHabits{};
+
     Values values_;
+    const Habits* habits_;
 };
 
 }  // namespace vexa

@@ -30,7 +30,7 @@ struct FindSession {
     ExtensionProfile profile;
     TextDocument document{editorOptions, notices};
     EditView view{document, editorOptions, notices};
-    SearchOptions options;
+    SearchOptions options{editorOptions.habits};
     FindCommands commands{options, notices, watch};
 };
 

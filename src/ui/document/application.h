@@ -37,7 +37,7 @@ struct Application {
     ConfigStore store;
     EditorOptions options;
     FontDetails font;
-    SearchOptions searchOptions;
+    SearchOptions searchOptions{options.habits};
     PrintOptions printOptions;
     CompilerSetup compilerSetup;
     Directories directories;

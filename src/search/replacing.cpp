@@ -1,0 +1,117 @@
+// How a search run replaces what it has found.
+#include "search/search_run.h"
+
+#include "document/text/line_actions.h"
+#include "document/text/run_actions.h"
+
+namespace vexa {
+
+void SearchRun::replace() {
+    std::optional<DocumentMatch> match = pendingMatch();
+    options_.setMatchPending(false);
+    if (!match) match = findFrom(start());
+    if (!match) return;
+    if (options_.replaceAll()) {
+        replaceAll(*match);
+    } else {
+        replaceOne(*match);
+    }
+}
+
+// A match that was found earlier may be replaced without a further search as long as the user sees it marked with the
+// cursor on it, and it is what the present text and options would find there.
+std::optional<DocumentMatch> SearchRun::pendingMatch() {
+    const LastMatch& last = options_.lastMatch;
+    const MarkedArea marked{MarkMode::Stream, true, {last.line, last.displayStart}, {last.endLine, last.displayEnd}};
+    const LineMatch inLine{last.column, last.length};
+    const bool marksMatch = options_.matchPending() && document_.marked() == marked;
+    if (!marksMatch || document_.currentLine() != last.line || document_.column() != last.cursorColumn) return {};
+    if (search_.find(subject(last.line), last.column) != inLine) return {};
+    return DocumentMatch{last.line, inLine};
+}
+
+// Puts the new text in the place of the match that was found last, and returns where it ends.
+TextPosition SearchRun::exchange(const DocumentMatch& match) {
+    const std::string text = search_.replacement();
+    const TextPosition oldEnd = endOf(match);
+    const std::int32_t joined = oldEnd.line - match.line;
+    if (joined > 0) view_.editor().moveToLine(match.line);
+    for (std::int32_t n = 0; n < joined; ++n)
+        view_.editor().joinNextLine();
+    const TextPosition newEnd = insertLines(match.start(), match.inLine.length - joined, text);
+    moveOrigin(match.start(), oldEnd, newEnd);
+    progress_.countReplacement();
+    return newEnd;
+}
+
+// A text of several lines in the place of so many characters. What follows these goes to the last of its lines.
+TextPosition SearchRun::insertLines(TextPosition start, std::int32_t length, std::string_view text) {
+    LineEditor& editor = view_.editor();
+    const std::string_view first = text.substr(0, text.find('\n'));
+    const std::string rest(document_.text(start.line).substr(static_cast<std::size_t>(start.column.value + length)));
+    const bool isOneLine = first.size() == text.size();
+    const std::int32_t toEnd = length + static_cast<std::int32_t>(rest.size());
+    editor.run<ReplaceRun>(start.line, start.column, isOneLine ? length : toEnd, first);
+    if (isOneLine) return {start.line, start.column + static_cast<std::int32_t>(text.size())};
+    editor.moveToLine(start.line);
+    editor.cursorDown();
+    const std::string_view last = text.substr(text.rfind('\n') + 1);
+    editor.run<InsertLine>(document_.makeLine(std::string(last).append(rest)));
+    LineIndex end = start.line + 1;
+    for (text.remove_suffix(last.size() + 1); text.size() > first.size(); ++end) {
+        const std::size_t before = text.rfind('\n');
+        editor.run<InsertLine>(document_.makeLine(text.substr(before + 1)));
+        text = text.substr(0, before);
+    }
+    return {end, CharColumn(static_cast<std::int32_t>(last.size()))};
+}
+
+void SearchRun::moveOrigin(TextPosition from, TextPosition oldEnd, TextPosition newEnd) {
+    if (from >= origin_ || oldEnd > origin_) return;
+    if (oldEnd.line == origin_.line) origin_.column += newEnd.column - oldEnd.column;
+    origin_.line += newEnd.line - oldEnd.line;
+}
+
+void SearchRun::moveTo(TextPosition position) {
+    if (position == TextPosition{document_.currentLine(), document_.column()}) return;
+    view_.editor().moveToLine(position.line);
+    view_.editor().moveToColumn(position.column);
+}
+
+// With the habit of going around, the next match is shown for the user to decide about.
+void SearchRun::replaceOne(const DocumentMatch& match) {
+    view_.marker().clear();
+    view_.editor().moveToLine(match.line);
+    const TextPosition end = exchange(match);
+    if (end.line != document_.currentLine()) view_.editor().moveToLine(end.line);
+    view_.editor().moveToColumn(end.column);
+    options_.forgetMatch();
+    if (options_.habits().searchAround) showAsNext(findAfter(match, end));
+    view_.finish();
+}
+
+void SearchRun::replaceAll(const DocumentMatch& first) {
+    view_.marker().clear();
+    for (std::optional<DocumentMatch> next = first; next;) {
+        const bool isDoneAlready = isAround_ && next->line == origin_.line && next->start() >= origin_;
+        if (isDoneAlready) break;
+        const TextPosition end = exchange(*next);
+        if (progress_.mustStop()) break;
+        next = findAfter(*next, end);
+    }
+    moveTo(origin_);
+    options_.forgetMatch();
+    view_.finish();
+}
+
+// The next match after a replacement that ends at a position.
+std::optional<DocumentMatch> SearchRun::findAfter(const DocumentMatch& match, TextPosition end) {
+    const std::string_view text = subject(end.line);
+    std::optional<LineMatch> next = search_.find(text, end.column);
+    if (next == LineMatch{end.column, 0}) next = search_.findAfter(text, end.column);
+    if (next && next->column.value <= static_cast<std::int32_t>(document_.text(end.line).size()))
+        return DocumentMatch{end.line, *next};
+    return findFrom({(options_.forward() ? end.line : match.line) + step_, CharColumn(0)});
+}
+
+}  // namespace vexa
