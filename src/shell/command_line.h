@@ -29,6 +29,8 @@ std::int32_t ParseLineOption(const std::string& argument);
 struct FileAtLine {
     std::string file;
     std::int32_t line = 0;  // counted from 1; 0 or less means the first
+    std::int32_t column = 0;
+    std::int32_t wait = 0;  // the number of the start that waits until the user closes it; 0 for none
 
     bool operator==(const FileAtLine&) const = default;
 };

@@ -8,23 +8,23 @@
 
 namespace vexa {
 
-bool FileOpening::OpenFileAtLine(const std::optional<std::string>& name, std::int32_t line) {
+bool FileOpening::OpenFileAtLine(const std::optional<std::string>& name, std::int32_t line, std::int32_t column) {
     const BusyCursor busy(notices_);
-    const LineIndex target(std::max(line, 1) - 1);
+    const TextPosition target{LineIndex(std::max(line, 1) - 1), CharColumn(std::max(column, 1) - 1)};
     if (!name) return frame_.openWindow(std::nullopt, target);
     const std::string path = OpenPathOf(*name);
     if (!IsUsableName(path, notices_)) return false;
     const bool isShown = !options_.MultipleCopies && frame_.activateShowing(path, target);
     if (isShown) return true;
     if (!frame_.openWindow(path, target)) return false;
-    OfferLeftCopies(path, notices_, [this](const std::string& copy) { frame_.openWindow(copy, LineIndex(0)); });
+    OfferLeftCopies(path, notices_, [this](const std::string& copy) { frame_.openWindow(copy, {}); });
     return true;
 }
 
 int FileOpening::OpenCommandLineFiles(std::span<const FileAtLine> files) {
     int opened = 0;
     for (const FileAtLine& file : files)
-        opened += OpenFileAtLine(file.file, file.line) ? 1 : 0;
+        opened += OpenFileAtLine(file.file, file.line, file.column) ? 1 : 0;
     return opened;
 }
 

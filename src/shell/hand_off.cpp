@@ -53,13 +53,28 @@ std::string_view TakeLine(std::string_view& text) {
     return line;
 }
 
+std::int32_t TakeNumberLine(std::string_view& text) {
+    return LeadingInteger(TakeLine(text).substr(0, kNumberLimit));
+}
+
 std::optional<FileAtLine> ReadHandOff() {
     File file(HandOffFile(), platform::OpenMode::Read);
     const std::optional<std::string> bytes = file.isOpen() ? file.readUpTo(kReadLimit) : std::nullopt;
     if (!bytes) return std::nullopt;
     std::string_view rest = *bytes;
-    const std::string_view path = TakeLine(rest).substr(0, kPathLimit);
-    return FileAtLine{std::string(path), LeadingInteger(TakeLine(rest).substr(0, kNumberLimit))};
+    FileAtLine read{std::string(TakeLine(rest).substr(0, kPathLimit)), TakeNumberLine(rest)};
+    read.column = TakeNumberLine(rest);
+    read.wait = std::max(TakeNumberLine(rest), 0);
+    return read;
+}
+
+// Lines as the file has them; true when the running editor has been told.
+bool PutHandOff(const std::string& lines, Notices& notices) {
+    const platform::SystemTurn turn(kFileTurn, kFilePatience);
+    if (WriteWholeFile(HandOffFile(), lines))
+        return platform::PostBroadcast(platform::RegisterBroadcast(kFileOpenMessage));
+    TellUnexpectedError(notices, "VEXA", "95");
+    return false;
 }
 
 }  // namespace
@@ -74,16 +89,16 @@ HandOffDecision ShouldHandOff(std::string_view commandLine, std::span<const std:
 }
 
 bool HandOffToRunningInstance(std::string_view commandLine, std::int32_t line, Notices& notices) {
-    const std::uint32_t message = platform::RegisterBroadcast(kFileOpenMessage);
-    if (message == 0) return false;
+    if (platform::RegisterBroadcast(kFileOpenMessage) == 0) return false;
     const std::string path = PathIn(commandLine, line);
-    if (path.empty()) return false;
-    const platform::SystemTurn turn(kFileTurn, kFilePatience);
-    if (!WriteWholeFile(HandOffFile(), path + "\r\n" + std::to_string(line) + "\r\n")) {
-        TellUnexpectedError(notices, "VEXA", "95");
-        return false;
-    }
-    return platform::PostBroadcast(message);
+    return !path.empty() && PutHandOff(path + "\r\n" + std::to_string(line) + "\r\n", notices);
+}
+
+bool HandOffFile(const FileAtLine& file, Notices& notices) {
+    std::string lines = file.file + "\r\n";
+    for (const std::int32_t number : {file.line, file.column, file.wait})
+        lines += std::to_string(number) + "\r\n";
+    return PutHandOff(lines, notices);
 }
 
 bool HandedOff(const CommandLine& commandLine, Notices& notices) {
@@ -93,16 +108,22 @@ bool HandedOff(const CommandLine& commandLine, Notices& notices) {
            HandOffToRunningInstance(text, decision.line, notices);
 }
 
-void AwaitReading() {
+bool AwaitReading() {
     const std::uint32_t start = platform::Ticks();
     while (platform::PathExists(HandOffFile()) && platform::Ticks() - start < kReadingPatience)
         platform::Pause(kReadingPause);
+    return !platform::PathExists(HandOffFile());
+}
+
+void WithdrawHandOff() {
+    platform::RemoveFile(HandOffFile());
 }
 
 std::optional<FileAtLine> HandOffInbox::take() {
     const platform::SystemTurn turn(kFileTurn, kFilePatience);
     const std::optional<FileAtLine> read = ReadHandOff();
     if (!read) return std::nullopt;
+    if (read->wait != 0) waited_.expect(read->wait);
     platform::RemoveFile(HandOffFile());
     lastTaken_.set(std::max(platform::Ticks(), std::uint32_t{1}));
     return read;

@@ -53,7 +53,8 @@ void OutsideOpens::tellMissing() {
 void OutsideOpens::openNext() {
     const FileAtLine next = std::move(waiting_.front());
     waiting_.pop_front();
-    if (!next.file.empty()) opening_.OpenFileAtLine(next.file, next.line);
+    const bool isShown = !next.file.empty() && opening_.OpenFileAtLine(next.file, next.line, next.column);
+    if (next.wait != 0) inbox_.waited().opened(next.wait, isShown ? frame_.documentOf(next.file) : nullptr);
 }
 
 std::optional<std::string> FileOfDdeExecute(std::string_view text) {

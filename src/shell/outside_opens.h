@@ -22,6 +22,8 @@ class OutsideFrame : public DocumentFrame {
     virtual bool isFree() const = 0;
     // Has the files that wait opened as soon as what runs now has come to its end, by openWaiting().
     virtual void openWaitingSoon() = 0;
+    // The document of a file, the latest of several; none when no window shows it.
+    virtual const TextDocument* documentOf(const std::string& path) const = 0;
 };
 
 class OutsideOpens {
@@ -37,6 +39,8 @@ class OutsideOpens {
     // Opens what waits, one after the other, if the editor is free. What could not be found is told once, however often
     // it was missing.
     void openWaiting();
+    // Ends the start that waits for this document.
+    void documentCloses(const TextDocument& document) { inbox_.waited().closed(document); }
 
   private:
     bool hasNext() const { return frame_.isFree() && !waiting_.empty(); }

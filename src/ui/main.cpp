@@ -4,8 +4,8 @@
 #include <commctrl.h>
 
 #include <memory>
-#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/platform.h"
 #include "base/strings.h"
@@ -14,6 +14,8 @@
 #include "shell/command_line.h"
 #include "shell/hand_off.h"
 #include "shell/out_of_memory.h"
+#include "shell/tool_request.h"
+#include "shell/waiting_start.h"
 #include "ui/frame/vexa_frame.h"
 
 namespace {
@@ -46,12 +48,10 @@ bool IsEditorOpen() {
     return FindWindowA(vexa::kFrameClassName, nullptr) != nullptr;
 }
 
-using StartTurn = std::optional<vexa::platform::SystemTurn>;
+using Files = std::vector<vexa::FileAtLine>;
 
 // Other starts wait until there is a window that takes their files.
-int RunEditor(const vexa::CommandLine& commandLine, int showCommand, StartTurn& turn) {
-    // Full names: the start directory may make another directory the current one before the files are opened.
-    const auto files = vexa::FilesOf(commandLine.arguments);
+int RunEditor(const Files& files, bool isBareStart, int showCommand, vexa::StartTurn& turn) {
     const vexa::OutOfMemoryHandler outOfMemory(&ShowOutOfMemory);
     vexa::platform::AddGlobalMarker(vexa::kActiveMarker);
     int exitCode = 1;
@@ -62,12 +62,30 @@ int RunEditor(const vexa::CommandLine& commandLine, int showCommand, StartTurn& 
         const bool isOpen = frame->open(showCommand);
         turn.reset();
         if (isOpen) {
-            frame->openFirstFiles(files, commandLine.arguments.empty());
+            frame->openFirstFiles(files, isBareStart);
             exitCode = frame->run();
         }
     }
     vexa::platform::DeleteGlobalMarker(vexa::kActiveMarker);
     return exitCode;
+}
+
+// What names files is read before the editor's start directory may become the current one.
+int Start(const vexa::CommandLine& commandLine, int showCommand) {
+    StartNotices notices;
+    const auto request = vexa::ToolRequestOf(commandLine.arguments);
+    const Files files = request ? request->files : vexa::FilesOf(commandLine.arguments);
+    vexa::StartTurn turn(std::in_place, vexa::kStartTurn, vexa::kStartPatience);
+    if (request && request->waits && !files.empty())
+        return vexa::WaitedFor(files, &IsEditorOpen, turn, notices) ? 0 : 1;
+    if (turn->isMine() && IsEditorOpen()) {
+        if (request && vexa::HandedOff(files, notices)) return 0;
+        if (!request && vexa::HandedOff(commandLine, notices)) {
+            vexa::AwaitReading();
+            return 0;
+        }
+    }
+    return RunEditor(files, commandLine.arguments.empty(), showCommand, turn);
 }
 
 }  // namespace
@@ -81,11 +99,5 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
         ShowCommandLineHelp();
         return 0;
     }
-    StartNotices notices;
-    StartTurn turn(std::in_place, vexa::kStartTurn, vexa::kStartPatience);
-    if (turn->isMine() && IsEditorOpen() && vexa::HandedOff(commandLine, notices)) {
-        vexa::AwaitReading();
-        return 0;
-    }
-    return RunEditor(commandLine, showCommand, turn);
+    return Start(commandLine, showCommand);
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/platform.h"
+#include "shell/tool_request.h"
 #include "support/case_files.h"
 #include "support/test_disk.h"
 
@@ -81,6 +82,29 @@ TEST_F(CommandLineFiles, WildcardsStandForNormalFilesAtTheirFirstLine) {
     EXPECT_EQ(FilesOf(Arguments{disk_.path("sub\\t*.?")}), Files{file("sub\\three.c", 0)});
     EXPECT_EQ(FilesOf(Arguments{"sub\\*.c"}), Files{file("three.c", 0)}) << "a directory without a drive is dropped";
     EXPECT_EQ(FilesOf(Arguments{"*.none"}), Files{});
+}
+
+std::string ShownOf(const std::optional<ToolRequest>& request, const std::string& folder) {
+    if (!request) return "none";
+    std::string shown = request->waits ? "wait" : "";
+    for (const FileAtLine& at : request->files) {
+        const std::string name = at.file.starts_with(folder) ? at.file.substr(folder.size()) : at.file;
+        shown += (shown.empty() ? "" : "|") + name + ' ' + std::to_string(at.line) +
+                 (at.column != 0 ? ' ' + std::to_string(at.column) : "");
+    }
+    return shown;
+}
+
+TEST_F(CommandLineFiles, FormsOfOtherProgramsAreToldFromTheGivenOnes) {
+    disk_.makeDirectory("sub");
+    for (const char* name : {"a.c", "sub\\b.c", "sub\\l2.c", "+7", "x-l5.c"})
+        disk_.put(name, "");
+    for (const test::Cells& row : test::RowsOf(kFiles, "tool_requests")) {
+        std::string arguments = row.at(0);
+        if (arguments.starts_with("DISK")) arguments.replace(0, 4, disk_.path());
+        const auto request = ToolRequestOf(ParseCommandLine("vexa " + arguments).arguments);
+        EXPECT_EQ(ShownOf(request, disk_.path("") + "\\"), row.at(1)) << row.at(0);
+    }
 }
 
 }  // namespace

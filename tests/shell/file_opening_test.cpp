@@ -5,6 +5,7 @@
 #include "base/directories.h"
 #include "base/file.h"
 #include "base/strings.h"
+#include "document/text/text_document.h"
 #include "shell/outside_opens.h"
 #include "support/recording_notices.h"
 #include "support/test_disk.h"
@@ -15,22 +16,24 @@ namespace {
 // Notes what it is asked to do, a word and the line index each.
 class ScriptedFrame : public OutsideFrame {
   public:
-    bool activateShowing(const std::string& path, LineIndex line) override {
+    bool activateShowing(const std::string& path, TextPosition at) override {
         if (path != shown) return false;
-        log += "activate " + std::to_string(line.value) + ";";
+        log += "activate " + std::to_string(at.line.value) + ";";
         return true;
     }
-    bool openWindow(const std::optional<std::string>& path, LineIndex line) override {
+    bool openWindow(const std::optional<std::string>& path, TextPosition at) override {
         log += "open " + path.value_or("new").substr(path ? path->rfind('\\') + 1 : 0) + " " +
-               std::to_string(line.value) + ";";
+               std::to_string(at.line.value) + (at.column.value > 0 ? ":" + std::to_string(at.column.value) : "") + ";";
         return path != refused;
     }
     void bringToFront() override { log += "front;"; }
     void restoreIfMinimised() override { log += "restore;"; }
     bool isFree() const override { return free; }
     void openWaitingSoon() override { log += "soon;"; }
+    const TextDocument* documentOf(const std::string&) const override { return document; }
 
     bool free = true;
+    const TextDocument* document = nullptr;
 
     std::string shown;
     std::string refused;
@@ -39,6 +42,9 @@ class ScriptedFrame : public OutsideFrame {
 
 class FileOpeningTest : public testing::Test {
   protected:
+    static bool isFree(const DocumentWait& wait) {
+        return platform::SystemTurn(SharedWait(wait.number()).turn(), 0).isMine();
+    }
     std::string takeLog() { return std::exchange(frame_.log, {}); }
 
     test::TestDisk disk_;
@@ -142,6 +148,29 @@ TEST_F(FileOpeningTest, AHandedOverFileIsOpenedAfterwardsAndItsMessageDeleted) {
     }
     outside_.openWaiting();
     EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(FileOpeningTest, AStartWaitsUntilItsDocumentIsClosedOrCannotBeOpened) {
+    const TextDocument document(options_, notices_);
+    const TextDocument another(options_, notices_);
+    const DocumentWait closed;
+    const DocumentWait refused;
+    for (const DocumentWait* wait : {&closed, &refused}) {
+        ASSERT_TRUE(HandOffFile({"C:\\a.c", 3, 5, wait->number()}, notices_));
+        outside_.receiveHandOff(platform::Ticks());
+        EXPECT_TRUE(AwaitReading());
+        EXPECT_FALSE(isFree(*wait)) << "it is on its way";
+        frame_.document = wait == &closed ? &document : nullptr;
+        outside_.openWaiting();
+        EXPECT_EQ(takeLog(), "soon;front;restore;open a.c 2:4;");
+    }
+    EXPECT_TRUE(isFree(refused));
+    EXPECT_FALSE(refused.awaitEnd()) << "the user has not closed it";
+    outside_.documentCloses(another);
+    EXPECT_FALSE(isFree(closed));
+    outside_.documentCloses(document);
+    EXPECT_TRUE(isFree(closed));
+    EXPECT_TRUE(closed.awaitEnd());
 }
 
 TEST_F(FileOpeningTest, WhatComesFromOutsideWaitsForTheEndOfADialog) {

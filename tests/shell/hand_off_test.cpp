@@ -132,6 +132,9 @@ TEST_F(HandOffTest, AnyBytesAreReadAsFileAndLine) {
         {std::string(300, 'x') + "\n7\n", {std::string(255, 'x'), 7}},
         {std::string(1 << 20, 'y'), {std::string(255, 'y'), 0}},
         {"a\0b\r\n3"s, {"a\0b"s, 3}},
+        {"C:\\A.C\r\n20\r\n5\r\n", {"C:\\A.C", 20, 5}},
+        {"C:\\A.C\r\n20\r\n5\r\n7\r\n8", {"C:\\A.C", 20, 5, 7}},
+        {"C:\\A.C\r\n\r\nx\r\n-7\r\n", {"C:\\A.C", 0, 0, 0}},
     };
     for (const auto& [bytes, expected] : cases) {
         put(bytes);

@@ -36,9 +36,9 @@ TEST(NameAtCaret, IsWhatTheLineNames) {
 
 class ShownFiles : public DocumentFrame {
   public:
-    bool activateShowing(const std::string&, LineIndex) override { return false; }
-    bool openWindow(const std::optional<std::string>& path, LineIndex line) override {
-        opened = path.value_or("new") + " " + std::to_string(line.value + 1);
+    bool activateShowing(const std::string&, TextPosition) override { return false; }
+    bool openWindow(const std::optional<std::string>& path, TextPosition at) override {
+        opened = path.value_or("new") + " " + std::to_string(at.line.value + 1);
         return true;
     }
     void bringToFront() override {}

@@ -85,6 +85,24 @@ TEST_F(InstanceTest, OtherProgramsOpenFilesByDde) {
     EXPECT_TRUE(has(editor, 3));
 }
 
+TEST_F(InstanceTest, AStartThatWaitsStartsAnEditorThatStaysOpen) {
+    const StartedProgram start(folder, "-wait a.c");
+    HWND frame = nullptr;
+    const auto showsFile = [&] {
+        frame = FindWindowA("AppFrameCL", nullptr);
+        return frame && NameShownBy(frame).find("a.c]") != std::string::npos;
+    };
+    ASSERT_TRUE(WaitUntil(showsFile));
+    EXPECT_TRUE(start.isRunning());
+    PostMessageA(frame, WM_COMMAND, static_cast<WPARAM>(CommandId::FileClose), 0);
+    EXPECT_TRUE(start.ends());
+    DWORD code = 1;
+    EXPECT_TRUE(GetExitCodeProcess(start.process(), &code) && code == 0) << code;
+    EXPECT_TRUE(IsWindow(frame));
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(frame); }));
+}
+
 // What the shell gives to a window on which files are dropped, in the memory of that window's process.
 void* PutDropInto(HANDLE process, const std::string& names) {
     std::string bytes(sizeof(DROPFILES), '\0');

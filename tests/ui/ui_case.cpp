@@ -36,6 +36,7 @@ struct Stage {
     TestFolder folder;
     std::unique_ptr<TestPrinter> printer;
     std::unique_ptr<Editor> editor;
+    std::unique_ptr<StartedProgram> waiting;  // a start that waits for what it has opened there
     std::vector<HWND> dialogs;  // the one that is meant is the last
     std::unique_ptr<OpenedClipboard> heldClipboard;
     POINT cell{};  // the size of a character
@@ -112,10 +113,18 @@ bool Start(Stage& stage, const std::string& directory, const std::string& argume
     return true;
 }
 
+bool HasReturned(const StartedProgram& start, DWORD expected) {
+    DWORD code = 0;
+    return start.ends() && GetExitCodeProcess(start.process(), &code) && code == expected;
+}
+
 bool StartAgain(Stage& stage, Words words) {
-    const StartedProgram second(stage.folder, words.rest());
-    DWORD code = 1;
-    return second.ends() && GetExitCodeProcess(second.process(), &code) && code == 0;
+    return HasReturned(StartedProgram(stage.folder, words.rest()), 0);
+}
+
+bool StartWaiting(Stage& stage, Words words) {
+    stage.waiting = std::make_unique<StartedProgram>(stage.folder, words.rest());
+    return true;
 }
 
 bool Command(Stage& stage, Words words) {
@@ -249,6 +258,7 @@ const std::map<std::string, Run> kDoing = {
     {"start", [](Stage& s, Words w) { return Start(s, {}, w.rest()); }},
     {"start-in", [](Stage& s, Words w) { return Start(s, s.folder.path(w.rest()), {}); }},
     {"start-again", &StartAgain},
+    {"start-waiting", &StartWaiting},
     {"end", &End},
     {"kill", [](Stage& s, Words) { return s.editor->kill(), true; }},
     {"keys", [](Stage& s, Words w) { return s.editor->keys(w.rest()), true; }},
@@ -436,6 +446,8 @@ const std::map<std::string, Run> kSeeing = {
     {"menu", [](Stage& s, Words) { return s.editor->hasPopupMenu(); }},
     {"over-frame", &IsOverFrame},
     {"other-program", &IsOtherInFront},
+    {"waiting", [](Stage& s, Words) { return s.waiting->isRunning(); }},
+    {"returned", [](Stage& s, Words w) { return HasReturned(*s.waiting, std::stoul(w.rest())); }},
     {"ended", [](Stage& s, Words) { return !s.editor->isRunning(); }},
     {"shown", &IsShown},
     {"hidden", [](Stage& s, Words w) { return !IsShown(s, w); }},

@@ -56,30 +56,39 @@ ChildShow OpenDocuments::showOfNewWindow() const {
     }
 }
 
-bool OpenDocuments::activateShowing(const std::string& path, LineIndex line) {
+bool OpenDocuments::activateShowing(const std::string& path, TextPosition position) {
     const FileIdentity file(path);
     for (const auto& child : frame_.children()) {
         DocumentWindow* shown = DocumentOf(child.get());
         if (!shown || !file.isFileOf(shown->document())) continue;
         frame_.activate(*shown);
-        shown->view().goTo(line, CharColumn(0));
+        shown->view().goTo(position.line, position.column);
         shown->refresh();
         return true;
     }
     return false;
 }
 
-bool OpenDocuments::openWindow(const std::optional<std::string>& path, LineIndex line) {
+bool OpenDocuments::openWindow(const std::optional<std::string>& path, TextPosition position) {
     auto made = std::make_unique<DocumentWindow>(frame_, host_, application_, notices_);
     if (!files_.open(made->document(), path)) return false;
     DocumentWindow& shown = *made;
     const std::string caption = shown.caption();
     if (!frame_.adopt(std::move(made), kDocumentWindowClass, caption, showOfNewWindow())) return false;
-    if (path) shown.view().goTo(line, CharColumn(0));
+    if (path) shown.view().goTo(position.line, position.column);
     shown.refresh();
     // The text before the frame around it, which the system else draws first.
     RedrawWindow(shown.window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     return true;
+}
+
+const TextDocument* OpenDocuments::documentOf(const std::string& path) const {
+    const FileIdentity file(path);
+    const TextDocument* found = nullptr;
+    each([&](DocumentWindow& window) {
+        if (file.isFileOf(window.document())) found = &window.document();
+    });
+    return found;
 }
 
 // The dialog that waits for an answer has the keyboard; the frame behind it could do nothing with a key.

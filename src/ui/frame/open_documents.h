@@ -84,12 +84,13 @@ class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuest
     bool isClosing() const { return isClosing_; }
     std::vector<MDIchildCL*> inSessionOrder() const;
 
-    bool activateShowing(const std::string& path, LineIndex line) override;
-    bool openWindow(const std::optional<std::string>& path, LineIndex line) override;
+    bool activateShowing(const std::string& path, TextPosition position) override;
+    bool openWindow(const std::optional<std::string>& path, TextPosition position) override;
     void bringToFront() override;
     void restoreIfMinimised() override;
     bool isFree() const override { return frame_.takesCommands() && !isClosing_; }
     void openWaitingSoon() override { PostMessageA(frame_.window(), kOpenWaitingMessage, 0, 0); }
+    const TextDocument* documentOf(const std::string& path) const override;
     bool isBusy() const override { return notices_.isBusy(); }
     std::vector<TextDocument*> openDocuments() const override;
 

@@ -24,6 +24,7 @@ class OutsideFiles {
     void drop(const std::vector<std::string>& names);
     // Takes the messages that tell of files; false for any other.
     bool receive(const Message& message);
+    void documentCloses(const TextDocument& document) { waiting_.documentCloses(document); }
 
   private:
     OpenDocuments& documents_;

@@ -34,7 +34,7 @@ void UnsavedWork::offerRecovery() {
 void UnsavedWork::recover(const RecoveredText& recovered, const std::string& file) {
     const std::string path = recovered.path();
     const auto name = IsFullName(path) ? std::optional(path) : std::nullopt;
-    if (!documents_.openWindow(name, LineIndex(0))) return;
+    if (!documents_.openWindow(name, {})) return;
     DocumentWindow& window = *documents_.active();
     GiveText(window.document(), recovered);
     keeper_.adopt(window.document(), file);
@@ -43,7 +43,7 @@ void UnsavedWork::recover(const RecoveredText& recovered, const std::string& fil
 }
 
 void UnsavedWork::openFile(const std::string& path) {
-    documents_.openWindow(path, LineIndex(0));
+    documents_.openWindow(path, {});
 }
 
 // The timer serves while a dialog or a menu has the messages.

@@ -209,6 +209,7 @@ void VexaFrame::documentCloses(const DocumentWindow& window) {
     commands_.external().documentCloses(window);
     session_.documentCloses(window.document());
     unsaved_.documentCloses(window);
+    outside_.documentCloses(window.document());
 }
 
 void VexaFrame::showContextMenu(POINT screenPlace) {
