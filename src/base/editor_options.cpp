@@ -40,6 +40,7 @@ constexpr OptionKey kOptionKeys[] = {
     {"RestoreFiles", &EditorOptions::RestoreFiles},
     {"RestoreDirectory", &EditorOptions::RestoreDirectory},
     {"LineNumbers", &EditorOptions::LineNumbers},
+    {"DocumentTabs", &EditorOptions::DocumentTabs},
 };
 
 std::int32_t ReadValue(const ConfigStore& store, const char* key, std::int32_t fallback) {

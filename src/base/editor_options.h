@@ -27,6 +27,7 @@ inline constexpr std::size_t kLastDirectoryLimit = 254;
 struct EditorOptions {
     bool ToolBar = true;
     bool StatusBar = true;
+    bool DocumentTabs = false;
     bool FileRead = false;   // kept and shown; loading does not look at it
     bool FileWrite = false;  // files are bytes: LF line ends, and a Ctrl-Z at the end of a written file
     bool SmartIndent = true;

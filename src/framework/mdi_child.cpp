@@ -15,6 +15,12 @@ LRESULT MDIchildCL::defaultProcedure(const Message& message) {
     return DefMDIChildProcA(window(), message.number, message.wParam, message.lParam);
 }
 
+bool MDIchildCL::onContextMenu(std::optional<POINT> screenPlace) {
+    if (!screenPlace || IsIconic(window()) || !isOnTitle(*screenPlace)) return false;
+    frame_.activate(*this);
+    return frame_.showTitleMenu(*screenPlace);
+}
+
 bool MDIchildCL::onClose() {
     const bool isRefused = !frame_.takesCommands() || !mayClose();
     if (!isRefused) onClosing();

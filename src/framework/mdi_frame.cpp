@@ -32,6 +32,12 @@ bool MDIframeCL::translate(MSG& message) {
     return AppFrameCL::translate(message) || (client_ && TranslateMDISysAccel(client_, &message));
 }
 
+bool MDIframeCL::onContextMenu(std::optional<POINT> screenPlace) {
+    const MDIchildCL* active = activeChild();
+    return screenPlace && active && IsZoomed(active->window()) && isOnTitle(*screenPlace) &&
+           showTitleMenu(*screenPlace);
+}
+
 MDIchildCL* MDIframeCL::activeChild() const {
     const auto active = reinterpret_cast<HWND>(SendMessageA(client_, WM_MDIGETACTIVE, 0, 0));
     const auto isActive = [active](const auto& child) { return child->window() == active; };

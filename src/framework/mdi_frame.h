@@ -38,11 +38,16 @@ class MDIframeCL : public AppFrameCL {
     void closeChildren(const std::vector<MDIchildCL*>& order);
     // Closes a child if it agrees.
     bool closeChild(MDIchildCL& child);
+    // Shows the menu of the active child's title, which the frame's title has while the child is maximised. False for a
+    // child that has none of its own.
+    virtual bool showTitleMenu(POINT /*screenPlace*/) { return false; }
     // Lets go of a child whose window has been destroyed.
     void forget(const MDIchildCL& child);
 
   protected:
     friend class MDIchildCL;
+
+    bool onContextMenu(std::optional<POINT> screenPlace) override;
 
     // The menu at whose end the child windows are listed.
     bool openClient(HMENU windowMenu);

@@ -137,4 +137,8 @@ RECT WindowCL::clientArea() const {
     return area;
 }
 
+bool WindowCL::isOnTitle(POINT screenPlace) const {
+    return SendMessageA(window_, WM_NCHITTEST, 0, MAKELPARAM(screenPlace.x, screenPlace.y)) == HTCAPTION;
+}
+
 }  // namespace vexa

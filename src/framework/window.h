@@ -79,6 +79,8 @@ class WindowCL {
     // In the parent's client area, in pixels.
     void place(const RECT& area);
     RECT clientArea() const;
+    // Whether a point of the screen is on the window's title.
+    bool isOnTitle(POINT screenPlace) const;
 
   protected:
     // False when the system refuses to make the window.

@@ -45,6 +45,7 @@ enum class MenuEntryKind : std::uint8_t {
     Bar,         // opens a menu of the menu bar
     WindowList,  // the same; the document windows are listed at its end
     Context,     // opens the edit view's pop-up menu
+    Title,       // opens that of a document's title and tab
     KeysOnly,    // the commands below are in no menu
     Command,
     Separator,

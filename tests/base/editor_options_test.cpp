@@ -28,10 +28,10 @@ TEST_F(Options, AMissingFileGivesDefaultsAndSavingWritesTheWholeSections) {
     loaded().Save(store);
     EXPECT_EQ(disk.get("VEXA.INI").substr(0, 16), "[Editor Options]");
     const std::pair<const char*, int> numbers[] = {
-        {"WrapColumn", 80}, {"RestoreSize", 0},    {"FileRead", 0},     {"FileWrite", 0},       {"LineWrap", 0},
-        {"DisplayMode", 3}, {"MultipleCopies", 0}, {"HasMargin", 1},    {"ToolBar", 1},         {"StatusBar", 1},
-        {"InsertMode", 1},  {"SmartIndent", 1},    {"UseExplorer", 0},  {"TabSize", 4},         {"UseTabs", 0},
-        {"AutoBackup", 1},  {"BackupInterval", 4}, {"RestoreFiles", 1}, {"RestoreDirectory", 1}};
+        {"WrapColumn", 80}, {"RestoreSize", 0},    {"FileRead", 0},     {"FileWrite", 0},        {"LineWrap", 0},
+        {"DisplayMode", 3}, {"MultipleCopies", 0}, {"HasMargin", 1},    {"ToolBar", 1},          {"StatusBar", 1},
+        {"InsertMode", 1},  {"SmartIndent", 1},    {"UseExplorer", 0},  {"TabSize", 4},          {"UseTabs", 0},
+        {"AutoBackup", 1},  {"BackupInterval", 4}, {"RestoreFiles", 1}, {"RestoreDirectory", 1}, {"DocumentTabs", 0}};
     for (const auto& [key, value] : numbers)
         EXPECT_EQ(store.ReadInt("Editor Options", key, -1), value) << key;
     for (const char* key : {"Filter1", "Filter2"})
@@ -62,7 +62,7 @@ TEST_F(Options, EveryFieldSurvivesARun) {
           &EditorOptions::SmartIndent, &EditorOptions::InsertMode, &EditorOptions::HasMargin,
           &EditorOptions::MultipleCopies, &EditorOptions::UseExplorer, &EditorOptions::LineWrap,
           &EditorOptions::UseTabs, &EditorOptions::RestoreDirectory, &EditorOptions::RestoreSize,
-          &EditorOptions::RestoreFiles, &EditorOptions::AutoBackup}) {
+          &EditorOptions::RestoreFiles, &EditorOptions::AutoBackup, &EditorOptions::DocumentTabs}) {
         options.*flag = !(options.*flag);
         options.Save(store);
         EXPECT_EQ(loaded().*flag, options.*flag);

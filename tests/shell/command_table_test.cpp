@@ -39,9 +39,10 @@ std::vector<std::string> MenusAsText() {
 
 TEST(CommandTable, MenusStandInTheirOrderWithTheirSeparators) {
     const std::vector<std::string> menus = MenusAsText();
-    ASSERT_EQ(menus.size(), 11u);
+    ASSERT_EQ(menus.size(), 12u);
     EXPECT_EQ(menus[0], "&File 200 201 202 203 204 205 - 206 207 - 208");
     EXPECT_EQ(menus[9], " 802 801 800 803 - 302 303 304 312");
+    EXPECT_EQ(menus[10], " 203 205 202 - 1022 1021 1020");
 }
 
 TEST(CommandTable, IdsAreUniqueAndAllButContextAndInstalledCommandsHaveAHelpText) {

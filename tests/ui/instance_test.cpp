@@ -99,8 +99,12 @@ TEST_F(InstanceTest, AStartThatWaitsStartsAnEditorThatStaysOpen) {
     DWORD code = 1;
     EXPECT_TRUE(GetExitCodeProcess(start.process(), &code) && code == 0) << code;
     EXPECT_TRUE(IsWindow(frame));
+    DWORD editor = 0;
+    GetWindowThreadProcessId(frame, &editor);
+    const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, editor);
     PostMessageA(frame, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(frame); }));
+    EXPECT_EQ(WaitForSingleObject(process, kPatience), WAIT_OBJECT_0);
+    CloseHandle(process);
 }
 
 // What the shell gives to a window on which files are dropped, in the memory of that window's process.

@@ -37,7 +37,7 @@ struct Stage {
     std::unique_ptr<TestPrinter> printer;
     std::unique_ptr<Editor> editor;
     std::unique_ptr<StartedProgram> waiting;  // a start that waits for what it has opened there
-    std::vector<HWND> dialogs;  // the one that is meant is the last
+    std::vector<HWND> dialogs;                // the one that is meant is the last
     std::unique_ptr<OpenedClipboard> heldClipboard;
     POINT cell{};  // the size of a character
 };
@@ -174,6 +174,27 @@ bool GoTo(Stage& stage, Words words) {
     return WaitUntil([&] { return GetForegroundWindow() == window; });
 }
 
+HWND TabsOf(Stage& stage) {
+    return ChildrenOf(stage.editor->frame(), "TabStripCL").at(0);
+}
+
+// Presses a button at a position of the tabs, in pixels, and lets it go there or at a second one.
+bool PressTab(Stage& stage, Words words) {
+    const bool isMiddle = words.word() == "middle";
+    const LPARAM from = MAKELPARAM(words.number(), 8);
+    const LPARAM to = words.rest().empty() ? from : MAKELPARAM(words.number(), 8);
+    PostMessageA(TabsOf(stage), isMiddle ? WM_MBUTTONDOWN : WM_LBUTTONDOWN, MK_LBUTTON, from);
+    PostMessageA(TabsOf(stage), WM_MOUSEMOVE, MK_LBUTTON, to);
+    return PostMessageA(TabsOf(stage), isMiddle ? WM_MBUTTONUP : WM_LBUTTONUP, 0, to);
+}
+
+bool AskForTitleMenu(Stage& stage, Words) {
+    RECT frame{};
+    GetWindowRect(stage.editor->frame(), &frame);
+    const LPARAM title = MAKELPARAM((frame.left + frame.right) / 2, frame.top + 12);
+    return PostMessageA(stage.editor->frame(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(stage.editor->frame()), title);
+}
+
 bool PressPane(Stage& stage, Words words) {
     const HWND bar = ChildrenOf(stage.editor->frame(), "StatusBarCL").at(0);
     return PostMessageA(ChildrenOf(bar, "CtrlWindowCL").at(kPanes.at(words.word())), WM_LBUTTONDOWN, 0, 0);
@@ -265,6 +286,8 @@ const std::map<std::string, Run> kDoing = {
     {"keys-there", [](Stage&, Words w) { return PressKeys(w.rest()), true; }},
     {"command", &Command},
     {"click-pane", &PressPane},
+    {"press-tab", &PressTab},
+    {"title-menu", &AskForTitleMenu},
     {"click", [](Stage& s, Words w) -> bool { return PostMessageA(w.control(s), BM_CLICK, 0, 0); }},
     {"click-label", &ClickLabel},
     {"measure-cell", &MeasureCell},
@@ -443,6 +466,7 @@ const std::map<std::string, Run> kSeeing = {
     {"missing", [](Stage& s, Words w) { return !s.folder.has(w.rest()); }},
     {"clipboard", [](Stage&, Words w) { return ClipboardText() == (w.lines().empty() ? w.rest() : w.lines()); }},
     {"clipboard-has", [](Stage&, Words w) { return ClipboardText().find(w.rest()) != std::string::npos; }},
+    {"tabs", [](Stage& s, Words w) { return TextOf(TabsOf(s)) == w.rest(); }},
     {"menu", [](Stage& s, Words) { return s.editor->hasPopupMenu(); }},
     {"over-frame", &IsOverFrame},
     {"other-program", &IsOtherInFront},

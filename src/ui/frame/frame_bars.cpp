@@ -7,10 +7,11 @@
 
 namespace vexa {
 
-FrameBars::FrameBars(EditorOptions& options, std::function<void()> layOut)
+FrameBars::FrameBars(MDIframeCL& frame, EditorOptions& options, std::function<void()> layOut)
     : options_(options),
       layOut_(std::move(layOut)),
       toolBar_(ToolButtons(), ToolPictureStrips(), &ToolTipOf),
+      tabs_(frame),
       statusBar_(WidestPaneTexts()) {}
 
 void FrameBars::registerCommands(CommandDispatcher& dispatcher) {
@@ -18,12 +19,15 @@ void FrameBars::registerCommands(CommandDispatcher& dispatcher) {
         CommandId::ToggleToolBar, [this](CommandId) { toggleToolBar(); }, [this] { return options_.ToolBar; });
     dispatcher.RegisterToggle(
         CommandId::ToggleStatusBar, [this](CommandId) { toggleStatusBar(); }, [this] { return options_.StatusBar; });
+    dispatcher.RegisterToggle(
+        CommandId::ToggleTabs, [this](CommandId) { toggleTabs(); }, [this] { return options_.DocumentTabs; });
 }
 
 bool FrameBars::open(HWND frame) {
-    if (!toolBar_.open(frame) || !statusBar_.open(frame)) return false;
+    if (!toolBar_.open(frame) || !statusBar_.open(frame) || !tabs_.open(frame)) return false;
     toolBar_.show(options_.ToolBar);
     statusBar_.show(options_.StatusBar);
+    tabs_.show(options_.DocumentTabs);
     return true;
 }
 
@@ -39,6 +43,17 @@ void FrameBars::toggleStatusBar() {
     layOut_();
 }
 
+void FrameBars::toggleTabs() {
+    options_.DocumentTabs = !options_.DocumentTabs;
+    refreshTabs();
+    tabs_.show(options_.DocumentTabs);
+    layOut_();
+}
+
+void FrameBars::refreshTabs() {
+    if (options_.DocumentTabs) tabs_.refresh();
+}
+
 RECT FrameBars::place(RECT room) {
     if (options_.ToolBar) {
         const LONG bottom = std::min<LONG>(toolBar_.height(), room.bottom);
@@ -50,12 +65,18 @@ RECT FrameBars::place(RECT room) {
         statusBar_.place({0, top, room.right, room.bottom});
         room.bottom = top;
     }
+    if (options_.DocumentTabs) {
+        const LONG bottom = std::min<LONG>(room.top + tabs_.height(), room.bottom);
+        tabs_.place({0, room.top, room.right, bottom});
+        room.top = bottom;
+    }
     return room;
 }
 
 void FrameBars::takeSystemSettings() {
     statusBar_.refreshFont();
     toolBar_.refreshPictures();
+    tabs_.refreshFont();
 }
 
 void FrameBars::refreshButtons(const CommandDispatcher& dispatcher) {

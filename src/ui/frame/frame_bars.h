@@ -1,4 +1,5 @@
-// The tool bar and the status bar of the frame: where they lie, what they show, and the commands that hide them.
+// The tool bar, the tabs and the status bar of the frame: where they lie, what they show, and the commands that hide
+// them.
 #pragma once
 
 #include <functional>
@@ -8,13 +9,14 @@
 #include "framework/tool_bar.h"
 #include "shell/command_dispatcher.h"
 #include "ui/document/document_window.h"
+#include "ui/frame/document_tabs.h"
 
 namespace vexa {
 
 class FrameBars {
   public:
     // Whoever lays the frame out hears when a bar has been shown or hidden.
-    FrameBars(EditorOptions& options, std::function<void()> layOut);
+    FrameBars(MDIframeCL& frame, EditorOptions& options, std::function<void()> layOut);
 
     void registerCommands(CommandDispatcher& dispatcher);
     // False when the system refuses to make a bar.
@@ -30,14 +32,20 @@ class FrameBars {
     // None clears what is said of a document.
     void showDocument(const DocumentWindow* window);
     void showRecording(bool isRecording);
+    // Shows the windows inside the frame as they are now, if there are tabs.
+    void refreshTabs();
+    // Takes a message from the queue that is for the tabs; false for any other.
+    bool useMessage(const MSG& message) { return options_.DocumentTabs && tabs_.useMessage(message); }
 
   private:
     void toggleToolBar();
     void toggleStatusBar();
+    void toggleTabs();
 
     EditorOptions& options_;
     std::function<void()> layOut_;
     ToolBarCL toolBar_;
+    DocumentTabs tabs_;
     StatusBarCL statusBar_;
 };
 

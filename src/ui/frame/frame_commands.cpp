@@ -35,6 +35,7 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       macro_(player_, documents.frame(), notices, loop, application.store),
       search_(documents, application, notices, loop),
       files_(documents, application.options),
+      paths_(documents, application, notices),
       editing_(documents, application.store, notices),
       textTools_(documents, application, notices),
       printing_(documents, application, notices, loop),
@@ -42,7 +43,7 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       help_(documents.frame()),
       quickHelp_(documents, application, notices, printing_.desk()),
       external_(documents, application, notices) {
-    RegisterCommandsOf(dispatcher_, macro_, search_, files_, editing_, textTools_, printing_, options_, help_,
+    RegisterCommandsOf(dispatcher_, macro_, search_, files_, paths_, editing_, textTools_, printing_, options_, help_,
                        quickHelp_, external_);
     RegisterWindowCommands(dispatcher_, documents.frame());
     RegisterKeysOf(keys_, search_, textTools_, options_);

@@ -10,6 +10,7 @@
 #include "ui/frame/macro_commands.h"
 #include "ui/frame/macro_player.h"
 #include "ui/frame/option_commands.h"
+#include "ui/frame/path_commands.h"
 #include "ui/frame/print_commands.h"
 #include "ui/frame/quick_help.h"
 #include "ui/frame/search_commands.h"
@@ -40,6 +41,7 @@ class FrameCommands {
     MacroCommands macro_;
     SearchCommands search_;
     DocumentCommands files_;
+    PathCommands paths_;
     EditCommands editing_;
     TextTools textTools_;
     PrintCommands printing_;

@@ -39,6 +39,10 @@ std::vector<MenuItem> ContextMenuItems() {
     return MenusOf({MenuEntryKind::Context}).front().items;
 }
 
+std::vector<MenuItem> TitleMenuItems() {
+    return MenusOf({MenuEntryKind::Title}).front().items;
+}
+
 std::vector<AcceleratorKey> AcceleratorKeys() {
     std::vector<AcceleratorKey> keys;
     for (const Accelerator& row : Accelerators()) {

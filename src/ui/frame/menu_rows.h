@@ -14,7 +14,9 @@ struct MenuBarRows {
 };
 
 MenuBarRows MainMenuRows();
+// The pop-up menus of a document's text and of its title.
 std::vector<MenuItem> ContextMenuItems();
+std::vector<MenuItem> TitleMenuItems();
 std::vector<AcceleratorKey> AcceleratorKeys();
 
 }  // namespace vexa

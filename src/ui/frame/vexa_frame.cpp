@@ -4,7 +4,6 @@
 
 #include "base/platform.h"
 #include "framework/title_bar.h"
-#include "ui/frame/menu_rows.h"
 #include "ui/frame/status_panes.h"
 #include "ui/help/help.h"
 #include "ui/resources/resource.h"
@@ -22,7 +21,7 @@ constexpr UINT kBackupCheckInterval = 10'000;  // milliseconds
 VexaFrame::VexaFrame(Application& application)
     : application_(application),
       loop_(*this),
-      bars_(application.options, [this] { layOut(); }),
+      bars_(*this, application.options, [this] { layOut(); }),
       notices_(*this, bars_.statusBar(), loop_),
       documents_(*this, *this, application, notices_),
       commands_(documents_, application, notices_, loop_),
@@ -150,6 +149,7 @@ bool VexaFrame::workWhileIdle() {
     constexpr std::int32_t kLinesAtOnce = 2000;
     bool hasMore = false;
     documents_.each([&](DocumentWindow& window) { hasMore |= window.document().lookAheadForComments(kLinesAtOnce); });
+    bars_.refreshTabs();
     return unsaved_.work() || hasMore;
 }
 
@@ -159,7 +159,7 @@ bool VexaFrame::workWhileIdle() {
 // waits for an answer has the keys.
 bool VexaFrame::translate(MSG& message) {
     if (!takesCommands() || IsInHelpViewer(message.hwnd)) return false;  // others have the keys
-    return commands_.useKey(message) || MDIframeCL::translate(message);
+    return commands_.useKey(message) || bars_.useMessage(message) || MDIframeCL::translate(message);
 }
 
 std::optional<ItemState> VexaFrame::itemState(WORD id) const {
@@ -212,8 +212,14 @@ void VexaFrame::documentCloses(const DocumentWindow& window) {
     outside_.documentCloses(window.document());
 }
 
-void VexaFrame::showContextMenu(POINT screenPlace) {
-    const MenuHandle menu = MakePopupMenu(ContextMenuItems());
+bool VexaFrame::showTitleMenu(POINT screenPlace) {
+    const bool isOfDocument = takesCommands() && documents_.active();
+    if (isOfDocument) showMenu(TitleMenuItems(), screenPlace);
+    return isOfDocument;
+}
+
+void VexaFrame::showMenu(const std::vector<MenuItem>& items, POINT screenPlace) {
+    const MenuHandle menu = MakePopupMenu(items);
     TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, screenPlace.x, screenPlace.y, 0, window(), nullptr);
 }
 

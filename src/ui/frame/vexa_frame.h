@@ -15,6 +15,7 @@
 #include "ui/frame/frame_bars.h"
 #include "ui/frame/frame_commands.h"
 #include "ui/frame/frame_notices.h"
+#include "ui/frame/menu_rows.h"
 #include "ui/frame/open_documents.h"
 #include "ui/frame/outside_files.h"
 #include "ui/frame/session.h"
@@ -77,7 +78,9 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     void documentChanged(const DocumentWindow& window) override { bars_.showDocument(&window); }
     bool mayCloseDocument(DocumentWindow& window) override { return documents_.mayClose(window); }
     void documentCloses(const DocumentWindow& window) override;
-    void showContextMenu(POINT screenPlace) override;
+    void showContextMenu(POINT screenPlace) override { showMenu(ContextMenuItems(), screenPlace); }
+    bool showTitleMenu(POINT screenPlace) override;
+    void showMenu(const std::vector<MenuItem>& items, POINT screenPlace);
 
     Application& application_;
     MessageLoop loop_;
