@@ -9,6 +9,7 @@ namespace {
 std::string LineEndNotice(const TextDocument& document) {
     const LineEnds found = document.disk().lineEnds;
     const bool writesLf = document.options().FileWrite;
+    if (document.rules().keepsLineEnds) return {};
     if (writesLf ? !found.crLf : !found.lf) return {};
     const TextId have = found.crLf && found.lf ? TextId::LineEndsMixed
                         : found.lf             ? TextId::LineEndLf

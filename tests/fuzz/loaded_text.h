@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/checksum.h"
 #include "base/file.h"
 #include "document/text/text_document.h"
 #include "fuzz/fuzzing.h"
@@ -29,6 +30,20 @@ inline std::string Joined(const TextDocument& document) {
     return text;
 }
 
+// What is to stay as it is is written as it was.
+inline void RequireStays(const std::string& bytes) {
+    File("C:\\A.TXT", platform::OpenMode::CreateAlways).write(bytes);
+    SilentNotices notices;
+    EditorOptions options;
+    options.habits.keepFiles = true;
+    TextDocument document(options, notices);
+    document.setName("C:\\A.TXT");
+    Require(document.load());
+    if (document.isTruncated()) return;
+    Require(document.write());
+    Require(document.disk().checksum == ChecksumOf(bytes));
+}
+
 // The bytes load, nothing but line ends is lost, and what is written loads again as the same text.
 inline void RequireLoads(const std::string& bytes, bool binary) {
     MakeDisk();
@@ -48,6 +63,7 @@ inline void RequireLoads(const std::string& bytes, bool binary) {
     Require(again.load());
     const bool getsCtrlZ = binary && !text.ends_with('\x1A');
     if (!again.areLinesWrapped()) Require(Joined(again) == text + (getsCtrlZ ? "\x1A" : ""));
+    RequireStays(bytes);
 }
 
 }  // namespace vexa::fuzz

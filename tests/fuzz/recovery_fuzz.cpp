@@ -23,23 +23,25 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     SilentNotices notices;
     EditorOptions options;
+    options.habits.keepFiles = recovered.head.keepsLineEnds != 0;
     TextDocument document(options, notices);
     document.setName(recovered.path());
     document.newEmpty();
     GiveText(document, recovered);
     LineViews lines = recovered.lines();
-    while (lines.size() > 1 && lines.back().empty())
+    while (!options.habits.keepFiles && lines.size() > 1 && lines.back().empty())
         lines.pop_back();
     Require(vexa::LinesOf(document) == lines);
     std::string again = RecoveryBeginning(document);
-    for (const std::string_view line : vexa::LinesOf(document))
-        again.append(line) += '\n';
+    const LineIndex last(document.lastLine(LastUsed::Text));
+    for (LineIndex i; i <= last; ++i)
+        again.append(document.text(i)).append(RecoveredLineEnd(document, i, last));
     SealRecovery(again, ChecksumOf(std::string_view(again).substr(kUncounted)));
     const auto second = ReadRecoveryText(again);
     Require(second && second->lines() == lines && second->path() == recovered.path());
     while (document.history().undo()) {
     }
-    Require(vexa::LinesOf(document) == LineViews{""});
+    Require(vexa::LinesOf(document).size() == 1 && document.text(LineIndex(0)).empty());
     return 0;
 }
 

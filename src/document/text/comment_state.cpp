@@ -10,7 +10,7 @@ namespace vexa {
 void CommentState::setRules(const TokenRules* rules) {
     rules_ = rules;
     for (std::int32_t i = lines_.lastUsed(LastUsed::Plain); i >= 0; --i) {
-        if (TextLine* line = lines_.occupied(i)) line->commentEffectKnown = false;
+        if (TextLine* line = lines_.occupied(i)) line->forgetCommentEffect();
     }
     reset();
 }
@@ -27,12 +27,10 @@ void CommentState::forgetBelow(std::int32_t line) {
 
 // True when the line does something else to a comment than was last known.
 bool CommentState::refreshEffect(TextLine& line) const {
-    if (line.commentEffectKnown) return false;
-    const CommentEffect old{line.opensComment, line.closesComment};
+    if (line.isCommentEffectKnown()) return false;
+    const CommentEffect old = line.commentEffect();
     const CommentEffect now = CommentEffectOf(*rules_, line.text());
-    line.opensComment = now.opens;
-    line.closesComment = now.closes;
-    line.commentEffectKnown = true;
+    line.setCommentEffect(now);
     return now != old;
 }
 
@@ -53,7 +51,7 @@ bool CommentState::after(std::int32_t index, bool startsInside) const {
     TextLine* line = lines_.occupied(index);
     if (line == nullptr) return startsInside;
     refreshEffect(*line);
-    return CommentEffect{line->opensComment, line->closesComment}.after(startsInside);
+    return line->commentEffect().after(startsInside);
 }
 
 void CommentState::addCheckpoint() {

@@ -6,9 +6,9 @@ namespace vexa {
 
 namespace {
 
-CharColumn Limited(CharColumn column) {
+CharColumn Limited(CharColumn column, std::int32_t last) {
     if (column.value < 0) return CharColumn(0);
-    return column.value > kLastColumn ? CharColumn(kLastColumn - 1) : column;
+    return column.value > last ? CharColumn(last - 1) : column;
 }
 
 }  // namespace
@@ -16,7 +16,7 @@ CharColumn Limited(CharColumn column) {
 bool MoveToColumn::perform() {
     TextLine& line = document().current();
     old_ = line.column();
-    line.setColumn(Limited(column_));
+    line.setColumn(Limited(column_, document().rules().limits.lastColumn));
     return true;
 }
 

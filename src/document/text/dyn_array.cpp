@@ -78,7 +78,7 @@ bool DynArray::isVacant(std::int32_t i) const {
 std::int32_t DynArray::lastUsed(LastUsed mode) const {
     std::int32_t i = std::max(slots_.size() - 1, 0);
     if (mode == LastUsed::Text) {
-        while (i > 0 && slots_[i]->isEmpty())
+        while (i > 0 && !slots_[i]->hasContents())
             --i;
     }
     return i;
@@ -125,7 +125,7 @@ void DynArray::trim() {
 // A line that comes from the history may come from a time with other rules of colouring.
 TextLine* DynArray::keep(LinePtr line) {
     if (line == nullptr) return &vacant_;
-    line->commentEffectKnown = false;
+    line->forgetCommentEffect();
     return line.release();
 }
 

@@ -12,7 +12,7 @@ namespace vexa {
 // What counts as a line in use.
 enum class LastUsed {
     Plain,  // any line that was stored
-    Text    // any line that was stored and is not empty
+    Text    // any line that was stored and is not empty, or has an end that is kept
 };
 
 // A sequence of pointers with a gap where the last change was, so that lines come and go at one position without moving

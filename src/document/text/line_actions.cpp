@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "document/text/document_line_ends.h"
 #include "document/text/text_document.h"
 
 namespace vexa {
@@ -23,7 +24,7 @@ void PutBack(TextDocument& document, LinePtr& line, LineIndex index) {
 }  // namespace
 
 bool InsertLine::change() {
-    if (!line_) line_ = document().makeLine({});
+    if (!line_) line_ = NewLine(document(), {});
     PutBack(document(), line_, document().currentLine());
     return true;
 }
@@ -48,34 +49,45 @@ bool SplitLine::change() {
     const CharColumn end = std::min(line.column(), CharColumn(line.length()));
     LinePtr tail = document().makeLine(line.text().substr(static_cast<std::size_t>(end.value)));
     document().lines().reserve(document().currentLine().value + 1);
-    line.truncate(end);
+    tail->setEnd(line.end());
+    if (!tail->text().empty()) line.truncate(end);
+    line.setEnd(NewLineEnd(document()));
     PutBack(document(), tail, document().currentLine() + 1);
     return true;
 }
 
 void SplitLine::takeBack() {
     const LineIndex tail = document().currentLine() + 1;
-    const std::string_view text = document().editableLine(tail).text();
-    document().current().append(text);
+    const TextLine& below = document().editableLine(tail);
+    TextLine& line = document().current();
+    if (!below.text().empty()) line.append(below.text());
+    line.setEnd(below.end());
     document().lines().detach(tail.value);
 }
 
 bool JoinLines::change() {
     const LineIndex here = document().currentLine();
-    if (here.value >= document().lines().lastUsed(LastUsed::Plain)) return false;
-    const std::string_view text = document().editableLine(here + 1).text();
+    const bool isLast = here.value >= document().lines().lastUsed(LastUsed::Plain);
+    const TextLine* own = document().line(here);
+    end_ = own ? own->end() : LineEnd::None;
+    changed_ = !isLast || end_ != LineEnd::None;
+    if (!changed_) return false;
+    const TextLine* next = isLast ? nullptr : &document().editableLine(here + 1);
     TextLine& line = document().current();
     joint_ = CharColumn(line.length());
-    line.append(text);
-    next_ = document().lines().detach(here.value + 1);
+    if (next) line.append(next->text());
+    line.setEnd(next ? next->end() : LineEnd::None);
+    if (next) next_ = document().lines().detach(here.value + 1);
     return true;
 }
 
 void JoinLines::takeBack() {
-    if (!next_) return;
+    if (!changed_) return;
     document().lines().reserve(document().currentLine().value + 1);
-    document().current().truncate(joint_);
-    PutBack(document(), next_, document().currentLine() + 1);
+    TextLine& line = document().current();
+    if (next_) line.truncate(joint_);
+    line.setEnd(end_);
+    if (next_) PutBack(document(), next_, document().currentLine() + 1);
 }
 
 }  // namespace vexa

@@ -39,7 +39,7 @@ class DeleteLine : public TextAction {
     LinePtr line_;
 };
 
-// Moves the text from the cursor on to a new line below.
+// Moves the text from the cursor on to a new line below, with the end of the line; the line gets that of new lines.
 class SplitLine : public TextAction {
   public:
     using TextAction::TextAction;
@@ -49,7 +49,8 @@ class SplitLine : public TextAction {
     void takeBack() override;
 };
 
-// Appends the next line to the current one. On the last line nothing is joined, yet it counts as a change.
+// Appends the next line to the current one, which gets that one's end. On the last line nothing is joined, but an end
+// that is kept goes; it counts as a change in any case.
 class JoinLines : public TextAction {
   public:
     using TextAction::TextAction;
@@ -59,6 +60,8 @@ class JoinLines : public TextAction {
     void takeBack() override;
     CharColumn joint_;
     LinePtr next_;
+    LineEnd end_ = LineEnd::None;
+    bool changed_ = false;
 };
 
 }  // namespace vexa

@@ -3,6 +3,7 @@
 #include "base/checksum.h"
 #include "base/file.h"
 #include "document/text/columns.h"
+#include "document/text/document_line_ends.h"
 #include "document/text/text_loader.h"
 
 namespace vexa {
@@ -53,24 +54,29 @@ void TextDocument::setProfile(const ExtensionProfile& profile) {
 bool TextDocument::newEmpty() {
     loaded_ = true;
     named_ = false;
+    rules_ = FileRules(options_.habits);
+    takeLineEnds({});
     lines_.putIfVacant(makeLine({}), kNewDocumentLine);
     return true;
 }
 
-bool TextDocument::load() {
+bool TextDocument::load(const FileRules& rules) {
     discardText();
+    rules_ = rules;
     // As they are before the reading: what another program writes meanwhile is then a change.
     const auto facts = platform::FactsOf(path_);
     disk_ = {};
     File file;
     if (!path_.empty()) file = File(path_, platform::OpenMode::Read);
-    if (!file.isOpen() || !TextLoader(*this, arena_, options_.FileWrite).read(file)) {
+    TextLoader loader(*this, arena_, rules_, options_.FileWrite);
+    if (!file.isOpen() || !loader.read(file)) {
         discardText();
         disk_ = {};
         newEmpty();
         return false;
     }
     lines_.takeGrown();
+    takeLineEnds(loader.tally());
     loaded_ = true;
     disk_.facts = facts;
     disk_.changesUnedited = disk_.kind != ContentsKind::Text && changesWhenWritten();
@@ -97,9 +103,14 @@ WriteOutcome TextDocument::tryWrite(bool withoutCopy) {
     history_.clear();
     clearModified();
     clearChangedLines();
+    CountLineEnds(*this);
     linesWrapped_ = false;
     truncated_ = false;
     return outcome;
+}
+
+void TextDocument::takeLineEnds(const LineEndTally& tally) {
+    lineEndStyle_ = tally.style(options_.FileWrite ? LineEnd::Lf : LineEnd::CrLf);
 }
 
 void TextDocument::countChange(std::int32_t step) {
@@ -110,6 +121,7 @@ void TextDocument::countChange(std::int32_t step) {
 
 void TextDocument::becomeAsLoaded(const TextDocument& other) {
     disk_ = other.disk_;
+    lineEndStyle_ = other.lineEndStyle_;
     linesWrapped_ = other.linesWrapped_;
     truncated_ = other.truncated_;
     clearModified();

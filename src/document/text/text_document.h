@@ -14,7 +14,9 @@
 #include "document/text/comment_state.h"
 #include "document/text/disk_state.h"
 #include "document/text/dyn_array.h"
+#include "document/text/file_rules.h"
 #include "document/text/line_arena.h"
+#include "document/text/line_end.h"
 #include "document/text/marked_area.h"
 #include "document/text/text_writer.h"
 #include "document/text/undo_history.h"
@@ -23,12 +25,8 @@
 
 namespace vexa {
 
-// Limits of a load, all deliberate.
-inline constexpr std::int32_t kLineReadLimit = 299;     // characters read for one line, its line end counted
-inline constexpr std::int32_t kLastLoadedLine = 90000;  // index of the last line that one load keeps
-inline constexpr std::int32_t kLoadGrowth = 500;        // slots by which the lines grow during a load
-inline constexpr std::int32_t kNewDocumentLine = 200;   // index of a new document's only line
-inline constexpr std::int32_t kLastColumn = 300;        // the cursor goes no further right
+inline constexpr std::int32_t kLoadGrowth = 500;       // slots by which the lines grow during a load
+inline constexpr std::int32_t kNewDocumentLine = 200;  // index of a new document's only line
 
 // What the automatic backup remembers of a document.
 struct BackupState {
@@ -48,7 +46,8 @@ class TextDocument {
     // Replaces the text and history by those of the file at the path. False when it cannot be opened or read
     // to its end, or the path is empty; the document is then empty and not named, so that it cannot be saved over the
     // file.
-    bool load();
+    bool load() { return load(FileRules(options_.habits)); }
+    bool load(const FileRules& rules);
     // Writes the text to the path and forgets the history. False when the document is not named or the file could not
     // be written whole; the file's old contents are then as they were, and the document stays modified with its
     // history.
@@ -67,6 +66,8 @@ class TextDocument {
     // What is known of the file of this name.
     DiskState& disk() { return disk_; }
     const DiskState& disk() const { return disk_; }
+    // By which it was loaded or made.
+    const FileRules& rules() const { return rules_; }
     const std::string& fullPath() const { return path_; }
     const std::string& baseName() const { return baseName_; }
     bool isNamed() const { return named_; }
@@ -97,6 +98,9 @@ class TextDocument {
     // gets a line of its own first.
     TextLine& editableLine(LineIndex index);
     static LinePtr makeLine(std::string_view text);
+    // Of lines that keep their ends, as they were read, or last written or changed all at once.
+    LineEndStyle& lineEndStyle() { return lineEndStyle_; }
+    const LineEndStyle& lineEndStyle() const { return lineEndStyle_; }
     DynArray& lines() { return lines_; }
     const DynArray& lines() const { return lines_; }
 
@@ -143,12 +147,15 @@ class TextDocument {
     // Whether the document as it is would be written with other bytes than its file was loaded from.
     bool changesWhenWritten() const;
     void clearChangedLines();
+    void takeLineEnds(const LineEndTally& tally);
 
     const EditorOptions& options_;
     Notices& notices_;
     const ExtensionProfile* profile_ = nullptr;
     std::string path_;
     std::string baseName_;
+    FileRules rules_;
+    LineEndStyle lineEndStyle_;
     DiskState disk_;
     LineArena arena_;
     DynArray lines_;

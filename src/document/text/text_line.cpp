@@ -37,7 +37,7 @@ TextLine::TextLine(std::string_view text) {
     own[text.size()] = '\0';
     text_ = own;
     length_ = static_cast<std::uint32_t>(text.size());
-    ownsText_ = true;
+    ownsText_ = 1;
 }
 
 TextLine::~TextLine() {
@@ -53,15 +53,15 @@ std::size_t TextLine::capacity() const {
 
 // The text, to be written to, with room for that many characters and a NUL.
 char* TextLine::makeRoom(std::size_t length) {
-    commentEffectKnown = false;
-    isChanged_ = true;
+    commentEffectKnown_ = 0;
+    isChanged_ = 1;
     if (ownsText_ && length <= capacity()) return const_cast<char*>(text_);
     const std::size_t first = std::max<std::size_t>(length, length_) + kReserve;
     char* text = NewText(ownsText_ ? std::max(first, capacity() * 2) : first);
     std::memcpy(text, text_, length_ + 1);
     if (ownsText_) delete[] BlockOf(text_);
     text_ = text;
-    ownsText_ = true;
+    ownsText_ = 1;
     return text;
 }
 

@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "base/units.h"
+#include "document/text/line_end.h"
+#include "language/block_comment.h"
 
 namespace vexa {
 
@@ -24,7 +26,7 @@ class TextLine {
     TextLine() = default;
     explicit TextLine(std::string_view text);
     TextLine(const char* text, std::size_t length, InArena)
-        : text_(text), length_(static_cast<std::uint32_t>(length)), recordInArena_(true), isChanged_(false) {}
+        : text_(text), length_(static_cast<std::uint32_t>(length)), recordInArena_(1), isChanged_(0) {}
     ~TextLine();
     TextLine(const TextLine&) = delete;
     TextLine& operator=(const TextLine&) = delete;
@@ -32,10 +34,9 @@ class TextLine {
     std::string_view text() const { return {text_, length_}; }
     const char* c_str() const { return text_; }
     std::int32_t length() const { return static_cast<std::int32_t>(length_); }
-    bool isEmpty() const { return length_ == 0; }
     // Whether the text has been changed, or the line made, since the document was loaded or saved.
-    bool isChanged() const { return isChanged_; }
-    void clearChanged() { isChanged_ = false; }
+    bool isChanged() const { return isChanged_ != 0; }
+    void clearChanged() { isChanged_ = 0; }
 
     // Changes. Columns must not lie beyond the text's end. On std::bad_alloc the line is as it was.
     void insert(CharColumn column, char c);
@@ -46,15 +47,26 @@ class TextLine {
     void replaceRun(CharColumn column, std::int32_t count, std::string_view text);
     void truncate(CharColumn column);
 
-    CharColumn column() const { return CharColumn(column_); }
-    // Takes a column within the limits of the cursor (0 to kLastColumn).
-    void setColumn(CharColumn column) { column_ = static_cast<std::uint16_t>(column.value); }
+    // The last column that a line can keep.
+    static constexpr std::int32_t kLastColumn = (1 << 24) - 1;
+    CharColumn column() const { return CharColumn(static_cast<std::int32_t>(column_)); }
+    // Takes a column within the limits of the cursor.
+    void setColumn(CharColumn column) { column_ = static_cast<std::uint32_t>(column.value) & kLastColumn; }
 
-    // The state that syntax colouring keeps with a line; all clear at first. The line opens a block comment when,
-    // starting outside, it ends inside one; it closes one when, starting inside, it ends outside.
-    bool opensComment = false;
-    bool closesComment = false;
-    bool commentEffectKnown = false;  // the two above are those of the present text; any change of it clears this
+    LineEnd end() const { return static_cast<LineEnd>(end_); }
+    void setEnd(LineEnd end) { end_ = static_cast<std::uint32_t>(end) & 3; }
+    // Whether a file that keeps its line ends has anything of this line.
+    bool hasContents() const { return length_ != 0 || end_ != 0; }
+
+    // What syntax colouring knows of the text: what it does to a block comment. Any change of the text forgets it.
+    bool isCommentEffectKnown() const { return commentEffectKnown_ != 0; }
+    CommentEffect commentEffect() const { return {opensComment_ != 0, closesComment_ != 0}; }
+    void setCommentEffect(CommentEffect effect) {
+        opensComment_ = effect.opens;
+        closesComment_ = effect.closes;
+        commentEffectKnown_ = 1;
+    }
+    void forgetCommentEffect() { commentEffectKnown_ = 0; }
 
   private:
     friend struct LineDeleter;
@@ -63,10 +75,15 @@ class TextLine {
 
     const char* text_ = "";
     std::uint32_t length_ = 0;
-    std::uint16_t column_ = 0;
-    bool ownsText_ : 1 = false;
-    bool recordInArena_ : 1 = false;
-    bool isChanged_ : 1 = true;
+    // All in one word: a text may have millions of lines.
+    std::uint32_t column_ : 24 = 0;
+    std::uint32_t end_ : 2 = 0;
+    std::uint32_t opensComment_ : 1 = 0;
+    std::uint32_t closesComment_ : 1 = 0;
+    std::uint32_t commentEffectKnown_ : 1 = 0;
+    std::uint32_t ownsText_ : 1 = 0;
+    std::uint32_t recordInArena_ : 1 = 0;
+    std::uint32_t isChanged_ : 1 = 1;
 };
 
 // Ends a line's life; the memory of a record in an arena stays with the arena.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "base/strings.h"
 #include "document/text/text_document.h"
@@ -12,8 +13,8 @@ namespace vexa {
 namespace {
 
 constexpr std::size_t kBlock = std::size_t{1} << 20;
-// What must be in the block to cut a line: the characters of one read, a CR LF, and room for a NUL.
-constexpr std::size_t kLookAhead = kLineReadLimit + 3;
+// What must be in the block to cut a line of limited length: the characters of one read, a CR LF, and room for a NUL.
+constexpr std::size_t kLookAhead = Limits().lineRead + 3;
 // A line is not split after a blank that leaves only this many characters or fewer, the blank counted.
 constexpr std::size_t kShortestRest = 2;
 constexpr std::size_t kRestWithoutBlank = 5;
@@ -31,6 +32,7 @@ struct TextLoader::Cut {
     std::size_t length;   // characters of the line
     std::size_t lineEnd;  // bytes of the line end after them; 0 when it was not read or there is none
     bool tooLong;
+    LineEnd end;  // where it is kept
 };
 
 bool TextLoader::read(File& file) {
@@ -51,23 +53,27 @@ bool TextLoader::readLines() try {
             document_.disk_.checksum = checksum_.value();
             return true;
         }
-        if (lines_ > kLastLoadedLine) {
+        if (lines_ > rules_.limits.lastLoadedLine) {
             document_.notices().box(LoadText(TextId::FileTooLarge), TextId::ProgramCaption, BoxButtons::Ok);
             document_.truncated_ = true;
             return true;
         }
-        storeLine();
+        const std::optional<Cut> cut = wholeCut();
+        if (!cut) return false;
+        storeCut(*cut);
     }
 } catch (const std::bad_alloc&) {
     return false;
 }
 
-// Moves the unread rest of the block to a new one and fills that from the file.
+// Moves the unread rest of the block to a new one and fills that from the file. A line that is longer than a block has
+// the double room at each turn.
 bool TextLoader::refill() {
     const std::size_t rest = available();
     const std::uint64_t total = file_->size().value_or(kBlock);
     const std::uint64_t unread = total > bytesRead_ ? total - bytesRead_ : 0;  // a file may change meanwhile
-    const std::size_t size = rest + static_cast<std::size_t>(std::clamp<std::uint64_t>(unread, kLookAhead, kBlock));
+    const std::size_t size =
+        rest + static_cast<std::size_t>(std::clamp<std::uint64_t>(unread, kLookAhead, std::max(kBlock, rest)));
     char* block = arena_.allocateText(size + 1);
     if (rest > 0) std::memcpy(block, next_, rest);
     next_ = block;
@@ -81,6 +87,7 @@ bool TextLoader::refill() {
         end_ += *count;
     }
     noteRead(fresh);
+    cutter_ = LineCutter({next_, available()});
     return true;
 }
 
@@ -99,19 +106,35 @@ void TextLoader::noteLineEnd(const Cut& cut) {
     (isCrLf ? document_.disk_.lineEnds.crLf : document_.disk_.lineEnds.lf) = true;
 }
 
-TextLoader::Cut TextLoader::nextCut() const {
-    const std::size_t window = std::min<std::size_t>(available(), kLineReadLimit + 1);
+// What goes to the end of what has been read may go on after it, and a CR there may belong to an LF.
+std::optional<TextLoader::Cut> TextLoader::wholeCut() {
+    Cut cut = nextCut();
+    while (!cut.tooLong && cut.length + cut.lineEnd == available() && !endOfFile_) {
+        if (!refill()) return std::nullopt;
+        cut = nextCut();
+    }
+    return cut;
+}
+
+TextLoader::Cut TextLoader::nextCut() {
+    if (!rules_.keepsLineEnds) return limitedCut();
+    const CutLine line = cutter_.next();
+    return {line.length, BytesOf(line.end).size(), false, line.end};
+}
+
+TextLoader::Cut TextLoader::limitedCut() const {
+    const std::size_t limit = rules_.limits.lineRead;
+    const std::size_t window = std::min(available(), limit + 1);
     const char* feed = static_cast<const char*>(std::memchr(next_, '\n', window));
     std::size_t length = feed ? static_cast<std::size_t>(feed - next_) : available();
     const bool crBefore = feed && !bytes_ && length > 0 && next_[length - 1] == '\r';
     if (crBefore) --length;
-    if (length >= kLineReadLimit) return {kLineReadLimit, 0, true};
+    if (length >= limit) return {limit, 0, true, LineEnd::None};
     const std::size_t lineEnd = feed ? (crBefore ? 2 : 1) : 0;
-    return {length, lineEnd, length + (feed ? 1 : 0) >= kLineReadLimit};
+    return {length, lineEnd, length + (feed ? 1 : 0) >= limit, LineEnd::None};
 }
 
-void TextLoader::storeLine() {
-    const Cut cut = nextCut();
+void TextLoader::storeCut(const Cut& cut) {
     noteLineEnd(cut);
     if (cut.tooLong) {
         storeSplit(cut);
@@ -119,8 +142,9 @@ void TextLoader::storeLine() {
     }
     char* text = next_;
     next_ += cut.length + cut.lineEnd;
+    if (rules_.keepsLineEnds) cutter_.take({cut.length, cut.end});
     text[cut.length] = '\0';
-    store(text, cut.length);
+    store(text, cut.length, cut.end);
 }
 
 // The first part is copied, as its last character has no line end after it that a NUL could replace. The rest is
@@ -133,11 +157,14 @@ void TextLoader::storeSplit(const Cut& cut) {
     copy[split] = '\0';
     std::memmove(next_ + split + cut.lineEnd, next_ + split, cut.length - split);
     next_ += split + cut.lineEnd;
-    store(copy, split);
+    store(copy, split, LineEnd::None);
 }
 
-void TextLoader::store(const char* text, std::size_t length) {
-    document_.lines().put(LinePtr(arena_.makeLine(text, length)), lines_++);
+void TextLoader::store(const char* text, std::size_t length, LineEnd end) {
+    LinePtr line(arena_.makeLine(text, length));
+    line->setEnd(end);
+    tally_.add(end);
+    document_.lines().put(std::move(line), lines_++);
 }
 
 }  // namespace vexa

@@ -6,6 +6,7 @@
 #include "base/checksum.h"
 #include "base/file.h"
 #include "base/strings.h"
+#include "document/text/document_line_ends.h"
 #include "document/text/text_document.h"
 
 namespace vexa {
@@ -56,10 +57,15 @@ class BufferedOutput {
     bool good_ = true;
 };
 
-}  // namespace
+void PutAsKept(const TextDocument& document, BufferedOutput& output) {
+    const LineIndex last(document.lastLine(LastUsed::Text));
+    for (LineIndex i; i <= last; ++i) {
+        output.put(document.text(i));
+        output.put(BytesOf(LineEndAt(document, i, last)));
+    }
+}
 
-bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes) {
-    BufferedOutput output(sink);
+void PutUnified(const TextDocument& document, BufferedOutput& output, bool bytes) {
     const std::int32_t last = document.lastLine(LastUsed::Text);
     const bool endsInCtrlZ = bytes && document.text(LineIndex(last)).ends_with(kCtrlZ);
     for (LineIndex i; i.value <= last; ++i) {
@@ -69,6 +75,17 @@ bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes) 
         output.put('\n');
     }
     if (bytes && !endsInCtrlZ) output.put(kCtrlZ);
+}
+
+}  // namespace
+
+bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes) {
+    BufferedOutput output(sink);
+    if (document.rules().keepsLineEnds) {
+        PutAsKept(document, output);
+    } else {
+        PutUnified(document, output, bytes);
+    }
     return output.flush();
 }
 

@@ -17,8 +17,9 @@ class TextDocument;
 // Takes bytes; false when it has not taken them all.
 using ByteSink = std::function<bool(std::string_view)>;
 
-// Writes the lines up to the last that is not empty, each with its line end: CR LF as text; LF as bytes, and then a
-// Ctrl-Z after the last line, unless that ends in one already. False when the sink has not taken all of it.
+// Writes the lines up to the last that is not empty, each with its line end: that which is kept; else CR LF as text,
+// and LF as bytes, then a Ctrl-Z after the last line, unless that ends in one already. False when the sink has not
+// taken all of it.
 bool WriteLines(const TextDocument& document, const ByteSink& sink, bool bytes);
 
 enum class WriteResult {

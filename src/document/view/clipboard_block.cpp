@@ -1,8 +1,10 @@
 #include "document/view/clipboard_block.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/strings.h"
+#include "document/text/document_line_ends.h"
 #include "document/text/line_actions.h"
 #include "document/text/run_actions.h"
 #include "document/view/marked_text.h"
@@ -99,7 +101,7 @@ void ClipboardBlock::deleteMarkedForPaste() {
 void ClipboardBlock::insertLines(const std::vector<std::string_view>& texts, std::size_t first, std::size_t last) {
     if (first >= last) return;
     for (std::size_t i = last; i > first; --i)
-        editor_.run<InsertLine>(document_.makeLine(texts[i - 1]));
+        editor_.run<InsertLine>(NewLine(document_, texts[i - 1]));
     editor_.moveToLine(document_.currentLine() + (static_cast<std::int32_t>(last - first) - 1));
     editor_.cursorDown();
 }
@@ -151,9 +153,12 @@ void ClipboardBlock::splitAt(CharColumn column) {
     } else {
         const LineIndex line = document_.currentLine();
         const std::string rest(TextOf(document_, line, {column, editor_.textEnd()}));
+        LinePtr lower = TextDocument::makeLine(rest);
+        lower->setEnd(document_.current().end());
         editor_.deleteBetween(column, editor_.textEnd());
+        if (lower->end() != NewLineEnd(document_)) editor_.run<SetLineEnd>(line, NewLineEnd(document_));
         editor_.cursorDown();
-        editor_.run<InsertLine>(document_.makeLine(rest));
+        editor_.run<InsertLine>(std::move(lower));
     }
     editor_.moveToLineStart();
 }

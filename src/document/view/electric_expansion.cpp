@@ -127,7 +127,8 @@ std::vector<Piece> PiecesOf(std::string_view expansion) {
 }
 
 // Whether no line of the expansion, with the text after the cursor, goes beyond the last column.
-bool Fits(const std::vector<Piece>& pieces, std::size_t start, std::size_t indent, std::size_t rest, std::size_t tab) {
+bool Fits(const std::vector<Piece>& pieces, std::size_t start, std::size_t indent, std::size_t rest, std::size_t tab,
+          std::int32_t lastColumn) {
     std::size_t end = start;
     std::size_t widest = start;
     for (const Piece& piece : pieces) {
@@ -135,7 +136,7 @@ bool Fits(const std::vector<Piece>& pieces, std::size_t start, std::size_t inden
             piece.kind == PieceKind::NewLine ? indent : end + (piece.kind == PieceKind::Tab ? tab : piece.text.size());
         widest = std::max(widest, end);
     }
-    return std::max(widest, end + rest) < static_cast<std::size_t>(kLastColumn);
+    return std::max(widest, end + rest) < static_cast<std::size_t>(lastColumn);
 }
 
 class Expander {
@@ -216,7 +217,8 @@ bool ExpandElectricWord(TextDocument& document, LineEditor& editor, const Electr
     const std::vector<Piece> pieces = PiecesOf(entry->expansion);
     const std::string indent(IndentOf(text.substr(0, start)));
     const auto tab = static_cast<std::size_t>(document.tabSize());
-    if (!Fits(pieces, start, indent.size(), text.size() - column, tab)) return false;
+    if (!Fits(pieces, start, indent.size(), text.size() - column, tab, document.rules().limits.lastColumn))
+        return false;
     editor.moveToColumn(CharColumn(static_cast<std::int32_t>(start)));
     editor.deleteInLine(static_cast<std::int32_t>(entry->keyword.size()));
     Expander(document, editor, indent).expand(pieces);

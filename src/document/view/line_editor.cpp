@@ -76,7 +76,7 @@ void LineEditor::typeBlanks(char blank, std::int32_t n) {
 // where the one before it has left the cursor.
 void LineEditor::insertText(std::string_view text) {
     const auto length = static_cast<std::int32_t>(text.size());
-    if (length > 1 && document_.column() + length <= CharColumn(kLastColumn)) {
+    if (length > 1 && document_.column() + length <= CharColumn(document_.rules().limits.lastColumn)) {
         run<ReplaceRun>(0, text);
         moveRight(length);
         return;
@@ -190,17 +190,12 @@ void LineEditor::splitLine() {
 
 void LineEditor::breakLine() {
     const CharColumn column = document_.column();
-    if (column < textEnd()) {
-        if (column.value == 0) {
-            run<InsertEmptyLine>();
-        } else {
-            splitLine();
-        }
-        cursorDown();
-    } else {
-        cursorDown();
+    if (column.value == 0 && column < textEnd()) {
         run<InsertEmptyLine>();
+    } else {
+        splitLine();
     }
+    cursorDown();
     moveToLineStart();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/strings.h"
+#include "document/text/document_line_ends.h"
 #include "document/text/line_actions.h"
 #include "document/text/run_actions.h"
 #include "document/view/line_editor.h"
@@ -31,6 +32,12 @@ Difference DifferenceOf(const LineViews& was, const LineViews& becomes) {
     return part;
 }
 
+LinePtr LineOf(const TextDocument& document, const LineView& view) {
+    LinePtr line = TextDocument::makeLine(view);
+    if (document.rules().keepsLineEnds) line->setEnd(view.end);
+    return line;
+}
+
 // Tells whoever goes back beyond the reading.
 class FileWasReadAnew : public EditAction {
   public:
@@ -45,9 +52,9 @@ class FileWasReadAnew : public EditAction {
 
 LineViews LinesOf(const TextDocument& document) {
     LineViews lines;
-    const std::int32_t last = document.lastLine(LastUsed::Text);
-    for (LineIndex i; i.value <= last; ++i)
-        lines.push_back(document.text(i));
+    const LineIndex last(document.lastLine(LastUsed::Text));
+    for (LineIndex i; i <= last; ++i)
+        lines.push_back({document.text(i), LineEndAt(document, i, last)});
     return lines;
 }
 
@@ -57,9 +64,12 @@ void ExchangeText(TextDocument& document, const LineViews& lines) {
     const Difference part = DifferenceOf(LinesOf(document), lines);
     LineIndex line(part.begin);
     const auto next = [&] { return lines[static_cast<std::size_t>(line.value)]; };
+    const bool keepsEnds = document.rules().keepsLineEnds;
     for (; line.value < std::min(part.oldEnd, part.newEnd); ++line) {
+        const std::string_view text = next();
         const auto length = static_cast<std::int32_t>(document.text(line).size());
-        if (document.text(line) != next()) editor.run<ReplaceRun>(line, CharColumn(0), length, next());
+        if (document.text(line) != text) editor.run<ReplaceRun>(line, CharColumn(0), length, text);
+        if (keepsEnds && document.line(line)->end() != next().end) editor.run<SetLineEnd>(line, next().end);
     }
     if (part.oldEnd == part.newEnd) return;
     document.editableLine(line);  // the cursor can go there only when there is a line
@@ -67,14 +77,14 @@ void ExchangeText(TextDocument& document, const LineViews& lines) {
     for (std::int32_t count = part.newEnd; count < part.oldEnd; ++count)
         editor.run<DeleteLine>();
     for (line = LineIndex(part.newEnd - 1); line.value >= part.oldEnd; line = line - 1)
-        editor.run<InsertLine>(TextDocument::makeLine(next()));
+        editor.run<InsertLine>(LineOf(document, next()));
     editor.moveToLine(caret);
 }
 
 bool ReadAnew(TextDocument& document) {
     TextDocument read(document.options(), document.notices());
     read.setName(document.fullPath());
-    if (!read.load()) return false;
+    if (!read.load(document.rules())) return false;
     document.history().nextGroup();
     ExchangeText(document, LinesOf(read));
     LineEditor(document).run<FileWasReadAnew>();

@@ -9,10 +9,17 @@
 
 namespace vexa {
 
-// Lines of a text whose bytes belong to somebody else.
-using LineViews = std::vector<std::string_view>;
+// A line of a text whose bytes belong to somebody else.
+struct LineView : std::string_view {
+    using std::string_view::string_view;
+    LineView(std::string_view text, LineEnd lineEnd = LineEnd::CrLf) : std::string_view(text), end(lineEnd) {}
+    bool operator==(const LineView&) const = default;
 
-// Up to the last line that is not empty, as a save writes them; the first is always there.
+    LineEnd end = LineEnd::CrLf;  // CR LF where ends are not kept
+};
+using LineViews = std::vector<LineView>;
+
+// Up to the last line that a save writes; the first is always there.
 LineViews LinesOf(const TextDocument& document);
 
 // The caret keeps its line, and so does a bookmark. The caller closes the undo group. std::bad_alloc, and what has been

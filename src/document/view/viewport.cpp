@@ -14,7 +14,7 @@ LineIndex Viewport::lastLine() const {
 }
 
 DisplayColumn Viewport::widestColumn() const {
-    DisplayColumn widest(kLastColumn);
+    DisplayColumn widest(Limits().lastColumn);
     for (std::int32_t row = 0; row <= rows_; ++row) {
         const auto length = static_cast<std::int32_t>(document_.text(top_ + row).size());
         widest = std::max(widest, document_.toDisplay(top_ + row, CharColumn(length)));

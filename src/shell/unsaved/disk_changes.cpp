@@ -87,7 +87,7 @@ void DiskChanges::showDifferences(TextDocument& document) {
     LookAgain(document);
     TextDocument theirs(document.options(), notices_);
     theirs.setName(document.fullPath());
-    if (!theirs.load()) return;
+    if (!theirs.load(document.rules())) return;
     std::vector<std::string> rows = LineDifferences(LinesOf(document), LinesOf(theirs), kMostRows);
     rows.insert(rows.begin(), FillText(TextId::DifferencesOf, {document.fullPath()}));
     view_.showRows(document, rows);

@@ -7,6 +7,7 @@
 #include "base/file.h"
 #include "base/file_contents.h"
 #include "base/file_name.h"
+#include "document/text/document_line_ends.h"
 
 namespace vexa {
 
@@ -19,13 +20,33 @@ constexpr std::string_view kCtrlZ = "\x1A";
 std::uint64_t ChecksumWhenSaved(const LineViews& lines, bool bytes) {
     Checksum checksum;
     const bool endsInCtrlZ = lines.back().ends_with(kCtrlZ);
-    for (const std::string_view& line : lines) {
+    for (const LineView& line : lines) {
         checksum.add(line);
         const bool isLast = &line == &lines.back();
         if (!(bytes && isLast && endsInCtrlZ)) checksum.add(bytes ? "\n" : "\r\n");
     }
     if (bytes && !endsInCtrlZ) checksum.add(kCtrlZ);
     return checksum.value();
+}
+
+LineViews LinesBeforeLf(std::string_view rest) {
+    LineViews lines;
+    do {
+        const std::size_t length = std::min(rest.find('\n'), rest.size());
+        lines.push_back(rest.substr(0, length));
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    } while (!rest.empty());
+    return lines;
+}
+
+LineViews LinesWithEnds(std::string_view text) {
+    LineViews lines;
+    LineCutter cutter(text);
+    do {
+        const CutLine line = cutter.next();
+        lines.push_back({cutter.take(line), line.end});
+    } while (!cutter.isAtEnd());
+    return lines;
 }
 
 }  // namespace
@@ -38,10 +59,15 @@ std::string RecoveryBeginning(const TextDocument& document) {
     if (disk.facts) head.fileSize = disk.facts->stamp.size;
     if (disk.facts) head.fileWriteTime = disk.facts->stamp.writeTime;
     head.caretLine = document.currentLine().value;
+    head.keepsLineEnds = document.rules().keepsLineEnds;
     head.pathLength = static_cast<std::uint32_t>(document.fullPath().size());
     std::string bytes(sizeof head, '\0');
     std::memcpy(bytes.data(), &head, sizeof head);
     return bytes += document.fullPath();
+}
+
+std::string_view RecoveredLineEnd(const TextDocument& document, LineIndex line, LineIndex last) {
+    return document.rules().keepsLineEnds ? BytesOf(LineEndAt(document, line, last)) : "\n";
 }
 
 void SealRecovery(std::string& bytes, std::uint64_t checksum) {
@@ -49,15 +75,7 @@ void SealRecovery(std::string& bytes, std::uint64_t checksum) {
 }
 
 LineViews RecoveredText::lines() const {
-    LineViews lines;
-    std::string_view rest = bytes;
-    rest.remove_prefix(sizeof(RecoveryHead) + head.pathLength);
-    do {
-        const std::size_t length = std::min(rest.find('\n'), rest.size());
-        lines.push_back(rest.substr(0, length));
-        rest.remove_prefix(std::min(length + 1, rest.size()));
-    } while (!rest.empty());
-    return lines;
+    return head.keepsLineEnds ? LinesWithEnds(text()) : LinesBeforeLf(text());
 }
 
 std::optional<RecoveredText> ReadRecoveryText(std::string bytes) {
@@ -80,6 +98,7 @@ bool IsTextOfFile(const RecoveredText& recovered) {
     const std::string path = recovered.path();
     const auto contents = IsFullName(path) ? ContentsOf(path) : std::nullopt;
     if (!contents) return false;
+    if (recovered.head.keepsLineEnds) return contents->checksum == ChecksumOf(recovered.text());
     const LineViews lines = recovered.lines();
     return contents->checksum == ChecksumWhenSaved(lines, false) ||
            contents->checksum == ChecksumWhenSaved(lines, true);

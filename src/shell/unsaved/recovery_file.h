@@ -1,7 +1,8 @@
 // What a recovery file holds: the text of one document that has not been saved, and which file it belongs to.
 //
 // A head of fixed length, whose checksum counts all that follows it, then the document's path, then the lines, each
-// with LF behind it. Each file tells all about itself, so no list of them can be out of step with what is there.
+// with LF behind it, or with its own end where the document keeps these. Each file tells all about itself, so no list
+// of them can be out of step with what is there.
 #pragma once
 
 #include <cstdint>
@@ -26,11 +27,13 @@ struct RecoveryHead {
     std::uint32_t isFileKnown = 0;
     std::int32_t caretLine = 0;
     std::uint32_t pathLength = 0;
-    std::uint32_t unused = 0;
+    std::uint32_t keepsLineEnds = 0;
 };
 
 // The beginning of a document's recovery file, before its lines: the head, without its checksum, and the path.
 std::string RecoveryBeginning(const TextDocument& document);
+// What it has behind a line of a text that goes as far as the last line.
+std::string_view RecoveredLineEnd(const TextDocument& document, LineIndex line, LineIndex last);
 // Puts the checksum into the head of a file that is all there.
 void SealRecovery(std::string& bytes, std::uint64_t checksum);
 // What of a file's beginning the checksum does not count.
@@ -43,7 +46,8 @@ struct RecoveredText {
 
     // No full name for a document that was never saved.
     std::string path() const { return bytes.substr(sizeof(RecoveryHead), head.pathLength); }
-    // Without the line end of the last one; valid as long as this is.
+    std::string_view text() const { return std::string_view(bytes).substr(sizeof(RecoveryHead) + head.pathLength); }
+    // Valid as long as this is.
     LineViews lines() const;
 };
 

@@ -36,14 +36,14 @@ RecoveryJob::State RecoveryJob::copyLines() {
     if (revision_ != document_.revision()) begin();
     std::string part;
     const std::size_t limit = beginnings_ < kMostBeginnings ? kPart : part.max_size();
-    const std::int32_t last = document_.lastLine(LastUsed::Text);
-    for (; line_.value <= last && part.size() < limit; ++line_) {
+    const LineIndex last(document_.lastLine(LastUsed::Text));
+    for (; line_ <= last && part.size() < limit; ++line_) {
         part += document_.text(line_);
-        part += '\n';
+        part += RecoveredLineEnd(document_, line_, last);
     }
     checksum_.add(part);
     parts_.push_back(std::move(part));
-    if (line_.value <= last) return State::Working;
+    if (line_ <= last) return State::Working;
     SealRecovery(parts_[0], checksum_.value());
     next_ = &RecoveryJob::writePart;
     return State::Working;

@@ -1,7 +1,14 @@
 #include "ui/frame/status_panes.h"
 
+#include "document/text/document_line_ends.h"
+
 namespace vexa {
 namespace {
+
+std::string_view LineEndsOf(const TextDocument& document) {
+    if (!document.rules().keepsLineEnds) return document.options().FileWrite ? "LF" : "CRLF";
+    return document.lineEndStyle().isMixed ? "Mixed" : NameOf(document.lineEndStyle().common);
+}
 
 struct DocumentPane {
     StatusPane pane;
@@ -13,8 +20,7 @@ struct DocumentPane {
 constexpr DocumentPane kDocumentPanes[] = {
     {kReadOnlyPane, "Read only",
      [](const DocumentWindow& w) { return std::string(w.isReadOnly() ? "Read only" : ""); }},
-    {kLineEndsPane, "CRLF",
-     [](const DocumentWindow& w) { return std::string(w.document().options().FileWrite ? "LF" : "CRLF"); }},
+    {kLineEndsPane, "Mixed", [](const DocumentWindow& w) { return std::string(LineEndsOf(w.document())); }},
     {kModePane, "OVR", [](const DocumentWindow& w) { return std::string(w.view().modeText()); }},
     {kPositionPane, " L:00000 C:000", [](const DocumentWindow& w) { return w.view().positionText(); }},
 };
@@ -32,6 +38,20 @@ std::vector<std::string> WidestPaneTexts() {
 void ShowDocumentPanes(StatusBarCL& bar, const DocumentWindow* window) {
     for (const DocumentPane& row : kDocumentPanes)
         bar.setPane(row.pane, window ? row.textOf(*window) : std::string());
+}
+
+void SwitchInsertMode(DocumentWindow& /*window*/, EditorOptions& options) {
+    options.InsertMode = !options.InsertMode;
+}
+
+void SwitchLineEnds(DocumentWindow& window, EditorOptions& options) {
+    const TextDocument& document = window.document();
+    if (document.rules().keepsLineEnds) {
+        window.view().editor().run<UnifyLineEnds>(OtherLineEnd(document.lineEndStyle()));
+        window.view().finish();
+    } else {
+        options.FileWrite = !options.FileWrite;
+    }
 }
 
 void ShowRecordingPane(StatusBarCL& bar, bool isRecording) {

@@ -22,6 +22,11 @@ enum StatusPane : std::size_t {
 std::vector<std::string> WidestPaneTexts();
 // With no document the panes are empty.
 void ShowDocumentPanes(StatusBarCL& bar, const DocumentWindow* window);
+// What a click on a pane does to the active document or to the options.
+using PaneUse = void(DocumentWindow& window, EditorOptions& options);
+void SwitchInsertMode(DocumentWindow& window, EditorOptions& options);
+// Ends that the document keeps are changed all at once; all others are as the option says.
+void SwitchLineEnds(DocumentWindow& window, EditorOptions& options);
 void ShowRecordingPane(StatusBarCL& bar, bool isRecording);
 
 }  // namespace vexa

@@ -66,8 +66,8 @@ bool VexaFrame::onCreate() {
     if (!bars_.open(window()) || !openClient(windowMenu)) return false;
     StatusBarCL& panes = bars_.statusBar();
     panes.setPaneAction(kPositionPane, [this] { runCommand(static_cast<WORD>(CommandId::GotoLine), false); });
-    panes.setPaneAction(kModePane, [this] { switchOption(&EditorOptions::InsertMode); });
-    panes.setPaneAction(kLineEndsPane, [this] { switchOption(&EditorOptions::FileWrite); });
+    panes.setPaneAction(kModePane, [this] { usePane(SwitchInsertMode); });
+    panes.setPaneAction(kLineEndsPane, [this] { usePane(SwitchLineEnds); });
     return true;
 }
 
@@ -190,12 +190,12 @@ void VexaFrame::runCommand(WORD id, bool fromKey) {
 }
 
 // What the mouse does here no macro holds.
-void VexaFrame::switchOption(bool EditorOptions::*option) {
+void VexaFrame::usePane(PaneUse* use) {
     DocumentWindow* active = documents_.active();
     if (!active) return;
     notices_.clearStatus();
     commands_.macro().refuseStep();
-    application_.options.*option = !(application_.options.*option);
+    use(*active, application_.options);
     active->refresh();
 }
 

@@ -19,6 +19,7 @@
 #include "ui/frame/open_documents.h"
 #include "ui/frame/outside_files.h"
 #include "ui/frame/session.h"
+#include "ui/frame/status_panes.h"
 #include "ui/frame/unsaved_work.h"
 
 namespace vexa {
@@ -67,7 +68,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
 
   private:
     void takeSystemSettings();
-    void switchOption(bool EditorOptions::*option);
+    void usePane(PaneUse* use);
 
     // ---- what the documents' windows tell and ask ----
 
