@@ -63,6 +63,14 @@ void RegisterLoads(const std::string& corpus, const std::string& file) {
         add("vexa", [=](benchmark::State& state) {
             MeasureLoad(state, heap, [&] { return std::make_unique<Session>(file); });
         });
+        add("vexa_kept", [=](benchmark::State& state) {
+            MeasureLoad(state, heap, [&] {
+                auto session = std::make_unique<Session>();
+                session->options.habits.keepFiles = session->options.habits.largeFiles = true;
+                session->load(file);
+                return session;
+            });
+        });
         add("qscintilla", [=](benchmark::State& state) { LoadScintilla(state, heap, file); });
         add("lines",
             [=](benchmark::State& state) { MeasureLoad(state, heap, [&] { return ReadLines(HostPathOf(file)); }); });

@@ -15,6 +15,12 @@ UNITS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}  # in nanoseconds
 BARS = [
     ("load/C/vexa", "load/C/qscintilla", 1),
     ("load/C/vexa", "load/C/lines", 2),
+    ("load/C/vexa_kept", "load/C/vexa", 1.1),
+    ("load_warm/C/vexa_kept", "load_warm/C/vexa", 1.1),
+    ("type_painted/1000000", 16e6, 1),
+    ("page_painted/3000000_lines", 16e6, 1),
+    ("end_painted/3000000_lines", 16e6, 1),
+    ("enter_painted/3000000_lines", 16e6, 1),
     ("load/WIDE/vexa", "load/WIDE/qscintilla", 1),
     ("load/WIDE/vexa", "load/WIDE/lines", 2),
     ("load_warm/C/vexa", "load_warm/C/lines", 2),

@@ -1,5 +1,7 @@
 #include "framework/status_bar.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "framework/dpi.h"
@@ -94,9 +96,11 @@ void StatusBarCL::refreshFont() {
 }
 
 void StatusBarCL::setPane(std::size_t pane, const std::string& text, bool highlighted) {
-    const bool comesOrGoes = panes_[pane]->text().empty() != text.empty();
+    const std::size_t widest = pane > 0 ? widestTexts_[pane - 1].size() : SIZE_MAX;
+    const auto room = [widest](std::size_t size) { return size == 0 ? 0 : std::max(size, widest); };
+    const bool needsOtherRoom = room(panes_[pane]->text().size()) != room(text.size());
     panes_[pane]->show(text, highlighted);
-    if (comesOrGoes) layOut();
+    if (needsOtherRoom) layOut();
 }
 
 void StatusBarCL::setPaneAction(std::size_t pane, std::function<void()> action) {
@@ -113,8 +117,10 @@ void StatusBarCL::layOut() {
     const int margins = 2 * Scaled(kTextMargin, DpiOf(window())) + gap_;
     LONG right = client.right - gap_;
     for (std::size_t i = widestTexts_.size(); i > 0; --i) {
-        const bool isEmpty = panes_[i]->text().empty();
-        const LONG left = isEmpty ? right : right - TextWidth(window(), font_.get(), widestTexts_[i - 1]) - margins;
+        const std::string text = panes_[i]->text();
+        const bool isEmpty = text.empty();
+        const std::string& widest = text.size() > widestTexts_[i - 1].size() ? text : widestTexts_[i - 1];
+        const LONG left = isEmpty ? right : right - TextWidth(window(), font_.get(), widest) - margins;
         panes_[i]->place({left, gap_, right, client.bottom - gap_});
         if (!isEmpty) right = left - gap_;
     }

@@ -36,7 +36,7 @@ bool FileCommands::open(TextDocument& document, const std::optional<std::string>
     takeProfile(document);
     if (!opened) {
         notices_.status(FillText(TextId::UnexpectedError, {"VXEPAN01", "2562"}), true, true);
-        notices_.box(FillText(TextId::CannotOpenFile, {document.baseName()}), TextId::ErrorCaption, BoxButtons::Ok);
+        notices_.box(FillText(document.loadFailure(), {document.baseName()}), TextId::ErrorCaption, BoxButtons::Ok);
         return false;
     }
     const std::string notice = OpenedNotice(document);

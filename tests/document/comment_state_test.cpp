@@ -126,6 +126,21 @@ TEST_F(CommentLines, AnotherProfileMakesOtherComments) {
     EXPECT_FALSE(inside(100));
 }
 
+TEST_F(CommentLines, InALargeFileAFarLineIsKnownOnlyAfterTheIdleSteps) {
+    for (const bool isLarge : {false, true}) {
+        options_.habits.largeFiles = isLarge;
+        fill(60'000);
+        setText(0, "/*");
+        EXPECT_EQ(inside(59'000), !isLarge);
+        EXPECT_FALSE(document_.takeGuessedComments());
+        while (document_.lookAheadForComments(5000)) {
+        }
+        EXPECT_EQ(document_.takeGuessedComments(), isLarge);
+        EXPECT_FALSE(document_.takeGuessedComments());
+        EXPECT_TRUE(inside(59'000));
+    }
+}
+
 TEST_F(CommentLines, WithoutAProfileOrAnEndMarkerNothingSpansLines) {
     fill(3, "/* x");
     EXPECT_TRUE(inside(2));

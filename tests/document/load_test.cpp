@@ -205,6 +205,27 @@ TEST_F(Load, ExactlyTheLimitOfLinesIsWhole) {
     EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(TextId::FileTooLarge)), "Vexa 95", BoxButtons::Ok}));
 }
 
+TEST_F(Load, LargeFilesAreReadWholeByChoice) {
+    options_.habits.largeFiles = true;
+    std::string file = std::string(3'000'000, 'a') + "\r\n";
+    for (int i = 0; i < 90'001; ++i)
+        file += "x\n";
+    ASSERT_TRUE(load(file + "y"));
+    EXPECT_FALSE(document_.isTruncated() || document_.areLinesWrapped());
+    EXPECT_TRUE(notices_.boxes.empty());
+    EXPECT_EQ(document_.text(LineIndex(0)).size(), 3'000'000u);
+    EXPECT_EQ(text(90'002), "y");
+    for (const std::int32_t column : {2'000'000, TextLine::kLastColumn}) {
+        view_.goTo(LineIndex(0), CharColumn(column));
+        EXPECT_EQ(document_.column(), CharColumn(column));
+    }
+    File huge(disk_.path("HUGE.BIN"), platform::OpenMode::CreateAlways);
+    ASSERT_TRUE(huge.seek((std::uint64_t{512} << 20) + 1) && huge.endHere() && huge.close());
+    document_.setName(disk_.path("HUGE.BIN"));
+    EXPECT_FALSE(document_.load());
+    EXPECT_EQ(document_.loadFailure(), TextId::FileTooLargeToOpen);
+}
+
 TEST_F(Load, TheStoreGrowsInLargeStepsDuringALoadOnly) {
     std::string file;
     for (int i = 0; i < 11; ++i)

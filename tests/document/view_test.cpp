@@ -2,6 +2,7 @@
 // scripts/.
 #include "base/config_store.h"
 #include "document/replay_case.h"
+#include "document/text/columns.h"
 #include "document/view/bookmark_model.h"
 #include "document/view/edit_view.h"
 #include "document/view/goto_line_model.h"
@@ -220,6 +221,22 @@ const Verbs<ViewStage> kVerbs = {
 };
 
 VEXA_SCRIPTS(View, kFiles, ViewStage, kVerbs);
+
+TEST(Columns, AreCountedCharacterByCharacter) {
+    for (unsigned seed = 0; seed < 200; ++seed) {
+        std::string text(seed, 'a');
+        for (std::size_t i = seed % 5; i < text.size(); i += 1 + seed % 11)
+            text[i] = "\t\x08\x0A\x89\x00\x09\xFF"[i % 7];
+        std::int32_t display = 0;
+        for (std::size_t i = 0; i <= text.size() + 2; ++i) {
+            const CharColumn column(static_cast<std::int32_t>(i));
+            const std::int32_t next = i < text.size() && text[i] == '\t' ? (display / 8 + 1) * 8 : display + 1;
+            ASSERT_EQ(ToDisplay(text, column, 8), DisplayColumn(display)) << seed;
+            for (; display < next; ++display)
+                ASSERT_EQ(ToCharacter(text, DisplayColumn(display), 8), column) << seed;
+        }
+    }
+}
 
 }  // namespace
 }  // namespace vexa::test

@@ -96,7 +96,8 @@ Told SetOption(DocumentStage& stage, Words words) {
     ConfigStore store(stage.disk.path("OPTION.INI"));
     stage.options.Save(store);
     const std::string name = words.word();
-    store.WriteInt("Editor Options", name.c_str(), words.number());
+    const char* section = name == "KeepFiles" ? "Extended" : "Editor Options";
+    store.WriteInt(section, name.c_str(), words.number());
     stage.options.Load(store);
     return stage.disk.remove("OPTION.INI"), Told();
 }

@@ -1,6 +1,7 @@
 #include "document/text/comment_state.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "document/text/dyn_array.h"
 #include "language/block_comment.h"
@@ -18,6 +19,7 @@ void CommentState::setRules(const TokenRules* rules) {
 void CommentState::reset() {
     checkpoints_.resize(1);
     touched_ = -1;
+    hasGuessed_ = false;
 }
 
 void CommentState::forgetBelow(std::int32_t line) {
@@ -29,7 +31,7 @@ void CommentState::forgetBelow(std::int32_t line) {
 bool CommentState::refreshEffect(TextLine& line) const {
     if (line.isCommentEffectKnown()) return false;
     const CommentEffect old = line.commentEffect();
-    const CommentEffect now = CommentEffectOf(*rules_, line.text());
+    const CommentEffect now = CommentEffectOf(*rules_, line.text().substr(0, limits_.colouredLength));
     line.setCommentEffect(now);
     return now != old;
 }
@@ -67,6 +69,10 @@ bool CommentState::startsInside(LineIndex line) {
     catchUp();
     const std::int32_t target = std::min(line.value, lines_.lastUsed(LastUsed::Plain) + 1);
     const auto checkpoint = static_cast<std::size_t>(target / kCheckpointStep);
+    if (checkpoint > checkpoints_.size() + static_cast<std::size_t>(limits_.commentLines / kCheckpointStep)) {
+        hasGuessed_ = true;
+        return false;
+    }
     while (checkpoints_.size() <= checkpoint)
         addCheckpoint();
     bool inside = checkpoints_[checkpoint];
@@ -86,6 +92,10 @@ bool CommentState::advance(std::int32_t lines) {
     for (; lines > 0 && !isComplete(); lines -= kCheckpointStep)
         addCheckpoint();
     return !isComplete();
+}
+
+bool CommentState::takeGuessed() {
+    return isComplete() && std::exchange(hasGuessed_, false);
 }
 
 }  // namespace vexa

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/limits.h"
 #include "base/units.h"
 #include "language/token_rules.h"
 
@@ -20,7 +21,7 @@ class CommentState {
   public:
     static constexpr std::int32_t kCheckpointStep = 64;  // lines
 
-    explicit CommentState(DynArray& lines) : lines_(lines) {}
+    CommentState(DynArray& lines, const Limits& limits) : lines_(lines), limits_(limits) {}
 
     // Other rules: everything is to be found out again. None: nothing is a comment. They must outlive this.
     void setRules(const TokenRules* rules);
@@ -29,9 +30,12 @@ class CommentState {
     // The text of the line may change from now until another line is touched.
     void touch(LineIndex line);
 
+    // A line that more lines than the limit must be gone through for is taken to start outside for now.
     bool startsInside(LineIndex line);
     // Goes on towards the document's end by at most that many lines; false when there is nothing left to do.
     bool advance(std::int32_t lines);
+    // Whether any line has been taken for something since this was last asked, and all are known by now.
+    bool takeGuessed();
 
   private:
     void catchUp();
@@ -42,9 +46,11 @@ class CommentState {
     bool refreshEffect(TextLine& line) const;
 
     DynArray& lines_;
+    const Limits& limits_;
     const TokenRules* rules_ = nullptr;
     std::vector<bool> checkpoints_{false};  // whether each line at a multiple of the step starts inside a comment
     std::int32_t touched_ = -1;             // the line that touch() named last; -1 for none
+    bool hasGuessed_ = false;
 };
 
 }  // namespace vexa

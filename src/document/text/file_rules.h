@@ -10,6 +10,7 @@ namespace vexa {
 struct FileRules {
     FileRules() = default;
     explicit FileRules(const Habits& habits) : keepsLineEnds(habits.keepFiles) {
+        if (habits.largeFiles) limits = kWideLimits;
         // What is split at reading could not be written as it was.
         if (keepsLineEnds) limits.lineRead = kAnyLength;
     }

@@ -66,6 +66,7 @@ bool TextDocument::load(const FileRules& rules) {
     // As they are before the reading: what another program writes meanwhile is then a change.
     const auto facts = platform::FactsOf(path_);
     disk_ = {};
+    loadFailure_ = TextId::CannotOpenFile;
     File file;
     if (!path_.empty()) file = File(path_, platform::OpenMode::Read);
     TextLoader loader(*this, arena_, rules_, options_.FileWrite);

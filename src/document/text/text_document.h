@@ -9,6 +9,7 @@
 
 #include "base/editor_options.h"
 #include "base/notices.h"
+#include "base/strings.h"
 #include "base/units.h"
 #include "document/text/bookmarks.h"
 #include "document/text/comment_state.h"
@@ -68,6 +69,8 @@ class TextDocument {
     const DiskState& disk() const { return disk_; }
     // By which it was loaded or made.
     const FileRules& rules() const { return rules_; }
+    // Why the last load has failed.
+    TextId loadFailure() const { return loadFailure_; }
     const std::string& fullPath() const { return path_; }
     const std::string& baseName() const { return baseName_; }
     bool isNamed() const { return named_; }
@@ -112,6 +115,8 @@ class TextDocument {
     // Finds out about the comments of lines that are not shown yet, at most that many; false when all are known. To be
     // called while the user does nothing.
     bool lookAheadForComments(std::int32_t lines) { return comments_.advance(lines); }
+    // Whether lines have been shown as outside a comment of which that is known only now.
+    bool takeGuessedComments() { return comments_.takeGuessed(); }
 
     // ---- cursor ----
 
@@ -155,12 +160,13 @@ class TextDocument {
     std::string path_;
     std::string baseName_;
     FileRules rules_;
+    TextId loadFailure_ = TextId::CannotOpenFile;
     LineEndStyle lineEndStyle_;
     DiskState disk_;
     LineArena arena_;
     DynArray lines_;
     std::unique_ptr<const TokenRules> tokenRules_;
-    mutable CommentState comments_{lines_};  // fills itself in when it is asked
+    mutable CommentState comments_{lines_, rules_.limits};  // fills itself in when it is asked
     UndoHistory history_;
     MarkedArea marked_;
     Bookmarks bookmarks_;

@@ -4,7 +4,11 @@
 #include <cstring>
 #include <utility>
 
+#include "base/limits.h"
+
 namespace vexa {
+
+static_assert(kWideLimits.lastColumn <= TextLine::kLastColumn);
 
 namespace {
 

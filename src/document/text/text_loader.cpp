@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/strings.h"
+#include "document/text/memory_room.h"
 #include "document/text/text_document.h"
 
 namespace vexa {
@@ -39,11 +40,25 @@ bool TextLoader::read(File& file) {
     file_ = &file;
     const std::int32_t growBy = document_.lines().growBy();
     document_.lines().setGrowBy(kLoadGrowth);
-    const bool complete = readLines();
+    const bool complete = mayBeWhole() && readLines();
     document_.lines().setGrowBy(growBy);
     if (complete && document_.linesWrapped_)
         document_.notices().box(LoadText(TextId::LinesWrapped), TextId::ProgramCaption, BoxButtons::Ok);
     return complete;
+}
+
+bool TextLoader::fail(TextId why) {
+    document_.loadFailure_ = why;
+    return false;
+}
+
+// A text takes its bytes, the records of its lines and room for other work. What begins to be loaded all the same and
+// does not find memory has told the user so by then.
+bool TextLoader::mayBeWhole() {
+    constexpr std::uint64_t kSmall = std::uint64_t{1} << 25;
+    const std::uint64_t size = rules_.limits.wholeFile > 0 ? file_->size().value_or(0) : 0;
+    if (size > rules_.limits.wholeFile) return fail(TextId::FileTooLargeToOpen);
+    return size < kSmall || HasRoomFor(2 * size, kBlock) || fail(TextId::NoMemoryToOpen);
 }
 
 bool TextLoader::readLines() try {
@@ -74,6 +89,7 @@ bool TextLoader::refill() {
     const std::uint64_t unread = total > bytesRead_ ? total - bytesRead_ : 0;  // a file may change meanwhile
     const std::size_t size =
         rest + static_cast<std::size_t>(std::clamp<std::uint64_t>(unread, kLookAhead, std::max(kBlock, rest)));
+    if (rest > kBlock && !HasRoomFor(1, size + 1)) return fail(TextId::NoMemoryToOpen);
     char* block = arena_.allocateText(size + 1);
     if (rest > 0) std::memcpy(block, next_, rest);
     next_ = block;

@@ -6,6 +6,7 @@
 
 #include "base/checksum.h"
 #include "base/file.h"
+#include "base/strings.h"
 #include "document/text/disk_state.h"
 #include "document/text/file_rules.h"
 #include "document/text/line_arena.h"
@@ -35,6 +36,8 @@ class TextLoader {
   private:
     struct Cut;  // how the next line is cut from the text
 
+    bool mayBeWhole();
+    bool fail(TextId why);
     bool readLines();
     bool refill();
     std::optional<Cut> wholeCut();

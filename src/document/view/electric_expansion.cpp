@@ -55,7 +55,7 @@ class Surroundings {
         const TokenRules* rules = document_.tokenRules();
         if (!rules) return std::nullopt;
         const bool goesOn = document_.startsInComment(document_.currentLine());
-        LineTokenizer tokens(*rules, text_, goesOn);
+        LineTokenizer tokens(*rules, text_.substr(0, document_.rules().limits.colouredLength), goesOn);
         std::size_t begin = 0;
         for (Token token = tokens.NextToken(); token.kind != TokenKind::EndOfLine; token = tokens.NextToken()) {
             const std::size_t end = begin + token.text.size();

@@ -86,7 +86,8 @@ class ColumnCounter {
 
 void LayTokens(const TextDocument& document, LineIndex line, DisplayColumn left, RowColours& colours) {
     ColumnCounter columns(document.tabSize());
-    LineTokenizer tokens(*document.tokenRules(), document.text(line), document.startsInComment(line));
+    const std::string_view text = document.text(line).substr(0, document.rules().limits.colouredLength);
+    LineTokenizer tokens(*document.tokenRules(), text, document.startsInComment(line));
     while (!colours.isFull()) {
         const Token token = tokens.NextToken();
         if (token.kind == TokenKind::EndOfLine) return;
@@ -108,7 +109,8 @@ ViewRow Render(const TextDocument& document, LineIndex line, DisplayColumn left,
 std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns) {
     std::string cells;
     const CharColumn first = ToCharacter(text, left, tabSize);
-    DisplayColumn column = ToDisplay(text, first, tabSize);
+    const bool isTab = text.substr(std::min(static_cast<std::size_t>(first.value), text.size())).starts_with('\t');
+    DisplayColumn column = isTab ? ToDisplay(text, first, tabSize) : left;  // any other character takes one column
     const DisplayColumn right = left + columns;
     for (auto i = static_cast<std::size_t>(first.value); i < text.size() && column < right; ++i) {
         const DisplayColumn begin = std::max(column, left);

@@ -13,7 +13,6 @@ namespace vexa {
 
 namespace {
 
-constexpr std::size_t kLargest = std::size_t{1} << 28;
 constexpr std::string_view kCtrlZ = "\x1A";
 
 // The checksum of the lines as a save writes them; of bytes, with a Ctrl-Z behind them.
@@ -90,7 +89,7 @@ std::optional<RecoveredText> ReadRecoveryText(std::string bytes) {
 
 std::optional<RecoveredText> ReadRecoveryFile(const std::string& path) {
     File file(path, platform::OpenMode::Read);
-    auto bytes = file.isOpen() ? file.readAll(kLargest) : std::nullopt;
+    auto bytes = file.isOpen() ? file.readAll(2 * kLargestKept) : std::nullopt;
     return bytes ? ReadRecoveryText(std::move(*bytes)) : std::nullopt;
 }
 

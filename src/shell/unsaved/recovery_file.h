@@ -39,6 +39,9 @@ void SealRecovery(std::string& bytes, std::uint64_t checksum);
 // What of a file's beginning the checksum does not count.
 inline constexpr std::size_t kUncounted = 2 * sizeof(std::uint64_t);
 
+// Of a larger file, in bytes, no changes are kept: the copy would take the memory that the text leaves.
+inline constexpr std::size_t kLargestKept = std::size_t{1} << 28;
+
 // A recovery file that has been read.
 struct RecoveredText {
     RecoveryHead head;

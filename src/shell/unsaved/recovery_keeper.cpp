@@ -4,6 +4,7 @@
 #include <new>
 
 #include "base/strings.h"
+#include "shell/unsaved/recovery_file.h"
 
 namespace vexa {
 
@@ -28,7 +29,9 @@ void RecoveryKeeper::look() {
 }
 
 void RecoveryKeeper::note(const TextDocument& document) {
-    if (!document.isModified()) return forget(document);
+    const auto& facts = document.disk().facts;
+    const bool isTooLarge = facts && facts->stamp.size > kLargestKept;
+    if (isTooLarge || !document.isModified()) return forget(document);
     Kept& kept = keptOf(document);
     if (kept.seen == document.revision()) return;
     const std::uint32_t now = clock_();

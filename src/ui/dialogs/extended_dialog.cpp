@@ -16,8 +16,6 @@ constexpr CheckBox<EditorOptions> kExplorer[] = {{IDC_EXPLORER_OPEN, &EditorOpti
 
 // Shown, but not to be chosen: nothing keeps these rules yet.
 constexpr int kWithoutRule[] = {
-    IDC_KEEP_FILES,
-    IDC_LARGE_FILES,
     IDC_LANGUAGE_QUOTES,
 };
 

@@ -148,7 +148,10 @@ bool VexaFrame::onDropFiles(const std::vector<std::string>& names) {
 bool VexaFrame::workWhileIdle() {
     constexpr std::int32_t kLinesAtOnce = 2000;
     bool hasMore = false;
-    documents_.each([&](DocumentWindow& window) { hasMore |= window.document().lookAheadForComments(kLinesAtOnce); });
+    documents_.each([&](DocumentWindow& window) {
+        hasMore |= window.document().lookAheadForComments(kLinesAtOnce);
+        if (window.document().takeGuessedComments()) window.refresh();
+    });
     bars_.refreshTabs();
     return unsaved_.work() || hasMore;
 }
