@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "document/view/clipboard_store.h"
-#include "language/block_comment.h"
 #include "language/line_tokenizer.h"
 #include "support/fail.h"
 #include "support/peers.h"
@@ -47,12 +46,12 @@ void TokensVexa(benchmark::State& state) {
     const TokenRules rules{ExtensionProfile()};
     std::size_t tokens = 0;
     for (auto _ : state) {
-        bool inside = false;
+        LineState state = LineState::Outside;
         for (const std::string& line : lines) {
-            LineTokenizer tokenizer(rules, line, inside);
+            LineTokenizer tokenizer(rules, line, state);
             while (tokenizer.NextToken().kind != TokenKind::EndOfLine)
                 ++tokens;
-            inside = tokenizer.endsInComment();
+            state = tokenizer.endState();
         }
     }
     benchmark::DoNotOptimize(tokens);
@@ -110,7 +109,7 @@ void CommentsOfWholeText(benchmark::State& state) {
         state.PauseTiming();
         session.document.setProfile(session.profile);
         state.ResumeTiming();
-        benchmark::DoNotOptimize(session.document.startsInComment(LineIndex(last)));
+        benchmark::DoNotOptimize(session.document.startState(LineIndex(last)));
     }
     CountLines(state, static_cast<std::size_t>(last));
 }

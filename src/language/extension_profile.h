@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "language/quote_rules.h"
+
 namespace vexa {
 
 // Limits in characters; setters cut what is longer, and at a byte 0, which ends a text in the file.
@@ -36,6 +38,8 @@ class ExtensionProfile {
     char stringQuote() const { return stringQuote_; }
     int version() const { return version_; }
     const std::vector<std::string>& keywords() const { return keywords_; }
+    // Not in the profile file: the default, unless they have been set.
+    const QuoteRules& quotes() const { return quotes_; }
 
     void setDescription(std::string_view text);
     void setDelimiters(std::string_view text);
@@ -46,6 +50,7 @@ class ExtensionProfile {
     void setPreprocessor(char c) { preprocessor_ = c; }
     void setStringQuote(char c) { stringQuote_ = c; }
     void setVersion(int version) { version_ = version; }
+    void setQuotes(const QuoteRules& quotes) { quotes_ = quotes; }
     // At most 65535 keywords of at most 20 characters each are kept, and no empty one.
     void replaceKeywords(std::vector<std::string> keywords);
 
@@ -70,6 +75,7 @@ class ExtensionProfile {
     char stringQuote_;
     int version_;
     std::vector<std::string> keywords_;
+    QuoteRules quotes_;
 };
 
 }  // namespace vexa

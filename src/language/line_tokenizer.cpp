@@ -12,9 +12,11 @@ ColourElement ColourOfKind(TokenKind kind) {
     return kind < TokenKind::EndOfLine ? static_cast<ColourElement>(kind) : ColourElement::DefaultText;
 }
 
-LineTokenizer::LineTokenizer(const TokenRules& rules, std::string_view text, bool startsInComment)
-    : rules_(rules), next_(text.data()), insideComment_(startsInComment) {
+LineTokenizer::LineTokenizer(const TokenRules& rules, std::string_view text, LineState start)
+    : rules_(rules), begin_(text.data()), next_(begin_), state_(start) {
     end_ = next_ + TextBeforeNul(text).size();
+    // An empty line ends what came here by an escape character alone.
+    if (next_ == end_ && GoesOn(start) && !rules.staysOpen(start)) state_ = NestedAs(start, rules.codeState());
 }
 
 const Token& LineTokenizer::take(const char* end, TokenKind kind) {
@@ -27,21 +29,22 @@ const Token& LineTokenizer::take(const char* end, TokenKind kind) {
 const char* LineTokenizer::endOfComment(const char* searchFrom) {
     const CommentMarker& marker = rules_.commentEnd();
     const char* found = searchFrom < end_ ? marker.find(searchFrom, end_) : end_;
-    insideComment_ = found == end_ && rules_.hasBlockComments();
+    const bool goesOn = found == end_ && rules_.hasBlockComments();
+    state_ = NestedAs(state_, goesOn ? LineState::Comment : rules_.codeState());
     return found == end_ ? end_ : found + marker.length();
 }
 
 // Takes a comment that begins with a marker. The end is searched from two characters on, however long the marker is. An
 // end marker without a comment before it is coloured as one.
 bool LineTokenizer::takeMarked(const char* start) {
-    if (rules_.lineComment().matches(start, end_)) {
+    if (rules_.lineCommentMatches(start, begin_, end_)) {
         take(end_, TokenKind::Comment);
     } else if (rules_.commentStart().matches(start, end_)) {
         take(endOfComment(start + std::min<std::ptrdiff_t>(2, end_ - start)), TokenKind::Comment);
     } else if (rules_.commentEnd().matches(start, end_)) {
         take(start + rules_.commentEnd().length(), TokenKind::Comment);
     } else {
-        return false;
+        return rules_.goBeyondProfile() && takeQuoted(start);
     }
     return true;
 }
@@ -71,14 +74,14 @@ const char* LineTokenizer::endOfRun(const char* start) const {
     for (const char* p = start + 1;; ++p) {
         while (p != end_ && (rules_.classOf(*p) & (part | kMarkerStart)) == part)
             ++p;
-        if (p == end_ || !(rules_.classOf(*p) & part) || rules_.anyMarkerMatches(p, end_)) return p;
+        if (p == end_ || !(rules_.classOf(*p) & part) || rules_.anyMarkerMatches(p, begin_, end_)) return p;
     }
 }
 
 Token LineTokenizer::NextToken() {
     if (next_ == end_) return token_ = {};
     const char* const start = next_;
-    if (insideComment_) return take(endOfComment(start), TokenKind::Comment);
+    if (state_ != rules_.codeState() && goOn(start)) return token_;
     const ByteClass c = rules_.classOf(*start);
     const auto begins = static_cast<TokenStart>(c & kTokenStartMask);
     if (begins != TokenStart::Tab && (c & kMarkerStart) && takeMarked(start)) return token_;

@@ -31,12 +31,12 @@ struct Token {
 ColourElement ColourOfKind(TokenKind kind);
 
 // The tokens of a line follow each other without a gap. A byte 0 in the text ends the line; what comes after it
-// belongs to no token. There are no escape characters: a backslash before a quote does not keep the string open.
-// The rules and the text must outlive the tokenizer.
+// belongs to no token. There are no escape characters, unless the rules name one: a backslash before a quote does not
+// keep the string open. The rules and the text must outlive the tokenizer.
 class LineTokenizer {
   public:
-    // A line that starts inside a block comment begins with a comment token up to the comment's end.
-    LineTokenizer(const TokenRules& rules, std::string_view text, bool startsInComment = false);
+    // A line that starts inside a comment or a quote begins with a token up to its end.
+    LineTokenizer(const TokenRules& rules, std::string_view text, LineState start = LineState::Outside);
 
     // The next token; at the end of the line, however often asked, the one for the end.
     Token NextToken();
@@ -45,12 +45,18 @@ class LineTokenizer {
     // Whether the last token, a word, is a keyword: it is listed, and what follows it is a blank, a tab, the line's end
     // or a delimiter.
     bool IsKeyword() const;
-    // Whether the line's end, once reached, lies inside a block comment.
-    bool endsInComment() const { return insideComment_; }
+    // Where the next line starts, once this line's end is reached.
+    LineState endState() const { return hereText_ == LineState::Outside ? state_ : hereText_; }
 
   private:
     const Token& take(const char* end, TokenKind kind);
     bool takeMarked(const char* start);
+    bool takeQuoted(const char* start);
+    bool goOn(const char* start);
+    bool takeInnerCode(const char* start);
+    bool takeHereText(const char* start);
+    void takeText(const char* start);
+    void takeQuote(const Quote& quote, const char* inside);
     const char* endOfComment(const char* searchFrom);
     const char* endOfString(const char* quote) const;
     const char* endOfPreprocessor(const char* start) const;
@@ -59,10 +65,12 @@ class LineTokenizer {
     const char* endOfRun(const char* start) const;
 
     const TokenRules& rules_;
+    const char* const begin_;
     const char* next_;
     const char* end_;
     Token token_;
-    bool insideComment_;  // at the line's start, and at its end
+    LineState state_;                          // at the next token
+    LineState hereText_ = LineState::Outside;  // what begins with the next line
 };
 
 }  // namespace vexa

@@ -4,6 +4,7 @@
 
 #include "base/ascii.h"
 #include "base/platform.h"
+#include "language/quote_file.h"
 
 namespace vexa {
 
@@ -23,6 +24,8 @@ std::string_view ExtensionIn(std::string_view fileName) {
 
 }  // namespace
 
+const Habits ProfileList::kGivenHabits;
+
 std::string_view ExtensionOf(std::string_view fileName) {
     fileName.remove_prefix(fileName.find_last_of("\\/:") + 1);
     const std::size_t dot = fileName.rfind('.');
@@ -40,7 +43,11 @@ const ExtensionProfile& ProfileList::profileFor(std::string_view fileName) {
 }
 
 std::string ProfileList::profilePath(std::string_view extension) const {
-    return directory_ + "\\" + std::string(kFilePrefix) + std::string(extension) + std::string(kFileSuffix);
+    return pathOf(extension, kFileSuffix);
+}
+
+std::string ProfileList::pathOf(std::string_view extension, std::string_view suffix) const {
+    return directory_ + "\\" + std::string(kFilePrefix) + std::string(extension) + std::string(suffix);
 }
 
 std::vector<std::string> ProfileList::extensions() const {
@@ -66,6 +73,7 @@ const ExtensionProfile* ProfileList::loadFrom(std::string_view extension) {
     if (!platform::PathExists(path)) return nullptr;
     auto loaded = std::make_unique<LoadedProfile>(LoadedProfile{std::string(extension), builtIn_});
     loaded->profile.read(path);
+    if (habits_.languageQuotes) loaded->profile.setQuotes(ReadQuoteRules(pathOf(extension, kQuoteFileSuffix)));
     return &loaded_.emplace_back(std::move(loaded))->profile;
 }
 

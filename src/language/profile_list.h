@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/habits.h"
 #include "language/extension_profile.h"
 
 namespace vexa {
@@ -19,8 +20,10 @@ std::string_view ExtensionOf(std::string_view fileName);
 // of forgetLoaded() after they were given out.
 class ProfileList {
   public:
-    // The directory of the profile files, without a "\" at its end.
-    explicit ProfileList(std::string configDirectory) : directory_(std::move(configDirectory)) {}
+    // The directory of the profile files, without a "\" at its end. The habits must outlive the list; they say whether
+    // the text beside a profile file counts, which says more about quotes.
+    explicit ProfileList(std::string configDirectory, const Habits& habits = kGivenHabits)
+        : directory_(std::move(configDirectory)), habits_(habits) {}
 
     // The profile for a file: a loaded one, else the one in the profile file of the extension or of its first three
     // characters (read once a run, and used as far as it could be read), else the built-in one.
@@ -35,16 +38,20 @@ class ProfileList {
     void forgetLoaded() { forgotten_ = std::exchange(loaded_, {}); }
 
   private:
+    static const Habits kGivenHabits;
+
     // The extension that a file was read for need not be the one that it holds.
     struct LoadedProfile {
         std::string readFor;
         ExtensionProfile profile;
     };
 
+    std::string pathOf(std::string_view extension, std::string_view suffix) const;
     const ExtensionProfile* findLoaded(std::string_view extension) const;
     const ExtensionProfile* loadFrom(std::string_view extension);
 
     std::string directory_;
+    const Habits& habits_;
     ExtensionProfile builtIn_;
     std::vector<std::unique_ptr<LoadedProfile>> loaded_;
     std::vector<std::unique_ptr<LoadedProfile>> forgotten_;  // documents may still have them

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "language/extension_profile.h"
+#include "language/line_state.h"
 
 namespace vexa {
 
@@ -21,7 +22,7 @@ inline constexpr ByteClass kTokenStartMask = 0x07;
 inline constexpr ByteClass kWordPart = 0x08;
 inline constexpr ByteClass kSymbolPart = 0x10;
 inline constexpr ByteClass kNumberPart = 0x20;
-inline constexpr ByteClass kMarkerStart = 0x40;  // a comment marker may begin here
+inline constexpr ByteClass kMarkerStart = 0x40;  // a comment marker or a quote of the rules may begin here
 inline constexpr ByteClass kDelimiter = 0x80;
 
 // The text that opens or closes a comment: one or two characters; an empty one is found nowhere.
@@ -58,14 +59,43 @@ class TokenRules {
     // Whether comments can go on in the next line. Without an end marker they end with their line, so that a profile
     // can use the start marker for a second kind of line comment.
     bool hasBlockComments() const { return commentStart_.length() > 0 && commentEnd_.length() > 0; }
-    bool anyMarkerMatches(const char* at, const char* end) const {
-        return lineComment_.matches(at, end) || commentStart_.matches(at, end) || commentEnd_.matches(at, end);
+    // Whether a marker is found at a position in a line, of which the begin and the end are given.
+    bool lineCommentMatches(const char* at, const char* begin, const char* end) const {
+        return lineComment_.matches(at, end) && (!extended_ || startsWord(at, begin));
     }
+    bool anyMarkerMatches(const char* at, const char* begin, const char* end) const {
+        return lineCommentMatches(at, begin, end) || commentStart_.matches(at, end) || commentEnd_.matches(at, end) ||
+               (extended_ && breaksAt(at, begin, end));
+    }
+
+    // ---- beyond the profile file ----
+
+    const QuoteRules& quotes() const { return quotes_; }
+    bool goBeyondProfile() const { return extended_; }
+    // The state in which tokens are cut.
+    LineState codeState() const { return codeState_; }
+    // Whether lines can end in another state than they start in.
+    bool linesHaveStates() const { return extended_ || hasBlockComments(); }
+    // Whether a line that starts outside of everything can end elsewhere; it has no byte 0.
+    bool mayOpen(std::string_view line) const;
+    // Whether an empty line leaves a state in which it starts inside a comment or quote.
+    bool staysOpen(LineState state) const {
+        const Quote* quote = quotes_.quoteIn(state);
+        return quote == nullptr || quote->overLines;
+    }
+    // The quote that opens at a position; none in most.
+    const Quote* quoteAt(const char* at, const char* begin, const char* end) const;
+    // The word at whose line a text ends that begins at a position; none in most.
+    std::string_view hereWordAt(const char* at, const char* begin, const char* end) const;
+
     // Whether a word is in the list of keywords, in exactly that letter case.
     bool isListed(std::string_view word) const;
 
   private:
     void setClasses(const ExtensionProfile& profile);
+    void markStart(char c);
+    bool startsWord(const char* at, const char* begin) const;
+    bool breaksAt(const char* at, const char* begin, const char* end) const;
     void indexKeywords();
 
     std::array<ByteClass, 256> classes_{};
@@ -73,11 +103,14 @@ class TokenRules {
     CommentMarker commentStart_;
     CommentMarker commentEnd_;
     char stringQuote_;
+    bool extended_;  // the rules go beyond the profile file
+    LineState codeState_;
     std::vector<std::string> keywords_;  // in ascending byte order
     // For each first byte: where its keywords begin, and a bit for each length that one of them has. Most words are
     // found to be no keyword by these alone.
     std::array<std::uint16_t, 257> firstWith_{};
     std::array<std::uint32_t, 256> lengthsWith_{};
+    QuoteRules quotes_;
 };
 
 // The text of a line as far as the tokens go: a byte 0 ends it.

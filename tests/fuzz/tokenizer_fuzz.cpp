@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "fuzz/fuzzing.h"
-#include "language/block_comment.h"
 #include "language/line_tokenizer.h"
+#include "language/quote_file.h"
 
 namespace vexa::fuzz {
 namespace {
@@ -25,14 +25,16 @@ ExtensionProfile ProfileOf(Input& input) {
     profile.setStringQuote(static_cast<char>(input.byte()));
     profile.setPreprocessor(static_cast<char>(input.byte()));
     std::vector<std::string> keywords;
-    for (int count = input.byte() % 8; count > 0; --count)
+    const int counts = input.byte();
+    for (int count = counts % 8; count > 0; --count)
         keywords.push_back(TakeText(input, 21));
     profile.replaceKeywords(std::move(keywords));
+    if (counts >= 128) profile.setQuotes(ParseQuoteRules(TakeText(input, 120)));
     return profile;
 }
 
-void Check(const TokenRules& rules, std::string_view line, bool startsInside) {
-    LineTokenizer tokens(rules, line, startsInside);
+void Check(const TokenRules& rules, std::string_view line, LineState start) {
+    LineTokenizer tokens(rules, line, start);
     const char* next = line.data();
     for (;;) {
         const Token token = tokens.NextToken();
@@ -42,7 +44,7 @@ void Check(const TokenRules& rules, std::string_view line, bool startsInside) {
         next += token.text.size();
     }
     Require(next == line.data() + TextBeforeNul(line).size());
-    Require(CommentEffectOf(rules, line).after(startsInside) == tokens.endsInComment());
+    Require(StateAfter(rules, line, start) == tokens.endState());
 }
 
 }  // namespace
@@ -50,8 +52,12 @@ void Check(const TokenRules& rules, std::string_view line, bool startsInside) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Input input(data, size);
     const TokenRules rules(ProfileOf(input));
-    Check(rules, input.rest(), false);
-    if (rules.hasBlockComments()) Check(rules, input.rest(), true);
+    const std::string line = input.rest();
+    Check(rules, line, LineState::Outside);
+    Check(rules, line, rules.codeState());
+    for (const Quote& quote : rules.quotes())
+        Check(rules, line, rules.quotes().stateIn(quote));
+    if (rules.hasBlockComments()) Check(rules, line, LineState::Comment);
     return 0;
 }
 

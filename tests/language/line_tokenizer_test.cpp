@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "language/block_comment.h"
+#include "language/quote_file.h"
 #include "language/token_text.h"
 #include "support/case_files.h"
 
@@ -45,6 +45,14 @@ TEST(LineTokenizer, ColoursLinesOfTheBuiltInProfile) {
         EXPECT_EQ(ColoursOf(rules, row.at(0)), row.at(1)) << row.at(0);
 }
 
+TEST(LineTokenizer, ColoursLinesOfProfilesWithATextBeside) {
+    for (const test::Cells& row : test::RowsOf(kFiles, "quotes")) {
+        ExtensionProfile profile;
+        profile.setQuotes(ParseQuoteRules(row.at(0)));
+        EXPECT_EQ(ColoursOf(TokenRules(profile), row.at(1)), row.at(2)) << row.at(0);
+    }
+}
+
 TEST(LineTokenizer, ALongWordIsNoKeywordForItsFirstTwentyCharacters) {
     ExtensionProfile profile;
     profile.replaceKeywords({"abcdefghijklmnopqrst"});
@@ -77,7 +85,8 @@ TEST(LineTokenizer, MarkersOfOneCharacterAndNone) {
     basic.setCommentEnd("");
     basic.setLineComment("");
     ExpectColours(basic, {{"a 'b", "wycc"}, {"a // b", "wywwyw"}});
-    EXPECT_EQ(CommentEffectOf(TokenRules(basic), "a 'b"), CommentEffect{}) << "no end marker, no next line";
+    EXPECT_EQ(StateAfter(TokenRules(basic), "a 'b", LineState::Outside), LineState::Outside)
+        << "no end marker, no next line";
 }
 
 TEST(LineTokenizer, WithoutDelimitersOnlyBlanksPartWords) {
@@ -95,30 +104,32 @@ TEST(LineTokenizer, LettersAndDigitsAreNoDelimitersThoughListed) {
 TEST(LineTokenizer, AByteZeroEndsTheLine) {
     const std::string_view line("a \"b\0\" /*", 9);
     ExpectColours(ExtensionProfile(), {{line, "wyss....."}, {std::string_view("\0", 1), "."}});
-    EXPECT_EQ(CommentEffectOf(TokenRules{ExtensionProfile()}, line), CommentEffect{});
+    EXPECT_EQ(StateAfter(TokenRules{ExtensionProfile()}, line, LineState::Outside), LineState::Outside);
 }
 
 TEST(LineTokenizer, ALineThatStartsInsideACommentBeginsWithItsEnd) {
     const TokenRules rules{ExtensionProfile()};
-    EXPECT_EQ(ColoursOf(rules, "b */ c", true), "ccccyw");
-    EXPECT_EQ(ColoursOf(rules, "*/", true), "cc");
-    EXPECT_EQ(ColoursOf(rules, "// b", true), "cccc");
-    EXPECT_EQ(ColoursOf(rules, "\"*/\"", true), "cccs");
+    EXPECT_EQ(ColoursOf(rules, "b */ c", LineState::Comment), "ccccyw");
+    EXPECT_EQ(ColoursOf(rules, "*/", LineState::Comment), "cc");
+    EXPECT_EQ(ColoursOf(rules, "// b", LineState::Comment), "cccc");
+    EXPECT_EQ(ColoursOf(rules, "\"*/\"", LineState::Comment), "cccs");
 }
 
-TEST(BlockComment, TheEffectOfALineIsThatOfItsTokens) {
+TEST(LineState, TheEffectOfALineIsThatOfItsTokens) {
     struct {
         std::string_view line;
-        CommentEffect effect;
+        bool opens;
+        bool closes;
     } const cases[] = {
-        {"", {false, false}},         {"x", {false, false}},        {"/* x", {true, false}},
-        {"x */", {false, true}},      {"/* x */", {false, true}},   {"*/ /*", {true, false}},
-        {"// /*", {false, false}},    {"// */ /*", {false, false}}, {"\" */ \" /*", {true, true}},
-        {"*/ \"/*\"", {false, true}},
+        {"", false, false},          {"x", false, false},        {"/* x", true, false},   {"x */", false, true},
+        {"/* x */", false, true},    {"*/ /*", true, false},     {"// /*", false, false}, {"// */ /*", false, false},
+        {"\" */ \" /*", true, true}, {"*/ \"/*\"", false, true},
     };
     const TokenRules rules{ExtensionProfile()};
-    for (const auto& one : cases)
-        EXPECT_EQ(CommentEffectOf(rules, one.line), one.effect) << one.line;
+    for (const auto& one : cases) {
+        EXPECT_EQ(StateAfter(rules, one.line, LineState::Outside) == LineState::Comment, one.opens) << one.line;
+        EXPECT_EQ(StateAfter(rules, one.line, LineState::Comment) == LineState::Outside, one.closes) << one.line;
+    }
 }
 
 // ---- against the plain tokenizer -----------------------------------------------------------------------------------
@@ -160,8 +171,10 @@ TEST(LineTokenizer, AgreesWithThePlainTokenizerWhateverTheProfile) {
             for (const bool startsInside : {false, rules.hasBlockComments()}) {
                 bool inside = startsInside;
                 const std::string plain = test::PlainColoursOf(profile, line, inside);
-                ASSERT_EQ(ColoursOf(rules, line, startsInside), plain) << "seed " << seed << ": " << line;
-                ASSERT_EQ(CommentEffectOf(rules, line).after(startsInside), inside) << "seed " << seed << ": " << line;
+                const LineState start = startsInside ? LineState::Comment : LineState::Outside;
+                ASSERT_EQ(ColoursOf(rules, line, start), plain) << "seed " << seed << ": " << line;
+                ASSERT_EQ(StateAfter(rules, line, start), inside ? LineState::Comment : LineState::Outside)
+                    << "seed " << seed << ": " << line;
             }
         }
     }

@@ -54,6 +54,18 @@ TEST_F(Profiles, TheBuiltInOneIsForCAndServesWhateverHasNoFile) {
     EXPECT_EQ(profile.keywords().back(), "while");
 }
 
+TEST_F(Profiles, TheTextBesideAFileCountsWithTheHabitAlone) {
+    store("abc", "", "abc");
+    disk.put("vConfig\\Vexaabc.QUO", "escape: \\");
+    Habits habits;
+    ProfileList chosen(disk.path("vConfig"), habits);
+    EXPECT_FALSE(chosen.profileFor("a.abc").quotes().isGiven());
+    habits.languageQuotes = true;
+    chosen.forgetLoaded();
+    EXPECT_EQ(chosen.profileFor("a.abcd").quotes().escape, '\\');
+    EXPECT_FALSE(chosen.profileFor("a.c").quotes().isGiven());
+}
+
 TEST_F(Profiles, ThreeCharactersOfTheExtensionCountInAnyCase) {
     store("cpp", "C++", "cpp");
     const ExtensionProfile& profile = list.profileFor("a.cpp");

@@ -5,8 +5,8 @@
 #include <set>
 #include <sstream>
 
-#include "language/block_comment.h"
 #include "language/profile_file.h"
+#include "language/quote_file.h"
 #include "language/token_text.h"
 #include "profile_source.h"
 
@@ -17,6 +17,8 @@ struct Shipped {
     const char* name;
     const char* source;
     const char* golden;
+    const char* quotes;  // the text beside the profile; empty where there is none
+    const char* quoted;  // and the sample for it
 };
 
 const Shipped kShipped[] = {
@@ -30,24 +32,38 @@ ProfileSource SourceOf(const Shipped& shipped) {
     return source.value_or(ProfileSource());
 }
 
-TEST(ShippedProfiles, ColourTheirSamples) {
-    for (const Shipped& shipped : kShipped) {
-        const TokenRules rules(SourceOf(shipped).profile);
-        std::istringstream lines(shipped.golden);
-        std::string text;
-        std::string colours;
-        bool inside = false;
-        int count = 0;
-        while (std::getline(lines, text) && std::getline(lines, colours)) {
-            ASSERT_EQ(text.substr(0, 2), "> ") << shipped.name;
-            const std::string_view line = std::string_view(text).substr(2);
-            EXPECT_EQ(test::ColoursOf(rules, line, inside), colours.substr(2)) << shipped.name << ": " << line;
-            inside = CommentEffectOf(rules, line).after(inside);
-            ++count;
-        }
-        EXPECT_GE(count, 4) << shipped.name << " has too short a sample";
-        EXPECT_FALSE(inside) << shipped.name << " leaves a comment open";
+void ExpectSample(const char* name, const TokenRules& rules, const char* sample) {
+    std::istringstream lines(sample);
+    std::string text;
+    std::string colours;
+    LineState state = LineState::Outside;
+    int count = 0;
+    while (std::getline(lines, text) && std::getline(lines, colours)) {
+        ASSERT_EQ(text.substr(0, 2), "> ") << name;
+        const std::string_view line = std::string_view(text).substr(2);
+        EXPECT_EQ(test::ColoursOf(rules, line, state), colours.substr(2)) << name << ": " << line;
+        state = StateAfter(rules, line, state);
+        ++count;
     }
+    EXPECT_GE(count, 4) << name << " has too short a sample";
+    EXPECT_EQ(state, LineState::Outside) << name << " leaves a comment or quote open";
+}
+
+TEST(ShippedProfiles, ColourTheirSamples) {
+    for (const Shipped& shipped : kShipped)
+        ExpectSample(shipped.name, TokenRules(SourceOf(shipped).profile), shipped.golden);
+}
+
+TEST(ShippedProfiles, ColourTheirSamplesOfQuotes) {
+    int count = 0;
+    for (const Shipped& shipped : kShipped) {
+        if (*shipped.quotes == '\0') continue;
+        ExtensionProfile profile = SourceOf(shipped).profile;
+        profile.setQuotes(ParseQuoteRules(shipped.quotes));
+        ExpectSample(shipped.name, TokenRules(profile), shipped.quoted);
+        ++count;
+    }
+    EXPECT_GE(count, 6);
 }
 
 TEST(ShippedProfiles, EachExtensionHasOneAndItsFileKeepsIt) {

@@ -109,9 +109,9 @@ class PlainTokenizer {
 
 }  // namespace
 
-std::string ColoursOf(const TokenRules& rules, std::string_view line, bool startsInComment) {
+std::string ColoursOf(const TokenRules& rules, std::string_view line, LineState start) {
     std::string letters;
-    LineTokenizer tokens(rules, line, startsInComment);
+    LineTokenizer tokens(rules, line, start);
     for (Token token = tokens.NextToken(); token.kind != TokenKind::EndOfLine; token = tokens.NextToken()) {
         EXPECT_FALSE(token.text.empty());
         EXPECT_EQ(token.text.data(), line.data() + letters.size()) << "tokens leave a gap";

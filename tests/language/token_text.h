@@ -10,7 +10,7 @@ namespace vexa::test {
 
 // One letter a character: c comment, w word, k keyword, n number, p preprocessor, s string, y symbols, t tab; "." for
 // what stands behind a byte 0. Checks that the tokens follow each other without a gap.
-std::string ColoursOf(const TokenRules& rules, std::string_view line, bool startsInComment = false);
+std::string ColoursOf(const TokenRules& rules, std::string_view line, LineState start = LineState::Outside);
 
 // The same by the plainest means: one rule after the other at each place, one character at a time, no tables.
 std::string PlainColoursOf(const ExtensionProfile& profile, std::string_view line, bool& insideComment);

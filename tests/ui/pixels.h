@@ -10,6 +10,7 @@ namespace vexa::test {
 
 inline constexpr COLORREF kWhite = RGB(255, 255, 255);
 inline constexpr COLORREF kYellow = RGB(255, 255, 0);
+inline constexpr COLORREF kCyan = RGB(0, 255, 255);
 inline constexpr COLORREF kBlack = RGB(0, 0, 0);
 inline constexpr COLORREF kGray = RGB(192, 192, 192);
 inline constexpr COLORREF kDarkBlue = RGB(0, 0, 128);

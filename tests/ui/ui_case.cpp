@@ -59,7 +59,8 @@ const std::map<std::string, int> kControls = {
 #include "controls.inc"
     {"ok", IDOK}, {"cancel", IDCANCEL}, {"yes", IDYES}, {"no", IDNO}, {"help", IDHELP}};
 const std::map<std::string, COLORREF> kColours = {{"white", kWhite}, {"yellow", kYellow}, {"black", kBlack},
-                                                  {"gray", kGray},   {"blue", kDarkBlue}, {"purple", kDarkPurple}};
+                                                  {"gray", kGray},   {"blue", kDarkBlue}, {"purple", kDarkPurple},
+                                                  {"cyan", kCyan}};
 const std::map<std::string, std::size_t> kPanes = {
     {"recording", 1}, {"read-only", 2}, {"line-ends", 3}, {"mode", 4}, {"position", 5}};
 

@@ -125,7 +125,7 @@ void DynArray::trim() {
 // A line that comes from the history may come from a time with other rules of colouring.
 TextLine* DynArray::keep(LinePtr line) {
     if (line == nullptr) return &vacant_;
-    line->forgetCommentEffect();
+    line->effect.isCurrent = false;
     return line.release();
 }
 

@@ -26,7 +26,7 @@ void TextDocument::discardText() {
     history_.clear();
     lines_.clear();
     arena_.clear();
-    comments_.reset();
+    lineStates_.reset();
     marked_ = {};
     bookmarks_ = {};
     currentLine_ = LineIndex(0);
@@ -47,7 +47,7 @@ void TextDocument::setProfile(const ExtensionProfile& profile) {
     profile_ = &profile;
     // The old rules are in use until the new ones are.
     auto rules = std::make_unique<const TokenRules>(profile);
-    comments_.setRules(rules.get());
+    lineStates_.setRules(rules.get());
     tokenRules_ = std::move(rules);
 }
 
@@ -149,7 +149,7 @@ std::int32_t TextDocument::lastLine(LastUsed mode) const {
 }
 
 TextLine& TextDocument::editableLine(LineIndex index) {
-    comments_.touch(index);
+    lineStates_.touch(index);
     if (TextLine* line = lines_.occupied(index.value)) return *line;
     lines_.reserve(index.value);
     lines_.put(makeLine({}), index.value);

@@ -12,7 +12,7 @@
 #include "base/strings.h"
 #include "base/units.h"
 #include "document/text/bookmarks.h"
-#include "document/text/comment_state.h"
+#include "document/text/line_states.h"
 #include "document/text/disk_state.h"
 #include "document/text/dyn_array.h"
 #include "document/text/file_rules.h"
@@ -111,12 +111,13 @@ class TextDocument {
 
     // None without a profile.
     const TokenRules* tokenRules() const { return tokenRules_.get(); }
-    bool startsInComment(LineIndex line) const { return comments_.startsInside(line); }
-    // Finds out about the comments of lines that are not shown yet, at most that many; false when all are known. To be
+    // What a line starts inside of.
+    LineState startState(LineIndex line) const { return lineStates_.startOf(line); }
+    // Finds out about comments and quotes in lines that are not shown yet, at most that many; false when all are known. To be
     // called while the user does nothing.
-    bool lookAheadForComments(std::int32_t lines) { return comments_.advance(lines); }
-    // Whether lines have been shown as outside a comment of which that is known only now.
-    bool takeGuessedComments() { return comments_.takeGuessed(); }
+    bool lookAheadForComments(std::int32_t lines) { return lineStates_.advance(lines); }
+    // Whether lines have been shown as outside a comment or quote of which that is known only now.
+    bool takeGuessedComments() { return lineStates_.takeGuessed(); }
 
     // ---- cursor ----
 
@@ -166,7 +167,7 @@ class TextDocument {
     LineArena arena_;
     DynArray lines_;
     std::unique_ptr<const TokenRules> tokenRules_;
-    mutable CommentState comments_{lines_, rules_.limits};  // fills itself in when it is asked
+    mutable LineStates lineStates_{lines_, rules_.limits};  // fills itself in when it is asked
     UndoHistory history_;
     MarkedArea marked_;
     Bookmarks bookmarks_;

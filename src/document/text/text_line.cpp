@@ -57,7 +57,7 @@ std::size_t TextLine::capacity() const {
 
 // The text, to be written to, with room for that many characters and a NUL.
 char* TextLine::makeRoom(std::size_t length) {
-    commentEffectKnown_ = 0;
+    effect.isCurrent = false;
     isChanged_ = 1;
     if (ownsText_ && length <= capacity()) return const_cast<char*>(text_);
     const std::size_t first = std::max<std::size_t>(length, length_) + kReserve;

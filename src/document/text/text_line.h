@@ -8,7 +8,7 @@
 
 #include "base/units.h"
 #include "document/text/line_end.h"
-#include "language/block_comment.h"
+#include "language/line_state.h"
 
 namespace vexa {
 
@@ -58,15 +58,8 @@ class TextLine {
     // Whether a file that keeps its line ends has anything of this line.
     bool hasContents() const { return length_ != 0 || end_ != 0; }
 
-    // What syntax colouring knows of the text: what it does to a block comment. Any change of the text forgets it.
-    bool isCommentEffectKnown() const { return commentEffectKnown_ != 0; }
-    CommentEffect commentEffect() const { return {opensComment_ != 0, closesComment_ != 0}; }
-    void setCommentEffect(CommentEffect effect) {
-        opensComment_ = effect.opens;
-        closesComment_ = effect.closes;
-        commentEffectKnown_ = 1;
-    }
-    void forgetCommentEffect() { commentEffectKnown_ = 0; }
+    // What syntax colouring keeps with a line; any change of the text makes it old.
+    LineEffect effect;
 
   private:
     friend struct LineDeleter;
@@ -78,9 +71,6 @@ class TextLine {
     // All in one word: a text may have millions of lines.
     std::uint32_t column_ : 24 = 0;
     std::uint32_t end_ : 2 = 0;
-    std::uint32_t opensComment_ : 1 = 0;
-    std::uint32_t closesComment_ : 1 = 0;
-    std::uint32_t commentEffectKnown_ : 1 = 0;
     std::uint32_t ownsText_ : 1 = 0;
     std::uint32_t recordInArena_ : 1 = 0;
     std::uint32_t isChanged_ : 1 = 1;

@@ -54,12 +54,12 @@ class Surroundings {
     std::optional<TokenPosition> tokenAt(std::size_t column) const {
         const TokenRules* rules = document_.tokenRules();
         if (!rules) return std::nullopt;
-        const bool goesOn = document_.startsInComment(document_.currentLine());
-        LineTokenizer tokens(*rules, text_.substr(0, document_.rules().limits.colouredLength), goesOn);
+        const LineState start = document_.startState(document_.currentLine());
+        LineTokenizer tokens(*rules, text_.substr(0, document_.rules().limits.colouredLength), start);
         std::size_t begin = 0;
         for (Token token = tokens.NextToken(); token.kind != TokenKind::EndOfLine; token = tokens.NextToken()) {
             const std::size_t end = begin + token.text.size();
-            if (column < end) return TokenPosition{begin, token.kind, begin == 0 && goesOn};
+            if (column < end) return TokenPosition{begin, token.kind, begin == 0 && GoesOn(start)};
             begin = end;
         }
         return std::nullopt;

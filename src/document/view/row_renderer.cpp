@@ -87,7 +87,7 @@ class ColumnCounter {
 void LayTokens(const TextDocument& document, LineIndex line, DisplayColumn left, RowColours& colours) {
     ColumnCounter columns(document.tabSize());
     const std::string_view text = document.text(line).substr(0, document.rules().limits.colouredLength);
-    LineTokenizer tokens(*document.tokenRules(), text, document.startsInComment(line));
+    LineTokenizer tokens(*document.tokenRules(), text, document.startState(line));
     while (!colours.isFull()) {
         const Token token = tokens.NextToken();
         if (token.kind == TokenKind::EndOfLine) return;

@@ -14,11 +14,6 @@ constexpr CheckBox<Habits> kHabits[] = {
 };
 constexpr CheckBox<EditorOptions> kExplorer[] = {{IDC_EXPLORER_OPEN, &EditorOptions::UseExplorer}};
 
-// Shown, but not to be chosen: nothing keeps these rules yet.
-constexpr int kWithoutRule[] = {
-    IDC_LANGUAGE_QUOTES,
-};
-
 }  // namespace
 
 ExtendedDialog::ExtendedDialog(ConfigStore& store, EditorOptions& options)
@@ -27,8 +22,6 @@ ExtendedDialog::ExtendedDialog(ConfigStore& store, EditorOptions& options)
 void ExtendedDialog::onOpen() {
     ShowFields(*this, options_.habits, kHabits);
     ShowFields(*this, options_, kExplorer);
-    for (const int box : kWithoutRule)
-        enable(box, false);
 }
 
 void ExtendedDialog::onAccept() {
@@ -39,7 +32,7 @@ void ExtendedDialog::onAccept() {
 
 void ExtendedDialog::checkAll(bool checked) {
     for (int box = IDC_KEEP_FILES; box <= IDC_EXPLORER_OPEN; ++box)
-        if (IsWindowEnabled(this->control(box))) setChecked(box, checked);
+        setChecked(box, checked);
 }
 
 void ExtendedDialog::onControl(int control, UINT notification) {

@@ -23,7 +23,7 @@ struct Application {
     explicit Application(const std::string& executable)
         : store(SettingsFileOf(executable)),
           directories(executable),
-          profiles(directories.GetDirectory(kConfigDirectory)),
+          profiles(directories.GetDirectory(kConfigDirectory), options.habits),
           electric(directories.GetDirectory(kConfigDirectory)) {
         options.Load(store);
         coloursInEffect.load(store);

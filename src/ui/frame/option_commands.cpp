@@ -33,8 +33,11 @@ void OptionCommands::changeOptions() {
 }
 
 void OptionCommands::changeHabits() {
+    const bool knewQuotes = application_.options.habits.languageQuotes;
     ExtendedDialog dialog(application_.store, application_.options);
-    if (dialog.runModal(documents_.frame().window())) documents_.refreshOptions();
+    if (!dialog.runModal(documents_.frame().window())) return;
+    documents_.refreshOptions();
+    if (application_.options.habits.languageQuotes != knewQuotes) documents_.takeProfilesAnew();
 }
 
 // ---- font --------------------------------------------------------------------------------------------------------

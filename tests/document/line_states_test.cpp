@@ -7,23 +7,23 @@
 
 #include "document/document_session.h"
 #include "document/random_user.h"
-#include "language/block_comment.h"
 #include "language/line_tokenizer.h"
+#include "language/quote_file.h"
 
 namespace vexa {
 namespace {
 
 // What each line starts as, line by line from the first.
-std::vector<bool> FreshStates(const TextDocument& document, const ExtensionProfile& profile, std::int32_t lines) {
+std::vector<LineState> FreshStates(const TextDocument& document, const ExtensionProfile& profile, std::int32_t lines) {
     const TokenRules rules(profile);
-    std::vector<bool> states;
-    bool inside = false;
+    std::vector<LineState> states;
+    LineState state = LineState::Outside;
     for (LineIndex line; line.value < lines; ++line) {
-        states.push_back(inside);
-        LineTokenizer tokens(rules, document.text(line), inside);
+        states.push_back(state);
+        LineTokenizer tokens(rules, document.text(line), state);
         while (tokens.NextToken().kind != TokenKind::EndOfLine) {
         }
-        inside = tokens.endsInComment();
+        state = tokens.endState();
     }
     return states;
 }
@@ -39,12 +39,13 @@ class CommentLines : public testing::Test, protected test::DocumentSession {
         view_.goTo(line, CharColumn(0));
         DocumentSession::type(text);
     }
-    bool inside(int line) { return document_.startsInComment(LineIndex(line)); }
+    LineState state(int line) { return document_.startState(LineIndex(line)); }
+    bool inside(int line) { return GoesOn(state(line)); }
     void expectFresh(const std::string& when) {
         const std::int32_t lines = document_.lastLine(LastUsed::Plain) + 3;
-        const std::vector<bool> fresh = FreshStates(document_, profile_, lines);
+        const std::vector<LineState> fresh = FreshStates(document_, profile_, lines);
         for (std::int32_t i = 0; i < lines; ++i)
-            ASSERT_EQ(inside(i), fresh[static_cast<std::size_t>(i)]) << "line " << i << " " << when;
+            ASSERT_EQ(state(i), fresh[static_cast<std::size_t>(i)]) << "line " << i << " " << when;
     }
 
     ExtensionProfile profile_;
@@ -149,7 +150,7 @@ TEST_F(CommentLines, WithoutAProfileOrAnEndMarkerNothingSpansLines) {
     EXPECT_FALSE(inside(2));
     TextDocument plain(options_, notices_);
     plain.newEmpty();
-    EXPECT_FALSE(plain.startsInComment(LineIndex(3)));
+    EXPECT_EQ(plain.startState(LineIndex(3)), LineState::Outside);
     EXPECT_FALSE(plain.lookAheadForComments(100));
 }
 
@@ -157,11 +158,16 @@ class CommentProperty : public CommentLines, public testing::WithParamInterface<
 
 TEST_P(CommentProperty, ColoursAreThoseOfAFreshLoad) {
     std::mt19937 random(GetParam());
+    if (GetParam() % 2 == 1) {
+        profile_.setQuotes(
+            ParseQuoteRules("escape: \\\nquote: \" lines\nquote: '\ncode in quotes: $( )\ntext behind: <<"));
+    }
     fill(300, "a");
-    for (int i = 0; i < 20; ++i)
-        setText(static_cast<int>(random() % 300), i % 2 ? "/* b" : "c */");
+    static constexpr const char* kParts[] = {"/* b", "c */", "\" $(", ") \"", "<<a", "a", "'\\"};
+    for (std::size_t i = 0; i < 28; ++i)
+        setText(static_cast<int>(random() % 300), kParts[i % std::size(kParts)]);
     static constexpr std::uint16_t kKeys[] = {kKeyEnter, kKeyBackspace, kKeyDelete, 'D', 'K', kKeyDown, kKeyUp, 'L'};
-    test::RandomUser user(view_, GetParam(), "/*/*\"a ", kKeys);
+    test::RandomUser user(view_, GetParam(), "/*/*\"a \\'$()<", kKeys);
     for (int step = 0; step < 300; ++step) {
         user.act();
         // Sometimes a window asks, sometimes the idle steps, and sometimes nobody until much later.
