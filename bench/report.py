@@ -59,6 +59,10 @@ BARS = [
     ("help_index/4400_keywords/vexa", 10e6, 1),
     ("help_index/6000_keywords_3_levels/vexa", 10e6, 1),
     ("help_lookup/100_indexes/vexa", 30e6, 1),
+    ("files/plain/native", "files/plain/grep", 1.5),
+    ("files/regexp/native", "files/regexp/grep", 2),
+    ("files/first_line/native", 50e6, 1),
+    ("files/longest_part/native", 50e6, 1),
 ]
 
 # The same for all the work whose names begin alike: the start of the names, what is measured, the peers of which the best

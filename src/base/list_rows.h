@@ -11,6 +11,12 @@ namespace vexa {
 // What a row's colour tells.
 enum class RowKind : std::uint8_t { Plain, Error, Warning };
 
+// A part of a row's text, in characters.
+struct RowPart {
+    std::size_t start = 0;
+    std::size_t length = 0;
+};
+
 // The model of a list window. Rows are counted from 0.
 class ListRows {
   public:
@@ -20,6 +26,8 @@ class ListRows {
     // Valid until the rows are cleared.
     virtual std::string_view rowText(std::size_t row) const = 0;
     virtual RowKind rowKind(std::size_t row) const = 0;
+    // What stands out from the rest of the row.
+    virtual RowPart highlight(std::size_t /*row*/) const { return {}; }
     // The characters of the longest row.
     virtual std::size_t longestRow() const = 0;
     virtual std::optional<std::size_t> selectedRow() const = 0;
@@ -28,6 +36,8 @@ class ListRows {
     // Enter or a double click on the selected row.
     virtual void activateRow() = 0;
     virtual void clearRows() = 0;
+    // The user wants no more rows than there are.
+    virtual void stopFilling() {}
     // The window was closed by its user. The rows stay.
     virtual void closed() {}
 };

@@ -97,6 +97,17 @@ std::vector<std::string> FindFiles(const std::string& pattern);
 // without "." and with ".." where there is one above. Sorted as the files are.
 std::vector<std::string> FindDirectories(const std::string& directory);
 
+// What a directory holds that is not hidden, in one reading: the names of its files and of its directories (without "."
+// and ".."), each sorted as above. Links count as what they lead to.
+struct DirectoryContents {
+    std::uint64_t volume = 0;  // with the index it tells the directory from all others, whatever name it is reached by;
+    std::uint64_t index = 0;   // 0 where the disk has no such numbers
+    std::vector<std::string> files;
+    std::vector<std::string> directories;
+};
+// None when it cannot be read.
+std::optional<DirectoryContents> ReadDirectory(const std::string& directory);
+
 // ---- places ------------------------------------------------------------------------------------------------------
 
 // The path made full against the current directory, with "." and ".." parts resolved; empty when it is no path.

@@ -49,8 +49,14 @@ void LineList::clearRows() {
     if (view_) view_->rowsChanged();
 }
 
+bool LineList::addRow(std::string_view text) {
+    const bool added = lines_.add(text);
+    if (!added) tell(LoadText(TextId::ListFull));
+    return added;
+}
+
 void LineList::AddLine(std::string_view text) {
-    if (!lines_.add(text)) tell(LoadText(TextId::ListFull));
+    addRow(text);
     if (view_) view_->rowsChanged();
 }
 
@@ -64,12 +70,8 @@ void LineList::AddBanner() {
 
 bool LineList::loadLines(const std::string& path, const std::function<void(std::string_view)>& added) {
     return ReadCapturedLines(path, [&](std::string_view line) {
-        const bool taken = lines_.add(line);
-        if (taken) {
-            added(lines_[lines_.size() - 1]);
-        } else {
-            tell(LoadText(TextId::ListFull));
-        }
+        const bool taken = addRow(line);
+        if (taken) added(lines_[lines_.size() - 1]);
         return taken;
     });
 }

@@ -36,6 +36,8 @@ class LineList : public ListRows {
     // Adds the lines of a file and calls a function for each, until the list is full, which the user is then told.
     // False when the file cannot be opened.
     bool loadLines(const std::string& path, const std::function<void(std::string_view)>& added);
+    // Adds a line without telling the window. False, and the user is told, when the list is full.
+    bool addRow(std::string_view text);
     void addClosing(std::initializer_list<std::string_view> texts);
     // Opens the file that a name means, at a line counted from 1. Names without a directory are those of the base
     // directory. False when there is no such file.

@@ -7,13 +7,6 @@
 
 namespace vexa {
 
-namespace {
-
-// Where stepping begins without a selection: the last line of the banner's frame.
-constexpr std::size_t kBannerEnd = 3;
-
-}  // namespace
-
 // The document may get its name only when it is saved for the compiler.
 void MessageList::takeDocumentName() {
     std::string name = document_ ? document_->path() : std::string();
@@ -103,39 +96,13 @@ void MessageList::activateRow() {
     if (!shown) tell(LoadText(TextId::NoFileNameInLine));
 }
 
-bool MessageList::reportsError(std::size_t row) {
+bool MessageList::stopsAt(std::size_t row) {
     parser().Parse(documentName(), rowText(row));
     return parser().level() != ErrorLevel::None;
 }
 
-void MessageList::finishStep(std::size_t row, bool found) {
-    if (row < rowCount()) selectRow(row);
-    if (!found) {
-        tell(LoadText(TextId::NoMoreErrors));
-    } else if (namesOtherLine()) {
-        openNamedFile();
-    }
-}
-
-// Only where the step ends is anything shown, so that lines without an error cost no more than a look.
-void MessageList::NextError() {
-    std::size_t row = selectedRow().value_or(kBannerEnd);
-    bool found = false;
-    while (!found && row + 1 < rowCount())
-        found = reportsError(++row);
-    finishStep(std::min(row, rowCount() - 1), found);
-}
-
-void MessageList::PreviousError() {
-    std::size_t row = selectedRow().value_or(0);
-    bool found = false;
-    while (!found && row > 0)
-        found = reportsError(--row);
-    if (selectedRow()) {
-        finishStep(row, found);
-    } else {
-        tell(LoadText(TextId::NoMoreErrors));
-    }
+void MessageList::showStop() {
+    if (namesOtherLine()) openNamedFile();
 }
 
 void MessageList::closed() {

@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "external/line_list.h"
+#include "external/stepped_list.h"
 
 namespace vexa {
 
-class MessageList : public LineList {
+class MessageList : public SteppedList {
   public:
-    using LineList::LineList;
+    using SteppedList::SteppedList;
 
     // Begins anew for a document that is to be compiled, or for none.
     void Reset(SourceDocument* document);
@@ -23,21 +23,19 @@ class MessageList : public LineList {
     bool ErrorsSeen() const { return errorsSeen_; }
     bool WarningsSeen() const { return warningsSeen_; }
 
-    // Selects the next line before or after the selected one that reports an error or a warning and shows what it is
-    // about; another file than the document is opened. Without one, the last or first line is selected and the user is
-    // told.
-    void NextError();
-    void PreviousError();
-
     void selectRow(std::size_t row) override;
     void activateRow() override;
     void closed() override;
 
+  protected:
+    // At rows that report an error or a warning.
+    bool stopsAt(std::size_t row) override;
+    void showStop() override;
+    TextId noMoreStops() const override { return TextId::NoMoreErrors; }
+
   private:
     void takeDocumentName();
     void note(std::string_view line);
-    bool reportsError(std::size_t row);
-    void finishStep(std::size_t row, bool found);
     void followSelection();
     // Whether the line last parsed is about a line of another file.
     bool namesOtherLine();

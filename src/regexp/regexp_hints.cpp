@@ -11,7 +11,7 @@ namespace {
 
 class HintFinder {
   public:
-    explicit HintFinder(const Plan& plan) : plan_(plan) {}
+    HintFinder(const Plan& plan, Subject subject) : plan_(plan), subject_(subject) {}
 
     Hints find() {
         const std::string_view leading = leadingLiteral();
@@ -98,7 +98,8 @@ class HintFinder {
         if (!loop.possessive || leading.width + loop.minimum == 0) return;
         ByteSet last = loop.repeated;
         if (loop.minimum == 0) last |= node(plan_.start).first;
-        hints_.filter = PlaceFilter({{last, node(loop.next).first, ByteSet::All()}}, plan_.tuning.most);
+        const ByteSet next = withLineEnds(node(loop.next).first);
+        hints_.filter = PlaceFilter({{withLineEnds(last), next, ByteSet::All()}}, plan_.tuning.most);
     }
 
     void filterStarts() {
@@ -122,10 +123,19 @@ class HintFinder {
         Place place{from};
         bool known = true;
         for (ByteSet& set : sets) {
-            set = known ? possibleAt(place) : ByteSet::All();
+            set = known ? withLineEnds(possibleAt(place)) : ByteSet::All();
             known = known && advance(place);
         }
         return sets;
+    }
+
+    // What stands for the end of the subject.
+    ByteSet withLineEnds(ByteSet set) const {
+        if (subject_ == Subject::Lines && set.has('\0')) {
+            set.add('\r');
+            set.add('\n');
+        }
+        return set;
     }
 
     ByteSet possibleAt(const Place& place) const {
@@ -144,13 +154,14 @@ class HintFinder {
     }
 
     const Plan& plan_;
+    const Subject subject_;
     Hints hints_;
 };
 
 }  // namespace
 
-Hints FindHints(const Plan& plan) {
-    return HintFinder(plan).find();
+Hints FindHints(const Plan& plan, Subject subject) {
+    return HintFinder(plan, subject).find();
 }
 
 }  // namespace vexa::regexp

@@ -42,7 +42,11 @@ struct Hints {
     PlaceFilter filter;
 };
 
+// What the hints are to be used on: one line, or a text of many, in which a line also ends before CR or LF. In the
+// latter only `required`, `leading` and `filter` are of use.
+enum class Subject : std::uint8_t { Line, Lines };
+
 // For a program of the compiler, whose first sets are known. Throws std::bad_alloc.
-Hints FindHints(const Plan& plan);
+Hints FindHints(const Plan& plan, Subject subject = Subject::Line);
 
 }  // namespace vexa::regexp

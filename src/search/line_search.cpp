@@ -19,6 +19,11 @@ bool IsInsideWord(std::string_view text, std::size_t at) {
 
 }  // namespace
 
+std::string_view DelimitersOf(const TextDocument& document) {
+    const ExtensionProfile* profile = document.profile();
+    return profile ? std::string_view(profile->delimiters()) : std::string_view();
+}
+
 LineSearch::LineSearch(const SearchOptions& options, std::string_view delimiters)
     : habits_(options.habits()),
       text_(options.searchedText()),

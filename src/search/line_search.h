@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/units.h"
+#include "document/text/text_document.h"
 #include "regexp/plain_search.h"
 #include "regexp/regexp.h"
 #include "search/search_options.h"
@@ -21,6 +22,9 @@ struct LineMatch {
     bool operator==(const LineMatch&) const = default;
 };
 
+// Those of its profile; none without one.
+std::string_view DelimitersOf(const TextDocument& document);
+
 // Prepared once for many lines. Each search looks at what a line has from a column on as if the line began there: "^"
 // matches at that column, and it is the start of a word. With the habit of groups in replacements the line begins where
 // it does. An empty find text, and a pattern that does not compile, are found nowhere.
@@ -32,6 +36,7 @@ class LineSearch {
   public:
     // The characters, beside blanks and tabs, that may follow a whole word.
     LineSearch(const SearchOptions& options, std::string_view delimiters);
+    void setDelimiters(std::string_view delimiters) { delimiters_ = delimiters; }
 
     bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
     // The lines after a line whose text must follow it, each behind a "\n", for the find text to be found in it.
@@ -55,7 +60,7 @@ class LineSearch {
     const Habits& habits_;
     const std::string text_;
     const std::string replacement_;
-    const std::string delimiters_;
+    std::string delimiters_;
     const bool regular_;
     const bool wholeWord_;
     const bool seesWholeLine_;  // also where the search begins in its middle

@@ -3,27 +3,9 @@
 #include <algorithm>
 
 #include "base/strings.h"
-#include "document/text/cursor_actions.h"
+#include "search/shown_match.h"
 
 namespace vexa {
-
-namespace {
-
-// Ends a command whose match may be out of sight: a line that is comes to the middle of the window, and sideways the
-// match follows the cursor, no further than it must.
-void FinishWithMatchInSight(EditView& view, const LastMatch& match) {
-    if (match.line < view.topLine() || match.line >= view.topLine() + view.rows()) view.centreCursorLine();
-    view.finish();
-    if (match.displayEnd > view.leftColumn() + view.columns())
-        view.scrollToColumn(std::min(match.displayStart, match.displayEnd - view.columns()));
-}
-
-std::string_view DelimitersOf(const TextDocument& document) {
-    const ExtensionProfile* profile = document.profile();
-    return profile ? std::string_view(profile->delimiters()) : std::string_view();
-}
-
-}  // namespace
 
 bool AsksToGoAround(const SearchOptions& options, Notices& notices) {
     if (!options.habits().searchAround) return false;
@@ -47,10 +29,7 @@ bool SearchRun::findNext() {
 }
 
 void SearchRun::showAsNext(const std::optional<DocumentMatch>& match) {
-    if (!match) return;
-    show(*match);
-    options_.setMatchPending(true);
-    FinishWithMatchInSight(view_, options_.lastMatch);
+    if (match) ShowMatch(view_, options_, match->line, match->inLine, endOf(*match));
 }
 
 // After a pending match, so that overlapping ones are found too, unless the cursor has gone elsewhere.
@@ -104,27 +83,6 @@ std::optional<DocumentMatch> SearchRun::findFrom(TextPosition start) {
     if (found || isAround_ || progress_.stopped() || search_.isNowhere() || origin_ == first) return found;
     isAround_ = AsksToGoAround(options_, document_.notices());
     return isAround_ ? findBetween(first, origin_.line) : std::nullopt;
-}
-
-void SearchRun::show(const DocumentMatch& match) {
-    LastMatch& last = options_.lastMatch;
-    const TextPosition end = endOf(match);
-    last.line = match.line;
-    last.endLine = end.line;
-    last.column = match.inLine.column;
-    last.length = match.inLine.length;
-    last.displayStart = document_.toDisplay(match.line, last.column);
-    const bool isInLine = end.line == match.line;
-    last.displayEnd =
-        isInLine ? last.displayStart + std::max(last.length, 1) : document_.toDisplay(end.line, end.column);
-    LineEditor& editor = view_.editor();
-    view_.marker().clear();
-    editor.moveToLine(match.line);
-    editor.moveToColumn(last.column);
-    editor.run<SetMarkMode>(MarkMode::Stream);
-    editor.run<SetMark>(MarkPoint{match.line, last.displayStart}, MarkPoint{end.line, last.displayEnd});
-    last.cursorColumn = document_.column();
-    options_.setPastLineEnd(last.cursorColumn >= editor.textEnd());
 }
 
 }  // namespace vexa

@@ -43,7 +43,6 @@ class SearchRun {
     std::optional<DocumentMatch> findAfter(const DocumentMatch& match, TextPosition end);
     std::optional<DocumentMatch> pendingMatch();
     void showAsNext(const std::optional<DocumentMatch>& match);
-    void show(const DocumentMatch& match);
     TextPosition exchange(const DocumentMatch& match);
     TextPosition insertLines(TextPosition start, std::int32_t length, std::string_view text);
     void moveOrigin(TextPosition from, TextPosition oldEnd, TextPosition newEnd);

@@ -74,8 +74,8 @@ consteval bool TakePrefix(std::string_view& text, std::string_view prefix) {
 consteval Accelerator ParseAccelerator(std::string_view text, CommandId id) {
     Accelerator accelerator;
     accelerator.id = id;
-    accelerator.shift = TakePrefix(text, "Shift+");
     accelerator.control = TakePrefix(text, "Ctrl+");
+    accelerator.shift = TakePrefix(text, "Shift+");
     accelerator.alt = TakePrefix(text, "Alt+");
     accelerator.key = KeyOf(text);
     return accelerator;

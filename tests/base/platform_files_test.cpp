@@ -203,6 +203,13 @@ TEST_F(PlatformFiles, WildcardsFindNormalFilesInOrder) {
     disk.makeDirectory("d.c\\a");
     EXPECT_EQ(FindDirectories(disk.path("d.c")), (Names{"..", "a", "B"}));
     EXPECT_EQ(FindDirectories(disk.path("NO")), Names{});
+    const auto contents = ReadDirectory(disk.path());
+    ASSERT_TRUE(contents);
+    EXPECT_EQ(contents->files, (Names{"A.C", "a.cpp", "b.c", "readme"}));
+    EXPECT_EQ(contents->directories, Names{"d.c"});
+    EXPECT_EQ(ReadDirectory(disk.path("D.C"))->index, ReadDirectory(disk.path("d.c\\."))->index);
+    EXPECT_NE(ReadDirectory(disk.path("d.c"))->index, contents->index);
+    EXPECT_FALSE(ReadDirectory(disk.path("NO")));
     const Names inRoot = FindDirectories("C:\\");
     EXPECT_EQ(std::ranges::count(inRoot, ".."), 0) << "nothing is above a root";
 }

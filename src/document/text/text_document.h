@@ -12,12 +12,12 @@
 #include "base/strings.h"
 #include "base/units.h"
 #include "document/text/bookmarks.h"
-#include "document/text/line_states.h"
 #include "document/text/disk_state.h"
 #include "document/text/dyn_array.h"
 #include "document/text/file_rules.h"
 #include "document/text/line_arena.h"
 #include "document/text/line_end.h"
+#include "document/text/line_states.h"
 #include "document/text/marked_area.h"
 #include "document/text/text_writer.h"
 #include "document/text/undo_history.h"
@@ -113,8 +113,8 @@ class TextDocument {
     const TokenRules* tokenRules() const { return tokenRules_.get(); }
     // What a line starts inside of.
     LineState startState(LineIndex line) const { return lineStates_.startOf(line); }
-    // Finds out about comments and quotes in lines that are not shown yet, at most that many; false when all are known. To be
-    // called while the user does nothing.
+    // Finds out about comments and quotes in lines that are not shown yet, at most that many; false when all are known.
+    // To be called while the user does nothing.
     bool lookAheadForComments(std::int32_t lines) { return lineStates_.advance(lines); }
     // Whether lines have been shown as outside a comment or quote of which that is known only now.
     bool takeGuessedComments() { return lineStates_.takeGuessed(); }

@@ -53,8 +53,8 @@ void SearchDialog::onOpen() {
     enableButtons();
 }
 
-void SearchDialog::showCombo(int control, const HistoryList& history, const std::string& text) {
-    limitComboText(control, SearchOptions::kTextLimit);
+void SearchDialog::showCombo(int control, const HistoryList& history, const std::string& text, std::size_t limit) {
+    limitComboText(control, limit);
     fillList(control, history.entries());
     setTextOf(control, text);
     markComboText(control);

@@ -56,7 +56,8 @@ class SearchDialog : public EditorDialog {
     void onGone() override;
 
     HistoryList& findHistory() { return findHistory_; }
-    void showCombo(int control, const HistoryList& history, const std::string& text);
+    void showCombo(int control, const HistoryList& history, const std::string& text,
+                   std::size_t limit = SearchOptions::kTextLimit);
     void run(const SearchHost::Search& search);
 
   private:

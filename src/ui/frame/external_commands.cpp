@@ -28,10 +28,12 @@ static_assert(ToolNumber(kMostTools - 1) == NumberOf(CommandId::Tool15));
 
 }  // namespace
 
-ExternalCommands::ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices)
+ExternalCommands::ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices,
+                                   ListSteps& steps)
     : documents_(documents),
       application_(application),
       notices_(notices),
+      steps_(steps),
       programTimer_(documents.frame(), kProgramTimer),
       compilerTimer_(documents.frame(), kCompilerTimer),
       output_(*this, notices),
@@ -43,6 +45,7 @@ ExternalCommands::ExternalCommands(OpenDocuments& documents, Application& applic
       compiler_(application.compilerSetup, application.directories, messages_, compilerTimer_, notices) {
     output_.attach(&outputWindow_);
     messages_.attach(&messageWindow_);
+    steps_.use(messages_);
     tools_.LoadTools();
 }
 
@@ -85,6 +88,16 @@ void ExternalCommands::showRows(DocumentWindow& window, const std::vector<std::s
     for (const std::string& row : rows)
         output_.AddLine(row);
     outputWindow_.show();
+}
+
+void ExternalCommands::showMessages() {
+    steps_.use(messages_);
+    messageWindow_.show();
+}
+
+void ExternalCommands::userActs() {
+    notices_.clearStatus();
+    if (messageWindow_.isActive()) steps_.use(messages_);
 }
 
 void ExternalCommands::zoom(std::int32_t steps) {
@@ -166,6 +179,7 @@ void ExternalCommands::documentCloses(const DocumentWindow& window) {
 }
 
 void ExternalCommands::compile() {
+    steps_.use(messages_);
     compiler_.Compile(sourceOf(*documents_.active()));
 }
 

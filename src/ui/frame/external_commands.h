@@ -20,7 +20,7 @@ namespace vexa {
 
 class ExternalCommands : private FileOpener, private ListHost {
   public:
-    ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices);
+    ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, ListSteps& steps);
 
     void registerCommands(CommandDispatcher& dispatcher);
     // Shows the tools in the Tools menu of the frame's menu bar.
@@ -45,19 +45,20 @@ class ExternalCommands : private FileOpener, private ListHost {
     void runTool(std::size_t index);
     bool askForArguments(ProgramRequest& request, int dialog);
     void showOutput() { outputWindow_.show(); }
-    void showMessages() { messageWindow_.show(); }
-    void nextError() { messages_.NextError(); }
-    void previousError() { messages_.PreviousError(); }
+    void showMessages();
+    void nextError() { steps_.next(); }
+    void previousError() { steps_.previous(); }
     void compile();
     void setUpCompiler();
 
     bool openFileAtLine(const std::string& path, std::int32_t line) override;
-    void userActs() override { notices_.clearStatus(); }
+    void userActs() override;
     void zoom(std::int32_t steps) override;
 
     OpenDocuments& documents_;
     Application& application_;
     FrameNotices& notices_;
+    ListSteps& steps_;
     FrameTimer programTimer_;
     FrameTimer compilerTimer_;
     std::vector<std::unique_ptr<DocumentSource>> sources_;  // of the documents that were compiled

@@ -33,7 +33,8 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       dispatcher_(notices, [this](CommandNeed need) { return isMet(need); }),
       player_(documents, dispatcher_, keys_),
       macro_(player_, documents.frame(), notices, loop, application.store),
-      search_(documents, application, notices, loop),
+      fileSearch_(documents, application, notices, steps_),
+      search_(documents, application, notices, loop, fileSearch_),
       files_(documents, application.options),
       paths_(documents, application, notices),
       editing_(documents, application.store, notices),
@@ -42,9 +43,9 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       options_(documents, application, notices),
       help_(documents.frame()),
       quickHelp_(documents, application, notices, printing_.desk()),
-      external_(documents, application, notices) {
-    RegisterCommandsOf(dispatcher_, macro_, search_, files_, paths_, editing_, textTools_, printing_, options_, help_,
-                       quickHelp_, external_);
+      external_(documents, application, notices, steps_) {
+    RegisterCommandsOf(dispatcher_, macro_, fileSearch_, search_, files_, paths_, editing_, textTools_, printing_,
+                       options_, help_, quickHelp_, external_);
     RegisterWindowCommands(dispatcher_, documents.frame());
     RegisterKeysOf(keys_, search_, textTools_, options_);
     search_.setFailureListener([this](bool isUserStop) { macro().searchFailed(isUserStop); });

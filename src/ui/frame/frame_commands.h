@@ -5,6 +5,7 @@
 #include "ui/frame/document_commands.h"
 #include "ui/frame/edit_commands.h"
 #include "ui/frame/external_commands.h"
+#include "ui/frame/file_search_commands.h"
 #include "ui/frame/help_commands.h"
 #include "ui/frame/key_actions.h"
 #include "ui/frame/macro_commands.h"
@@ -27,6 +28,9 @@ class FrameCommands {
     KeyMacro& macro() { return macro_.macro(); }
     void zoom(std::int32_t steps) { options_.zoom(steps); }
     ExternalCommands& external() { return external_; }
+    FileSearchCommands& fileSearch() { return fileSearch_; }
+    // For a timer of the frame, given by its number; false when it is none of these.
+    bool useTimer(UINT_PTR timer) { return external_.useTimer(timer) || fileSearch_.useTimer(timer); }
     // Takes a message from the queue if it is a key that the frame carries out itself, or that must wait.
     bool useKey(MSG& message);
 
@@ -39,6 +43,8 @@ class FrameCommands {
     KeyActions keys_;
     MacroPlayer player_;
     MacroCommands macro_;
+    ListSteps steps_;
+    FileSearchCommands fileSearch_;
     SearchCommands search_;
     DocumentCommands files_;
     PathCommands paths_;

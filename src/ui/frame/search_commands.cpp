@@ -1,6 +1,10 @@
 #include "ui/frame/search_commands.h"
 
+#include "base/platform.h"
+#include "document/view/marked_text.h"
+#include "search/caret_text.h"
 #include "ui/dialogs/find_dialog.h"
+#include "ui/dialogs/find_in_files_dialog.h"
 #include "ui/dialogs/replace_dialog.h"
 #include "ui/frame/command_rows.h"
 #include "ui/lists/list_window.h"
@@ -13,6 +17,7 @@ void SearchCommands::registerCommands(CommandDispatcher& dispatcher) {
         {CommandId::Replace, &SearchCommands::openReplace},
         {CommandId::FindNext, &SearchCommands::findNext},
         {CommandId::FindPrevious, &SearchCommands::findPrevious},
+        {CommandId::FindInFiles, &SearchCommands::openFindInFiles},
     };
     RegisterRows(dispatcher, *this, kRows);
 }
@@ -30,10 +35,10 @@ bool SearchCommands::useKey(MSG& message, const KeyEvent& event) {
     return dialog_ && dialog_->useKey(message, event);
 }
 
-template <class Dialog>
-void SearchCommands::openDialog() {
+template <class Dialog, class... More>
+void SearchCommands::openDialog(More&... more) {
     if (dialog_) dialog_->close(false);
-    dialog_ = std::make_unique<Dialog>(application_, commands_, static_cast<SearchHost&>(*this));
+    dialog_ = std::make_unique<Dialog>(application_, commands_, static_cast<SearchHost&>(*this), more...);
     if (!dialog_->openModeless(documents_.frame().window())) return;
     loop_.setModelessDialog(dialog_->window());
     if (const DocumentWindow* active = documents_.active()) showMatchBesideDialog(*active);
@@ -45,6 +50,22 @@ void SearchCommands::openFind() {
 
 void SearchCommands::openReplace() {
     openDialog<ReplaceDialog>();
+}
+
+// What the caret is at is the first proposal.
+void SearchCommands::openFindInFiles() {
+    FileSearchFields& fields = files_.fields();
+    std::string text;
+    if (const DocumentWindow* active = documents_.active()) {
+        const TextDocument& document = active->document();
+        if (const auto span = SpanAtCaret(document))
+            text =
+                FindTextFor(TextOf(document, document.currentLine(), *span), commands_.options().regularExpression());
+        if (fields.folder.empty() && document.isNamed())
+            fields.folder = document.fullPath().substr(0, document.fullPath().rfind('\\'));
+    }
+    if (fields.folder.empty()) fields.folder = platform::CurrentDirectory();
+    openDialog<FindInFilesDialog>(files_.searcher(), fields, text);
 }
 
 void SearchCommands::findNext() {

@@ -7,6 +7,7 @@
 #include "search/find_commands.h"
 #include "shell/command_dispatcher.h"
 #include "ui/dialogs/search_dialog.h"
+#include "ui/frame/file_search_commands.h"
 #include "ui/frame/key_actions.h"
 #include "ui/frame/keyboard_watch.h"
 #include "ui/frame/open_documents.h"
@@ -15,11 +16,13 @@ namespace vexa {
 
 class SearchCommands : private SearchHost {
   public:
-    SearchCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, MessageLoop& loop)
+    SearchCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, MessageLoop& loop,
+                   FileSearchCommands& files)
         : documents_(documents),
           application_(application),
           notices_(notices),
           loop_(loop),
+          files_(files),
           commands_(application.searchOptions, notices, watch_) {}
 
     void registerCommands(CommandDispatcher& dispatcher);
@@ -37,8 +40,9 @@ class SearchCommands : private SearchHost {
   private:
     void openFind();
     void openReplace();
-    template <class Dialog>
-    void openDialog();
+    void openFindInFiles();
+    template <class Dialog, class... More>
+    void openDialog(More&... more);
     void findNext();
     void findPrevious();
     void findAtCaret();
@@ -55,6 +59,7 @@ class SearchCommands : private SearchHost {
     Application& application_;
     FrameNotices& notices_;
     MessageLoop& loop_;
+    FileSearchCommands& files_;
     KeyboardWatch watch_;
     FindCommands commands_;
     std::unique_ptr<SearchDialog> dialog_;  // the last one; its window may be gone

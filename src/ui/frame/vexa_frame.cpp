@@ -112,7 +112,7 @@ bool VexaFrame::onTimer(UINT_PTR timer) {
     if (timer == kSettingsTimer) {
         KillTimer(window(), kSettingsTimer);
         takeSystemSettings();
-    } else if (!unsaved_.useTimer(timer) && !commands_.external().useTimer(timer)) {
+    } else if (!unsaved_.useTimer(timer) && !commands_.useTimer(timer)) {
         backup_.CheckBackups();
     }
     return true;
@@ -152,6 +152,7 @@ bool VexaFrame::workWhileIdle() {
         hasMore |= window.document().lookAheadForComments(kLinesAtOnce);
         if (window.document().takeGuessedComments()) window.refresh();
     });
+    hasMore |= commands_.fileSearch().work();
     bars_.refreshTabs();
     return unsaved_.work() || hasMore;
 }

@@ -43,7 +43,7 @@ ViewRow ListPane::render(std::size_t row) {
     if (row >= list_.rowCount()) return RenderListRow({}, RowKind::Plain, false, view);
     const std::string_view text = list_.rowText(row);
     widest_ = std::max(widest_, ListRowWidth(text));
-    return RenderListRow(text, list_.rowKind(row), selection().holds(row), view);
+    return RenderListRow(text, list_.rowKind(row), selection().holds(row), view, list_.highlight(row));
 }
 
 void ListPane::showSelection() {
@@ -87,6 +87,8 @@ bool ListPane::onKey(const KeyMessage& key) {
         onScroll(SB_HORZ, key.key == VK_LEFT ? SB_LINELEFT : SB_LINERIGHT);
     } else if (key.key == VK_RETURN && list_.selectedRow()) {
         list_.activateRow();
+    } else if (key.key == VK_ESCAPE) {
+        list_.stopFilling();
     } else {
         return false;
     }

@@ -19,6 +19,8 @@ struct KindLook {
 constexpr KindLook kLooks[] = {
     {ColourElement::DefaultText, "  "}, {ColourElement::Keywords, "! "}, {ColourElement::Strings, "? "}};
 
+constexpr ColourElement kHighlight = ColourElement::Keywords;
+
 const KindLook& LookOf(RowKind kind) {
     return kLooks[static_cast<std::size_t>(kind)];
 }
@@ -38,18 +40,44 @@ constexpr KeyRow kKeys[] = {
     {0x28, [](std::size_t row, std::size_t, std::size_t last) { return std::min(row + 1, last); }},          // Down
 };
 
+// Cuts the cells up to an end out of the one run of a row.
+void SetApart(std::vector<CellRun>& runs, std::int32_t begin, std::int32_t end, bool exchangesColours) {
+    if (begin == end) return;
+    CellRun part = runs[0];
+    CellRun rest = runs[0];
+    part.start = begin;
+    part.length = end - begin;
+    rest.start = end;
+    rest.length -= end;
+    part.text = kHighlight;
+    if (exchangesColours) part = {part.start, part.length, rest.background, rest.text};
+    runs[0].length = begin;
+    if (begin == 0) runs.clear();
+    runs.push_back(part);
+    if (rest.length > 0) runs.push_back(rest);
+}
+
 }  // namespace
 
 ColourElement ColourOf(RowKind kind) {
     return LookOf(kind).colour;
 }
 
-ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, const RowView& view) {
+ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, const RowView& view,
+                      const RowPart& highlight) {
     const CellRun run{0, view.columns, isSelected ? ColourElement::MarkingText : ColourOf(kind),
                       isSelected ? ColourElement::MarkingBackground : ColourElement::Background};
     std::string marked(view.hasMarks ? LookOf(kind).mark : std::string_view());
+    const std::size_t start = marked.size() + highlight.start;
     marked += text;
-    return {VisibleCells(marked, kTabSize, DisplayColumn(view.left), view.columns), {run}};
+    ViewRow row{VisibleCells(marked, kTabSize, DisplayColumn(view.left), view.columns), {run}};
+    if (isSelected || highlight.length == 0) return row;
+    const auto cellOf = [&](std::size_t character) {
+        const std::int32_t column = ListRowWidth(std::string_view(marked).substr(0, character));
+        return std::clamp(column - view.left, 0, view.columns);
+    };
+    SetApart(row.runs, cellOf(start), cellOf(start + highlight.length), view.hasMarks);
+    return row;
 }
 
 std::int32_t ListRowWidth(std::string_view text) {

@@ -22,8 +22,10 @@ inline constexpr std::int32_t kMarkWidth = 2;
 
 // The colours that the kinds of rows are told apart by.
 ColourElement ColourOf(RowKind kind);
-// The cells of a row's text with tabs at every eighth column.
-ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, const RowView& view);
+// The cells of a row's text with tabs at every eighth column. What is highlighted, in a row that is not selected, has a
+// colour of its own, or those of the row exchanged where colours do not tell the kinds of rows apart.
+ViewRow RenderListRow(std::string_view text, RowKind kind, bool isSelected, const RowView& view,
+                      const RowPart& highlight = {});
 // The columns that the text takes.
 std::int32_t ListRowWidth(std::string_view text);
 

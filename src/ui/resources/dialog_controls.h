@@ -25,6 +25,8 @@
 #define IDD_COMPILER_SETUP 3330
 #define IDD_DOCUMENT_CHOICE 3340
 #define IDD_EXTENDED 3350
+#define IDD_FIND_IN_FILES 3360
+#define IDD_REPLACE_IN_FILES 3361
 
 // The one field of the dialogs that ask for a number.
 #define IDC_NUMBER 101
@@ -63,6 +65,14 @@
 #define IDC_SEARCH_DOWN 308
 #define IDC_REPLACE 309
 #define IDC_PATTERN_PIECES 310
+
+// "Find in Files" and "Replace in Files", beside those.
+#define IDC_SEARCHED_FOLDER 311
+#define IDC_BROWSE_FOLDERS 312
+#define IDC_FILE_PATTERNS 313
+#define IDC_SUBFOLDERS 314
+#define IDC_ALL_LINES 315
+#define IDC_CHOSEN_LINES 316
 
 // "Color Setup".
 #define IDC_PRESETS 401

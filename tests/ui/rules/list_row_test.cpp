@@ -17,6 +17,19 @@ TEST(ListRow, KindsAndSelectionAreToldApartByColour) {
     EXPECT_EQ(ListRowWidth("a\tb"), 9);
 }
 
+TEST(ListRow, WhatIsHighlightedStandsOut) {
+    const RowPart part{2, 1};
+    const auto runs = [&](std::int32_t left, bool hasMarks, bool isSelected = false) {
+        return RenderListRow("a\tb", RowKind::Plain, isSelected, {left, 12, hasMarks}, part).runs;
+    };
+    const CellRun high{8, 1, ColourElement::Keywords};
+    EXPECT_EQ(runs(0, false), (std::vector<CellRun>{{0, 8}, high, {9, 3}}));
+    EXPECT_EQ(runs(8, false), (std::vector<CellRun>{{0, 1, ColourElement::Keywords}, {1, 11}}));
+    EXPECT_EQ(runs(9, false), (std::vector<CellRun>{{0, 12}}));
+    EXPECT_EQ(runs(0, true)[1], (CellRun{8, 1, ColourElement::Background, ColourElement::DefaultText}));
+    EXPECT_EQ(runs(0, false, true).size(), 1u);
+}
+
 TEST(ListRow, WithoutColoursMarksTellTheKindsApart) {
     EXPECT_EQ(RenderListRow("x", RowKind::Error, true, {0, 9, true}).cells, "! x");
     EXPECT_EQ(RenderListRow("x", RowKind::Warning, false, {0, 9, true}).cells, "? x");

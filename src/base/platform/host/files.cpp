@@ -242,4 +242,35 @@ std::vector<std::string> FindDirectories(const std::string& directory) {
     });
 }
 
+namespace {
+
+// Only what a link leads to has to be asked for.
+void Add(const dirent& entry, const std::string& folder, DirectoryContents& contents) {
+    const std::string_view name = entry.d_name;
+    const bool isKnown = entry.d_type == DT_REG || entry.d_type == DT_DIR;
+    const auto info = isKnown ? std::nullopt : StatusOf(folder + "/" + entry.d_name);
+    if (entry.d_type == DT_DIR || (info && S_ISDIR(info->st_mode))) contents.directories.emplace_back(name);
+    if (entry.d_type == DT_REG || (info && S_ISREG(info->st_mode))) contents.files.emplace_back(name);
+}
+
+}  // namespace
+
+std::optional<DirectoryContents> ReadDirectory(const std::string& directory) {
+    const std::string folder = HostPath(directory);
+    const auto close = [](DIR* opened) { closedir(opened); };
+    const std::unique_ptr<DIR, decltype(close)> opened(folder.empty() ? nullptr : opendir(folder.c_str()), close);
+    if (!opened) return std::nullopt;
+    DirectoryContents contents;
+    if (const auto info = StatusOf(folder)) {
+        contents.volume = info->st_dev;
+        contents.index = info->st_ino;
+    }
+    while (const dirent* entry = readdir(opened.get())) {
+        if (entry->d_name[0] != '.') Add(*entry, folder, contents);
+    }
+    std::ranges::sort(contents.files, LessIgnoringCase);
+    std::ranges::sort(contents.directories, LessIgnoringCase);
+    return contents;
+}
+
 }  // namespace vexa::platform

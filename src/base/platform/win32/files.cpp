@@ -282,4 +282,44 @@ std::vector<std::string> FindDirectories(const std::string& directory) {
     });
 }
 
+namespace {
+
+// Windows 98 opens no directories; there are no links to them there either.
+void Identify(const std::string& directory, DirectoryContents& contents) {
+    const HANDLE opened = CreateFileA(directory.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return;
+    BY_HANDLE_FILE_INFORMATION info{};
+    if (GetFileInformationByHandle(opened, &info)) {
+        contents.volume = info.dwVolumeSerialNumber;
+        contents.index = Joined(info.nFileIndexHigh, info.nFileIndexLow);
+    }
+    CloseHandle(opened);
+}
+
+void Add(const WIN32_FIND_DATAA& found, DirectoryContents& contents) {
+    const std::string_view name = found.cFileName;
+    if ((found.dwFileAttributes & kNotShown) || name == "." || name == "..") return;
+    const bool isDirectory = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+    (isDirectory ? contents.directories : contents.files).emplace_back(name);
+}
+
+}  // namespace
+
+std::optional<DirectoryContents> ReadDirectory(const std::string& directory) {
+    const std::string pattern = directory + (directory.ends_with('\\') ? "*" : "\\*");
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA(pattern.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return std::nullopt;
+    DirectoryContents contents;
+    Identify(directory, contents);
+    do {
+        Add(found, contents);
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    std::ranges::sort(contents.files, LessIgnoringCase);
+    std::ranges::sort(contents.directories, LessIgnoringCase);
+    return contents;
+}
+
 }  // namespace vexa::platform
