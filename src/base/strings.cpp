@@ -13,13 +13,13 @@ struct Text {
 };
 
 consteval auto SortedTexts() {
-    std::array texts{
-#define VEXA_TEXT(name, number, text) Text{TextId::name, text},
+    auto texts = std::to_array<Text>({
+#define VEXA_TEXT(name, number, text) {TextId::name, text},
 #define VEXA_UNNUMBERED_TEXT(name, text) VEXA_TEXT(name, 0, text)
 #include "base/strings.def"
 #undef VEXA_TEXT
 #undef VEXA_UNNUMBERED_TEXT
-    };
+    });
     std::ranges::sort(texts, {}, &Text::id);
     return texts;
 }

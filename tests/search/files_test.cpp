@@ -11,6 +11,7 @@
 #include "search/files/file_search_job.h"
 #include "search/files/hit_replacement.h"
 #include "search/find_session.h"
+#include "support/test_disk.h"
 
 #ifndef _WIN32
 #include <filesystem>
