@@ -224,6 +224,12 @@ bool Editor::runCommand(CommandId id) const {
     return SendMessageTimeoutA(frame_, WM_COMMAND, static_cast<WPARAM>(id), 0, SMTO_NORMAL, kPatience, nullptr);
 }
 
+// A message of a program overtakes the release of the mouse that brings the caret back into sight.
+bool Editor::send(UINT message, WPARAM parameter) const {
+    WaitUntil([this] { return capture() == nullptr; });
+    return SendMessageTimeoutA(activePane(), message, parameter, 0, SMTO_NORMAL, kPatience, nullptr);
+}
+
 void Editor::keys(const std::string& script) const {
     // A box of the editor that is open is in front instead of the frame. While the editor closes windows, its frame is
     // disabled and loses keys.

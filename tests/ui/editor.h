@@ -80,6 +80,8 @@ class Editor {
     // Keys go to the window that has the focus, as from the keyboard.
     void keys(const std::string& script) const;
     void command(CommandId id) const { PostMessageA(frame_, WM_COMMAND, static_cast<WPARAM>(id), 0); }
+    // The active pane does what the message asks for before this returns; false when it does not answer.
+    bool send(UINT message, WPARAM parameter) const;
     // Runs a command to its end; false when the editor does not answer.
     bool runCommand(CommandId id) const;
     // Waits until no dialog and no closing of windows makes the editor refuse commands and its own end.

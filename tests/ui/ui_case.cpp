@@ -237,7 +237,7 @@ bool TurnWheel(Stage& stage, Words words) {
     static const std::map<std::string, WORD> kHeld = {{"alone", 0}, {"shift", MK_SHIFT}, {"control", MK_CONTROL}};
     const WORD held = kHeld.at(words.word());
     const WPARAM turn = MAKEWPARAM(held, static_cast<WORD>(words.number()));
-    return PostMessageA(stage.editor->activePane(), WM_MOUSEWHEEL, turn, 0);
+    return stage.editor->send(WM_MOUSEWHEEL, turn);
 }
 
 bool Scroll(Stage& stage, Words words) {
@@ -245,7 +245,7 @@ bool Scroll(Stage& stage, Words words) {
                                                           {"page-down", SB_PAGEDOWN}, {"page-up", SB_PAGEUP},
                                                           {"start", SB_TOP},          {"end", SB_BOTTOM}};
     const UINT bar = words.word() == "vertical" ? WM_VSCROLL : WM_HSCROLL;
-    return PostMessageA(stage.editor->activePane(), bar, kRequests.at(words.word()), 0);
+    return stage.editor->send(bar, kRequests.at(words.word()));
 }
 
 // Beside NAME.png the file NAME.area says which part of the screen it is, as "WIDTHxHEIGHT+X+Y".

@@ -22,7 +22,7 @@ class TemporaryEnd {
 // The line of a text that a character, or the end, of the text belongs to; the text begins with a line.
 FoundLine LineAt(char* begin, char* end, const char* character) {
     const std::string_view before(begin, static_cast<std::size_t>(character - begin));
-    FoundLine line{begin + before.rfind('\n') + 1, end, end, {}};
+    FoundLine line{begin + (before.rfind('\n') + 1), end, end, {}};
     char* const from = begin + before.size();
     if (auto* const found = static_cast<char*>(std::memchr(from, '\n', static_cast<std::size_t>(end - from)))) {
         line.end = found;
