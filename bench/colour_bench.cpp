@@ -46,12 +46,12 @@ void TokensVexa(benchmark::State& state) {
     const TokenRules rules{ExtensionProfile()};
     std::size_t tokens = 0;
     for (auto _ : state) {
-        LineState state = LineState::Outside;
+        LineState lineState = LineState::Outside;
         for (const std::string& line : lines) {
-            LineTokenizer tokenizer(rules, line, state);
+            LineTokenizer tokenizer(rules, line, lineState);
             while (tokenizer.NextToken().kind != TokenKind::EndOfLine)
                 ++tokens;
-            state = tokenizer.endState();
+            lineState = tokenizer.endState();
         }
     }
     benchmark::DoNotOptimize(tokens);
