@@ -22,9 +22,12 @@ std::size_t EndOfBrackets(std::string_view pattern, std::size_t open) {
 }
 
 std::string WithTabs(std::string_view brackets) {
-    std::string text(brackets);
-    for (std::size_t at = 0; (at = text.find("\\t", at)) != std::string::npos;)
-        text.replace(at, 2, "\t");
+    std::string text;
+    for (std::size_t i = 0; i < brackets.size(); ++i) {
+        const bool isTab = brackets.substr(i, 2) == "\\t";
+        if (isTab) ++i;
+        text += isTab ? '\t' : brackets[i];
+    }
     return text;
 }
 
