@@ -178,8 +178,10 @@ void TextLoader::storeSplit(const Cut& cut) {
 
 void TextLoader::store(const char* text, std::size_t length, LineEnd end) {
     LinePtr line(arena_.makeLine(text, length));
-    line->setEnd(end);
-    tally_.add(end);
+    if (end != LineEnd::None) {
+        line->setEnd(end);
+        tally_.add(end);
+    }
     document_.lines().put(std::move(line), lines_++);
 }
 
