@@ -50,4 +50,10 @@ bool IsNamePart(std::string_view part) {
     return std::ranges::none_of(part, refused) && !IsDevice(part);
 }
 
+std::string PrefixOf(std::string_view directory) {
+    std::string prefix(directory);
+    if (!prefix.ends_with('\\')) prefix += '\\';
+    return prefix;
+}
+
 }  // namespace vexa

@@ -19,6 +19,9 @@ NameFault FaultOfName(const std::string& path);
 // current directory.
 bool IsFullName(std::string_view path);
 
+// A directory with a "\" at its end, to put a name behind.
+std::string PrefixOf(std::string_view directory);
+
 // Whether a text can stand between two "\" of a path; "NUL" and the other devices cannot.
 bool IsNamePart(std::string_view part);
 

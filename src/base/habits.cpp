@@ -1,17 +1,14 @@
 #include "base/habits.h"
 
+#include "base/switch_rows.h"
+
 namespace vexa {
 
 namespace {
 
 constexpr const char* kSection = "Extended";
 
-struct HabitKey {
-    const char* key;
-    bool Habits::*habit;
-};
-
-constexpr HabitKey kHabitKeys[] = {
+constexpr SwitchRow<Habits> kHabitKeys[] = {
     {"KeepFiles", &Habits::keepFiles},           {"LargeFiles", &Habits::largeFiles},
     {"LargeClipboard", &Habits::largeClipboard}, {"WholeSession", &Habits::wholeSession},
     {"LanguageQuotes", &Habits::languageQuotes}, {"ReplacementGroups", &Habits::replacementGroups},
@@ -21,13 +18,12 @@ constexpr HabitKey kHabitKeys[] = {
 }  // namespace
 
 void Habits::Load(const ConfigStore& store) {
-    for (const HabitKey& row : kHabitKeys)
-        this->*row.habit = store.ReadInt(kSection, row.key, 0) != 0;
+    *this = {};
+    LoadSwitches(store, kSection, kHabitKeys, *this);
 }
 
 void Habits::Save(ConfigStore& store) const {
-    for (const HabitKey& row : kHabitKeys)
-        store.WriteInt(kSection, row.key, this->*row.habit ? 1 : 0);
+    SaveSwitches(store, kSection, kHabitKeys, *this);
 }
 
 }  // namespace vexa

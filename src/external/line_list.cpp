@@ -1,6 +1,7 @@
 #include "external/line_list.h"
 
 #include "base/file.h"
+#include "base/file_name.h"
 #include "base/strings.h"
 #include "external/captured_lines.h"
 
@@ -94,7 +95,7 @@ void LineList::show() {
 std::string LineList::pathOf(const std::string& fileName) const {
     if (NamesDriveAndFile(fileName)) return fileName;
     if (fileName.find('\\') != std::string::npos) return platform::FullPath(fileName);
-    return baseDirectory_ + (baseDirectory_.ends_with('\\') ? "" : "\\") + fileName;
+    return PrefixOf(baseDirectory_) + fileName;
 }
 
 bool LineList::openAt(const std::string& fileName, std::int32_t lineNumber) {

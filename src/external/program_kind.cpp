@@ -4,6 +4,7 @@
 
 #include "base/ascii.h"
 #include "base/file.h"
+#include "base/file_name.h"
 
 namespace vexa {
 
@@ -42,10 +43,6 @@ std::optional<std::string> WithExtension(const std::string& path) {
     return std::nullopt;
 }
 
-std::string Joined(std::string_view directory, const std::string& name) {
-    return std::string(directory) + (directory.ends_with('\\') ? "" : "\\") + name;
-}
-
 }  // namespace
 
 ProgramKind KindOfProgram(const std::string& path) {
@@ -67,7 +64,7 @@ std::optional<std::string> FindProgram(const std::string& name, const std::strin
         begin = end + 1;
         if (directory.size() > 1 && directory.front() == '"') directory = directory.substr(1, directory.size() - 2);
         if (directory.empty()) continue;
-        if (auto found = WithExtension(Joined(directory, name))) return found;
+        if (auto found = WithExtension(PrefixOf(directory) + name)) return found;
     }
     return std::nullopt;
 }

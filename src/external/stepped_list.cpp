@@ -41,4 +41,15 @@ void SteppedList::PreviousError() {
     }
 }
 
+void ListSteps::add(SteppedList& list) {
+    lists_.push_back(&list);
+    last_ = &list;
+}
+
+void ListSteps::use(const ListRows& list) {
+    for (SteppedList* stepped : lists_) {
+        if (stepped == &list) last_ = stepped;
+    }
+}
+
 }  // namespace vexa

@@ -1,6 +1,8 @@
 // A list with rows to be gone through one by one, and the list that is gone through.
 #pragma once
 
+#include <vector>
+
 #include "base/strings.h"
 #include "external/line_list.h"
 
@@ -26,14 +28,18 @@ class SteppedList : public LineList {
     void finishStep(std::size_t row, bool found);
 };
 
-// The list that the user has used last is the one whose rows the commands go through.
+// The list that the user has used last is the one whose rows the commands go through; before that the one that came
+// last.
 class ListSteps {
   public:
-    void use(SteppedList& list) { last_ = &list; }
+    void add(SteppedList& list);
+    // Changes nothing for a list that was not added.
+    void use(const ListRows& list);
     void next() const { last_->NextError(); }
     void previous() const { last_->PreviousError(); }
 
   private:
+    std::vector<SteppedList*> lists_;
     SteppedList* last_ = nullptr;  // none before the first list is there
 };
 

@@ -12,8 +12,9 @@
 //   line comment: word [CHARACTERS]
 //                                 the profile's line comment begins only behind a blank or one of these
 //   code in quotes: OPEN CLOSE    what stands between these is code again, in quotes with "lines" and without "raw"
-//   text behind: OPEN             a word behind OPEN begins a text, from the next line to the line that is this word
-//   alone code: OPEN CLOSE              only what stands between these two characters is code, all around is text
+//   text behind: OPEN             a word behind OPEN begins a text, from the next line to the line of this word alone
+//
+//   code: OPEN CLOSE              only what stands between these two characters is code, all around is text
 #pragma once
 
 #include <optional>

@@ -95,6 +95,11 @@ std::optional<LineMatch> LineSearch::findAfter(std::string_view text, CharColumn
     return LineMatch{match.column + static_cast<std::int32_t>(begin), match.length};
 }
 
+std::optional<LineMatch> LineSearch::findBehind(std::string_view text, CharColumn replacementEnd) {
+    const std::optional<LineMatch> next = find(text, replacementEnd);
+    return next == LineMatch{replacementEnd, 0} ? findAfter(text, replacementEnd) : next;
+}
+
 std::string LineSearch::replacement() const {
     if (!regular_ || !habits_.replacementGroups) return replacement_;
     const auto length = std::min<std::ptrdiff_t>(program_->end(0) - program_->start(0), RegexMatcher::kTextLimit);

@@ -49,6 +49,8 @@ class LineSearch {
     // The first match of a regular expression that begins after a column of the text, with what stands at that column
     // seen as part of the line: neither "^" nor the start of a word are found where they are not.
     std::optional<LineMatch> findAfter(std::string_view text, CharColumn column);
+    // The next match after a replacement that ends at a column: an empty one there would be found for ever.
+    std::optional<LineMatch> findBehind(std::string_view text, CharColumn replacementEnd);
 
   private:
     // Both are called for every line, and most lines have no match: a flag costs half of what an optional does.

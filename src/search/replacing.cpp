@@ -107,8 +107,7 @@ void SearchRun::replaceAll(const DocumentMatch& first) {
 // The next match after a replacement that ends at a position.
 std::optional<DocumentMatch> SearchRun::findAfter(const DocumentMatch& match, TextPosition end) {
     const std::string_view text = subject(end.line);
-    std::optional<LineMatch> next = search_.find(text, end.column);
-    if (next == LineMatch{end.column, 0}) next = search_.findAfter(text, end.column);
+    const std::optional<LineMatch> next = search_.findBehind(text, end.column);
     if (next && next->column.value <= static_cast<std::int32_t>(document_.text(end.line).size()))
         return DocumentMatch{end.line, *next};
     return findFrom({(options_.forward() ? end.line : match.line) + step_, CharColumn(0)});

@@ -9,8 +9,7 @@ namespace {
 std::string PathOf(const std::string& name) {
     if (IsFullName(name)) return name;
     const std::string file = name.substr(name.find_last_of('\\') + 1);
-    const std::string directory = platform::CurrentDirectory();
-    return directory.ends_with('\\') ? directory + file : directory + "\\" + file;
+    return PrefixOf(platform::CurrentDirectory()) + file;
 }
 
 }  // namespace

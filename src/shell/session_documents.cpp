@@ -3,14 +3,17 @@
 #include <algorithm>
 
 #include "base/ascii.h"
+#include "base/directories.h"
 #include "base/file.h"
 #include "base/platform.h"
+#include "base/strings.h"
 
 namespace vexa {
 
 namespace {
 
 constexpr std::size_t kFileLimit = 16 * 1024 * 1024;  // bytes
+constexpr std::size_t kPathsInBox = 10;
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr char kBeforePath = '\t';  // what no path has
 
@@ -67,6 +70,15 @@ std::vector<SessionDocument> ReadSessionText(std::string_view text) {
         text.remove_prefix(end + kLineEnd.size());
     }
     return documents;
+}
+
+std::string TextOfMissing(std::span<const std::string> paths) {
+    if (paths.size() == 1) return FillText(TextId::CannotOpenFile, {paths[0].substr(DirectoryOf(paths[0]).size())});
+    std::string names;
+    for (const std::string& path : paths.first(std::min(paths.size(), kPathsInBox)))
+        names.append(path).append("\n");
+    if (paths.size() > kPathsInBox) names.append("...");
+    return FillText(TextId::SessionFilesGone, {std::to_string(paths.size()), names});
 }
 
 void KeepSession(const std::string& file, std::span<const SessionDocument> documents) {

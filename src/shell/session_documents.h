@@ -26,6 +26,9 @@ SessionDocument DescribeForSession(const TextDocument& document, bool isActive);
 std::string SessionText(std::span<const SessionDocument> documents);
 std::vector<SessionDocument> ReadSessionText(std::string_view text);
 
+// What the user is told of files that have gone, in one box for all of them.
+std::string TextOfMissing(std::span<const std::string> paths);
+
 // Keeps the documents under a file's name; none removes it. A file that cannot be written stays as it was.
 void KeepSession(const std::string& file, std::span<const SessionDocument> documents);
 // The documents that the file keeps, which is removed: what stops the editor while it opens them is not tried again.

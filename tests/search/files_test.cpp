@@ -266,7 +266,7 @@ TEST_F(FilesSearch, StepsShowTheMatches) {
     disk.put("b", "needle\n");
     ASSERT_EQ(find("needle").size(), 2u);
     ListSteps steps;
-    steps.use(list);
+    steps.add(list);
     steps.next();
     EXPECT_EQ(windows.activeView()->document().fullPath(), disk.path("a"));
     EXPECT_EQ(windows.activeView()->positionText(), " L:00002 C:003");

@@ -2,17 +2,15 @@
 
 #include <algorithm>
 
+#include "base/switch_rows.h"
+
 namespace vexa {
 
 namespace {
 
 constexpr const char* kSection = "Print";
 
-struct SwitchKey {
-    const char* key;
-    bool PrintOptions::*value;
-};
-constexpr SwitchKey kSwitchKeys[] = {
+constexpr SwitchRow<PrintOptions> kSwitchKeys[] = {
     {"Colors", &PrintOptions::colours},
     {"LineNumbers", &PrintOptions::lineNumbers},
     {"Header", &PrintOptions::header},
@@ -32,8 +30,7 @@ constexpr MarginKey kMarginKeys[] = {
 }  // namespace
 
 void PrintOptions::Load(const ConfigStore& store) {
-    for (const SwitchKey& row : kSwitchKeys)
-        this->*row.value = store.ReadInt(kSection, row.key, this->*row.value ? 1 : 0) != 0;
+    LoadSwitches(store, kSection, kSwitchKeys, *this);
     for (const MarginKey& row : kMarginKeys) {
         const std::int32_t kept = store.ReadInt(kSection, row.key, margins.*row.value);
         margins.*row.value = std::clamp(kept, 0, kWidestMargin);
@@ -41,8 +38,7 @@ void PrintOptions::Load(const ConfigStore& store) {
 }
 
 void PrintOptions::Save(ConfigStore& store) const {
-    for (const SwitchKey& row : kSwitchKeys)
-        store.WriteInt(kSection, row.key, this->*row.value ? 1 : 0);
+    SaveSwitches(store, kSection, kSwitchKeys, *this);
     for (const MarginKey& row : kMarginKeys)
         store.WriteInt(kSection, row.key, margins.*row.value);
 }

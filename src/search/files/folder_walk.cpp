@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/file_name.h"
 #include "base/platform.h"
 
 namespace vexa {
@@ -23,8 +24,7 @@ FolderWalk::Step FolderWalk::step() {
 void FolderWalk::enter(const std::string& folder) {
     names_.clear();
     next_ = 0;
-    prefix_ = folder;
-    if (!prefix_.ends_with('\\')) prefix_ += '\\';
+    prefix_ = PrefixOf(folder);
     auto contents = platform::ReadDirectory(folder);
     if (!contents) {
         ++unreadable_;

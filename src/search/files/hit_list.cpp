@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/file_name.h"
 #include "search/shown_match.h"
 
 namespace vexa {
@@ -29,8 +30,7 @@ ShownText ShownPart(std::string_view text, const LineMatch& match) {
 void HitList::begin(const FileSearchRequest& request) {
     clearRows();
     request_ = request;
-    prefix_ = request.folder;
-    if (!prefix_.ends_with('\\')) prefix_ += '\\';
+    prefix_ = PrefixOf(request.folder);
     stopAsked_ = false;
     AddBanner();
     AddLine(FillText(TextId::SearchingFor, {request.options.findText(), prefix_, request.patterns}));

@@ -61,9 +61,7 @@ bool HitReplacement::replaceInLine(EditView& view, LineSearch& search, const Hit
         const CharColumn end = next->column + static_cast<std::int32_t>(text.size());
         view.editor().run<ReplaceRun>(hit.line, next->column, next->length, text);
         ++replacements_;
-        const std::string_view line = document.text(hit.line);
-        next = search.find(line, end);
-        if (next == LineMatch{end, 0}) next = search.findAfter(line, end);
+        next = search.findBehind(document.text(hit.line), end);
     }
     return true;
 }

@@ -22,8 +22,7 @@ std::vector<std::string> Split(std::string_view text, char separator) {
 
 // A dialog may also give names with paths of their own.
 std::string Joined(const std::string& directory, const std::string& name) {
-    if (IsFullName(name)) return name;
-    return directory.ends_with('\\') ? directory + name : directory + "\\" + name;
+    return IsFullName(name) ? name : PrefixOf(directory) + name;
 }
 
 // A directory and the names of files in it; or, as some dialogs give it, a path and the names of other files beside it.

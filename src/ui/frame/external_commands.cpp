@@ -29,23 +29,23 @@ static_assert(ToolNumber(kMostTools - 1) == NumberOf(CommandId::Tool15));
 }  // namespace
 
 ExternalCommands::ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices,
-                                   ListSteps& steps)
+                                   FrameLists& lists)
     : documents_(documents),
       application_(application),
       notices_(notices),
-      steps_(steps),
+      steps_(lists.steps()),
       programTimer_(documents.frame(), kProgramTimer),
       compilerTimer_(documents.frame(), kCompilerTimer),
       output_(*this, notices),
       messages_(*this, notices),
-      outputWindow_(TextId::OutputTitle, output_, documents.frame(), *this, application),
-      messageWindow_(TextId::MessageTitle, messages_, documents.frame(), *this, application),
+      outputWindow_(TextId::OutputTitle, output_, documents.frame(), lists, application),
+      messageWindow_(TextId::MessageTitle, messages_, documents.frame(), lists, application),
       tools_(application.directories),
       programs_(application.directories, output_, programTimer_, notices),
       compiler_(application.compilerSetup, application.directories, messages_, compilerTimer_, notices) {
     output_.attach(&outputWindow_);
     messages_.attach(&messageWindow_);
-    steps_.use(messages_);
+    steps_.add(messages_);
     tools_.LoadTools();
 }
 
@@ -69,13 +69,9 @@ void ExternalCommands::registerCommands(CommandDispatcher& dispatcher) {
 
 // ---- lists -------------------------------------------------------------------------------------------------------
 
-ListWindow* ExternalCommands::activeList() const {
-    return documents_.activeList();
-}
-
 // What is copied are the rows of a list where one is active.
 void ExternalCommands::copy() {
-    if (ListWindow* list = activeList()) return list->copy();
+    if (ListWindow* list = documents_.activeList()) return list->copy();
     documents_.operate(&OnView<&EditView::copy>);
 }
 
@@ -93,16 +89,6 @@ void ExternalCommands::showRows(DocumentWindow& window, const std::vector<std::s
 void ExternalCommands::showMessages() {
     steps_.use(messages_);
     messageWindow_.show();
-}
-
-void ExternalCommands::userActs() {
-    notices_.clearStatus();
-    if (messageWindow_.isActive()) steps_.use(messages_);
-}
-
-void ExternalCommands::zoom(std::int32_t steps) {
-    application_.font.zoom(steps);
-    documents_.refreshFonts();
 }
 
 // A window that comes up would take the keyboard from a dialog that is open; the timer asks again.

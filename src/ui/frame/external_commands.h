@@ -13,20 +13,19 @@
 #include "external/tool_list.h"
 #include "shell/command_dispatcher.h"
 #include "ui/frame/document_source.h"
+#include "ui/frame/frame_lists.h"
 #include "ui/frame/frame_timer.h"
 #include "ui/lists/list_window_holder.h"
 
 namespace vexa {
 
-class ExternalCommands : private FileOpener, private ListHost {
+class ExternalCommands : private FileOpener {
   public:
-    ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, ListSteps& steps);
+    ExternalCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, FrameLists& lists);
 
     void registerCommands(CommandDispatcher& dispatcher);
     // Shows the tools in the Tools menu of the frame's menu bar.
     void showTools();
-    // None when the active window shows no list.
-    ListWindow* activeList() const;
     // For a timer of the frame, given by its number: asks whether a program has ended. False when it is none of these.
     bool useTimer(UINT_PTR timer);
     // Shows rows that number lines of a document in the Output window.
@@ -52,8 +51,6 @@ class ExternalCommands : private FileOpener, private ListHost {
     void setUpCompiler();
 
     bool openFileAtLine(const std::string& path, std::int32_t line) override;
-    void userActs() override;
-    void zoom(std::int32_t steps) override;
 
     OpenDocuments& documents_;
     Application& application_;

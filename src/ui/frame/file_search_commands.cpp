@@ -15,16 +15,17 @@ constexpr int kPause = 10;  // milliseconds
 }  // namespace
 
 FileSearchCommands::FileSearchCommands(OpenDocuments& documents, Application& application, FrameNotices& notices,
-                                       ListSteps& steps)
+                                       FrameLists& lists)
     : documents_(documents),
       application_(application),
       notices_(notices),
-      steps_(steps),
+      steps_(lists.steps()),
       timer_(documents.frame(), kSearchTimer),
       hits_(*this, application.searchOptions, notices),
-      window_(TextId::SearchResultsTitle, hits_, documents.frame(), *this, application),
+      window_(TextId::SearchResultsTitle, hits_, documents.frame(), lists, application),
       job_(hits_, *this, notices) {
     hits_.attach(&window_);
+    steps_.add(hits_);
     fields_.Load(application.store);
 }
 
@@ -93,6 +94,7 @@ void FileSearchCommands::replace() {
 
 // ---- what the search and the list ask for ------------------------------------------------------------------------
 
+// By name alone: it is asked for every file, and the identity of a file takes an opening of it.
 const TextDocument* FileSearchCommands::documentOf(const std::string& path) const {
     const TextDocument* found = nullptr;
     documents_.each([&](DocumentWindow& window) {
@@ -117,16 +119,6 @@ EditView* FileSearchCommands::activeView() {
 
 void FileSearchCommands::refreshActive() {
     documents_.active()->refresh();
-}
-
-void FileSearchCommands::userActs() {
-    notices_.clearStatus();
-    steps_.use(hits_);
-}
-
-void FileSearchCommands::zoom(std::int32_t steps) {
-    application_.font.zoom(steps);
-    documents_.refreshFonts();
 }
 
 }  // namespace vexa

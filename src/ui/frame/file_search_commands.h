@@ -7,15 +7,16 @@
 #include "search/files/file_search_model.h"
 #include "search/files/hit_replacement.h"
 #include "shell/command_dispatcher.h"
+#include "ui/frame/frame_lists.h"
 #include "ui/frame/frame_timer.h"
 #include "ui/frame/open_documents.h"
 #include "ui/lists/list_window_holder.h"
 
 namespace vexa {
 
-class FileSearchCommands : private SearchedFiles, private FileSearcher, private ListHost {
+class FileSearchCommands : private SearchedFiles, private FileSearcher {
   public:
-    FileSearchCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, ListSteps& steps);
+    FileSearchCommands(OpenDocuments& documents, Application& application, FrameNotices& notices, FrameLists& lists);
 
     void registerCommands(CommandDispatcher& dispatcher);
     FileSearcher& searcher() { return *this; }
@@ -39,8 +40,6 @@ class FileSearchCommands : private SearchedFiles, private FileSearcher, private 
     std::string_view delimitersOf(const std::string& path) override;
     EditView* activeView() override;
     void refreshActive() override;
-    void userActs() override;
-    void zoom(std::int32_t steps) override;
 
     OpenDocuments& documents_;
     Application& application_;

@@ -33,7 +33,8 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       dispatcher_(notices, [this](CommandNeed need) { return isMet(need); }),
       player_(documents, dispatcher_, keys_),
       macro_(player_, documents.frame(), notices, loop, application.store),
-      fileSearch_(documents, application, notices, steps_),
+      lists_(documents, notices, options_),
+      fileSearch_(documents, application, notices, lists_),
       search_(documents, application, notices, loop, fileSearch_),
       files_(documents, application.options),
       paths_(documents, application, notices),
@@ -43,7 +44,7 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
       options_(documents, application, notices),
       help_(documents.frame()),
       quickHelp_(documents, application, notices, printing_.desk()),
-      external_(documents, application, notices, steps_) {
+      external_(documents, application, notices, lists_) {
     RegisterCommandsOf(dispatcher_, macro_, fileSearch_, search_, files_, paths_, editing_, textTools_, printing_,
                        options_, help_, quickHelp_, external_);
     RegisterWindowCommands(dispatcher_, documents.frame());
@@ -54,7 +55,7 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
 
 bool FrameCommands::isMet(CommandNeed need) const {
     if (need == CommandNeed::Window) return !documents_.frame().children().empty();
-    return documents_.active() || (need == CommandNeed::EditArea && external_.activeList());
+    return documents_.active() || (need == CommandNeed::EditArea && documents_.activeList());
 }
 
 bool FrameCommands::useKey(MSG& message) {

@@ -43,7 +43,7 @@ class FrameCommands {
     KeyActions keys_;
     MacroPlayer player_;
     MacroCommands macro_;
-    ListSteps steps_;
+    FrameLists lists_;
     FileSearchCommands fileSearch_;
     SearchCommands search_;
     DocumentCommands files_;

@@ -15,8 +15,6 @@ namespace {
 
 constexpr WORD kRecentFilesSeparator = 100;
 
-constexpr std::size_t kPathsInBox = 10;
-
 WORD NumberOf(CommandId id) {
     return static_cast<WORD>(id);
 }
@@ -59,20 +57,8 @@ void Session::restoreFile(const std::string& path, std::int32_t line) {
     }
 }
 
-// One box for all of them.
 void Session::tellMissing(std::span<const std::string> paths) {
-    if (paths.empty()) return;
-    std::string text;
-    if (paths.size() == 1) {
-        text = FillText(TextId::CannotOpenFile, {paths[0].substr(DirectoryOf(paths[0]).size())});
-    } else {
-        std::string names;
-        for (const std::string& path : paths.first(std::min(paths.size(), kPathsInBox)))
-            names.append(path).append("\n");
-        if (paths.size() > kPathsInBox) names.append("...");
-        text = FillText(TextId::SessionFilesGone, {std::to_string(paths.size()), names});
-    }
-    notices_.box(text, TextId::ErrorCaption, BoxButtons::Ok);
+    if (!paths.empty()) notices_.box(TextOfMissing(paths), TextId::ErrorCaption, BoxButtons::Ok);
 }
 
 void Session::restoreAll() {

@@ -117,4 +117,12 @@ bool TabLayout::hasMoreAtRight() const {
     return widthOf(first_, widths_.size()) > room_;
 }
 
+std::optional<std::size_t> TabLayout::dropAt(int x, std::size_t dragged) const {
+    const std::optional<std::size_t> over = at(x);
+    if (!over || *over == dragged) return std::nullopt;
+    const int width = widths_[dragged];
+    const bool liesUnder = *over < dragged ? x < spanOf(*over).left + width : x >= spanOf(*over).right - width;
+    return liesUnder ? over : std::nullopt;
+}
+
 }  // namespace vexa

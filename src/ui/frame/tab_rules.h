@@ -67,6 +67,9 @@ class TabLayout {
     // None beside the tabs.
     std::optional<std::size_t> at(int x) const;
     bool hasMoreAtRight() const;
+    // The position that a tab takes which is dragged to there: that of the tab under the mouse, unless the dragged one
+    // would lie beside the mouse then, as two of unequal width would change places for ever.
+    std::optional<std::size_t> dropAt(int x, std::size_t dragged) const;
 
   private:
     int widthOf(std::size_t from, std::size_t to) const;

@@ -144,20 +144,12 @@ bool TabStripCL::onMousePress(const MouseButtonMessage& press) {
     return true;
 }
 
-// A tab that is dragged over another one takes its position, unless it would lie beside the mouse then: two of unequal
-// width would else change places for ever.
 bool TabStripCL::onMouseMove(POINT place) {
-    const auto index = layout_.at(place.x);
     if (!dragged_) {
-        showTipOf(index);
-    } else if (index && *index != *dragged_) {
-        const auto [left, right] = layout_.spanOf(*dragged_);
-        const auto [otherLeft, otherRight] = layout_.spanOf(*index);
-        const bool isThere =
-            *index < *dragged_ ? place.x < otherLeft + right - left : place.x >= otherRight - right + left;
-        if (!isThere) return true;
-        host_.moveTab(*dragged_, *index);
-        dragged_ = index;
+        showTipOf(layout_.at(place.x));
+    } else if (const auto target = layout_.dropAt(place.x, *dragged_)) {
+        host_.moveTab(*dragged_, *target);
+        dragged_ = target;
     }
     return true;
 }
@@ -178,10 +170,7 @@ bool TabStripCL::onWheel(const WheelMessage& turn) {
 }
 
 void TabStripCL::turnWheel(int delta) {
-    constexpr int kNotch = 120;
-    wheel_ += delta;
-    layout_.scroll(-(wheel_ / kNotch));
-    wheel_ %= kNotch;
+    layout_.scroll(wheel_.add(delta, 1));
     showTipOf(std::nullopt);
     InvalidateRect(window(), nullptr, FALSE);
 }

@@ -7,6 +7,7 @@
 
 #include "framework/gdi.h"
 #include "framework/window.h"
+#include "ui/document/scroll_rules.h"
 #include "ui/frame/tab_rules.h"
 
 namespace vexa {
@@ -70,7 +71,7 @@ class TabStripCL : public WindowCL {
     std::optional<std::size_t> tipOf_;
     std::optional<std::size_t> dragged_;
     int height_ = 0;
-    int wheel_ = 0;  // turned, but not by a whole notch yet
+    WheelSteps wheel_;
 };
 
 }  // namespace vexa

@@ -128,5 +128,19 @@ TEST(TabLayout, ATabIsFoundWhereItLies) {
         EXPECT_EQ(layout.at(x), tab) << x;
 }
 
+TEST(TabLayout, ADraggedTabGoesWhereItThenLiesUnderTheMouse) {
+    TabLayout layout;
+    layout.take({50, 30, 40}, 200);
+    struct Case {
+        std::size_t dragged;
+        int x;
+        std::optional<std::size_t> to;
+    };
+    const Case cases[] = {{0, 49, {}}, {0, 55, 1}, {0, 85, 2},  {0, 130, {}}, {0, -1, {}}, {1, 45, {}},
+                          {1, 29, 0},  {2, 65, 1}, {2, 49, {}}, {2, 39, 0},   {1, 95, 2},  {1, 85, {}}};
+    for (const Case& c : cases)
+        EXPECT_EQ(layout.dropAt(c.x, c.dragged), c.to) << c.dragged << " at " << c.x;
+}
+
 }  // namespace
 }  // namespace vexa
