@@ -86,7 +86,7 @@ void SearchRun::replaceOne(const DocumentMatch& match) {
     if (end.line != document_.currentLine()) view_.editor().moveToLine(end.line);
     view_.editor().moveToColumn(end.column);
     options_.forgetMatch();
-    if (options_.habits().searchAround) showAsNext(findAfter(match, end));
+    if (options_.habits().searchAround) showAsNext(findAfter(end));
     view_.finish();
 }
 
@@ -97,20 +97,21 @@ void SearchRun::replaceAll(const DocumentMatch& first) {
         if (isDoneAlready) break;
         const TextPosition end = exchange(*next);
         if (progress_.mustStop()) break;
-        next = findAfter(*next, end);
+        next = findAfter(end);
     }
     moveTo(origin_);
     options_.forgetMatch();
     view_.finish();
 }
 
-// The next match after a replacement that ends at a position.
-std::optional<DocumentMatch> SearchRun::findAfter(const DocumentMatch& match, TextPosition end) {
+// The next match after a replacement that ends at a position. What it has made of the line that the search had reached
+// may be several lines, each of them looked at already.
+std::optional<DocumentMatch> SearchRun::findAfter(TextPosition end) {
     const std::string_view text = subject(end.line);
     const std::optional<LineMatch> next = search_.findBehind(text, end.column);
     if (next && next->column.value <= static_cast<std::int32_t>(document_.text(end.line).size()))
         return DocumentMatch{end.line, *next};
-    return findFrom({(options_.forward() ? end.line : match.line) + step_, CharColumn(0)});
+    return findFrom({(options_.forward() ? end.line : reached_) + step_, CharColumn(0)});
 }
 
 }  // namespace vexa

@@ -20,7 +20,8 @@ SearchRun::SearchRun(EditView& view, SearchOptions& options, SearchProgress& pro
       progress_(progress),
       search_(options, DelimitersOf(document_)),
       step_(options.forward() ? 1 : -1),
-      origin_{document_.currentLine(), document_.column()} {}
+      origin_{document_.currentLine(), document_.column()},
+      reached_(origin_.line) {}
 
 bool SearchRun::findNext() {
     const std::optional<DocumentMatch> match = findFrom(start());
@@ -79,10 +80,14 @@ std::optional<DocumentMatch> SearchRun::findBetween(TextPosition start, LineInde
 std::optional<DocumentMatch> SearchRun::findFrom(TextPosition start) {
     const TextPosition first = options_.forward() ? TextPosition{} : TextPosition{lastTextLine(), CharColumn(0)};
     const LineIndex last = options_.forward() ? lastTextLine() : LineIndex(0);
-    const auto found = findBetween(start, isAround_ ? origin_.line : last);
-    if (found || isAround_ || progress_.stopped() || search_.isNowhere() || origin_ == first) return found;
-    isAround_ = AsksToGoAround(options_, document_.notices());
-    return isAround_ ? findBetween(first, origin_.line) : std::nullopt;
+    auto found = findBetween(start, isAround_ ? origin_.line : last);
+    const bool endsHere = found || isAround_ || progress_.stopped() || search_.isNowhere() || origin_ == first;
+    if (!endsHere && AsksToGoAround(options_, document_.notices())) {
+        isAround_ = true;
+        found = findBetween(first, origin_.line);
+    }
+    if (found) reached_ = found->line;
+    return found;
 }
 
 }  // namespace vexa

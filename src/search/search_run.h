@@ -40,7 +40,7 @@ class SearchRun {
     TextPosition endOf(const DocumentMatch& match) const;
     std::optional<DocumentMatch> findBetween(TextPosition start, LineIndex last);
     std::optional<DocumentMatch> findFrom(TextPosition start);
-    std::optional<DocumentMatch> findAfter(const DocumentMatch& match, TextPosition end);
+    std::optional<DocumentMatch> findAfter(TextPosition end);
     std::optional<DocumentMatch> pendingMatch();
     void showAsNext(const std::optional<DocumentMatch>& match);
     TextPosition exchange(const DocumentMatch& match);
@@ -57,6 +57,7 @@ class SearchRun {
     LineSearch search_;
     const std::int32_t step_;
     TextPosition origin_;    // the cursor's, which goes along with the text around it
+    LineIndex reached_;      // the line of the last match that did not follow a replacement in its own line
     bool isAround_ = false;  // the search goes on at the other end, up to the origin
     std::string manyLines_;  // those in which one match can be
 };
