@@ -40,7 +40,7 @@ struct FindStage : ScriptStage {
     EditorOptions editorOptions;
     TextDocument document{editorOptions, notices};
     EditView view{document, editorOptions, notices};
-    SearchOptions options;
+    SearchOptions options{editorOptions.habits};
     FindCommands commands{options, notices, watch};
     FakeRows rows;
     bool isInRows = false;
@@ -187,6 +187,7 @@ const Verbs<FindStage> kVerbs = {
     {"replace-with", [](FindStage& s, Words w) { return s.options.setReplaceText(w.rest()), Told(); }},
     {"inserted", [](FindStage& s, Words) { return Told(s.options.insertedText()); }},
     {"option", &SetOption},
+    {"around", [](FindStage& s, Words w) { return s.editorOptions.habits.searchAround = w.yes(), Told(); }},
     {"options", &Options},
     {"toggle-match-case", [](FindStage& s, Words) { return s.commands.toggleMatchCase(), Told(); }},
     {"next", [](FindStage& s, Words) { return s.commands.findNext(s.target()), Told(); }},
