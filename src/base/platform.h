@@ -97,16 +97,38 @@ std::vector<std::string> FindFiles(const std::string& pattern);
 // without "." and with ".." where there is one above. Sorted as the files are.
 std::vector<std::string> FindDirectories(const std::string& directory);
 
-// What a directory holds that is not hidden, in one reading: the names of its files and of its directories (without "."
-// and ".."), each sorted as above. Links count as what they lead to.
-struct DirectoryContents {
-    std::uint64_t volume = 0;  // with the index it tells the directory from all others, whatever name it is reached by;
-    std::uint64_t index = 0;   // 0 where the disk has no such numbers
-    std::vector<std::string> files;
-    std::vector<std::string> directories;
+// Tells a directory from all others, whatever name it is reached by.
+struct DirectoryIdentity {
+    std::uint64_t volume = 0;
+    std::uint64_t index = 0;  // 0 where the disk has no such numbers
+
+    auto operator<=>(const DirectoryIdentity&) const = default;
 };
-// None when it cannot be read.
-std::optional<DirectoryContents> ReadDirectory(const std::string& directory);
+struct DirectoryContents {
+    std::vector<std::string> files;
+    std::vector<std::string> directories;  // without "." and ".."
+};
+// Reads the names of what a directory holds that is not hidden, in the order of the disk. A large directory takes a
+// second and more, so it is read in parts. Links count as what they lead to.
+class DirectoryReader {
+  public:
+    static constexpr int kPart = 250;  // entries, the hidden ones too
+    enum class State { Reading, Ended, Failed };
+
+    explicit DirectoryReader(const std::string& directory);
+    ~DirectoryReader();
+    DirectoryReader(const DirectoryReader&) = delete;
+    DirectoryReader& operator=(const DirectoryReader&) = delete;
+
+    const DirectoryIdentity& identity() const { return identity_; }
+    // Adds the names of the next part. Failed for a directory that cannot be read.
+    State read(DirectoryContents& contents);
+
+  private:
+    DirectoryIdentity identity_;
+    [[maybe_unused]] std::string pattern_;  // the host needs none
+    std::intptr_t search_ = 0;
+};
 
 // ---- places ------------------------------------------------------------------------------------------------------
 

@@ -203,13 +203,15 @@ TEST_F(PlatformFiles, WildcardsFindNormalFilesInOrder) {
     disk.makeDirectory("d.c\\a");
     EXPECT_EQ(FindDirectories(disk.path("d.c")), (Names{"..", "a", "B"}));
     EXPECT_EQ(FindDirectories(disk.path("NO")), Names{});
-    const auto contents = ReadDirectory(disk.path());
-    ASSERT_TRUE(contents);
-    EXPECT_EQ(contents->files, (Names{"A.C", "a.cpp", "b.c", "readme"}));
-    EXPECT_EQ(contents->directories, Names{"d.c"});
-    EXPECT_EQ(ReadDirectory(disk.path("D.C"))->index, ReadDirectory(disk.path("d.c\\."))->index);
-    EXPECT_NE(ReadDirectory(disk.path("d.c"))->index, contents->index);
-    EXPECT_FALSE(ReadDirectory(disk.path("NO")));
+    DirectoryContents contents;
+    EXPECT_EQ(DirectoryReader(disk.path("NO")).read(contents), DirectoryReader::State::Failed);
+    DirectoryReader reader(disk.path());
+    EXPECT_EQ(reader.read(contents), DirectoryReader::State::Ended);
+    std::ranges::sort(contents.files);
+    EXPECT_EQ(contents.files, (Names{"A.C", "a.cpp", "b.c", "readme"}));
+    EXPECT_EQ(contents.directories, Names{"d.c"});
+    EXPECT_EQ(DirectoryReader(disk.path("D.C")).identity(), DirectoryReader(disk.path("d.c\\.")).identity());
+    EXPECT_NE(DirectoryReader(disk.path("d.c")).identity(), reader.identity());
     const Names inRoot = FindDirectories("C:\\");
     EXPECT_EQ(std::ranges::count(inRoot, ".."), 0) << "nothing is above a root";
 }

@@ -185,6 +185,19 @@ TEST_F(FilesSearch, GoesThroughFoldersInOrder) {
     EXPECT_EQ(list.rowText(list.firstHit() + 2).substr(part.start), "needle");
 }
 
+TEST_F(FilesSearch, ALargeFolderIsReadInParts) {
+    for (int i = 0; i < platform::DirectoryReader::kPart + 50; ++i)
+        disk.put(std::to_string(1000 + i), "");
+    FolderWalk walk(disk.path(), "*9", true);
+    int parts = 0;
+    while (walk.step() == FolderWalk::Step::Folder)
+        ++parts;
+    EXPECT_EQ(parts, 3) << "one to begin it";
+    EXPECT_EQ(walk.file(), disk.path("1009"));
+    EXPECT_EQ(walk.step(), FolderWalk::Step::File);
+    EXPECT_EQ(walk.file(), disk.path("1019"));
+}
+
 TEST_F(FilesSearch, TheEndOfAWholeWordDependsOnTheFile) {
     disk.put("a.c", "foo;\nfoobar\nfoo bar\n");
     request.options.setWholeWord(true);

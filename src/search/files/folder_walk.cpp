@@ -2,41 +2,60 @@
 
 #include <algorithm>
 
+#include "base/ascii.h"
 #include "base/file_name.h"
-#include "base/platform.h"
 
 namespace vexa {
 
+namespace {
+
+bool ComesLater(const std::string& name, const std::string& other) {
+    return LessIgnoringCase(other, name);
+}
+
+}  // namespace
+
 FolderWalk::Step FolderWalk::step() {
-    while (next_ < names_.size()) {
-        const std::string& name = names_[next_++];
-        if (!patterns_.match(name)) continue;
-        file_.assign(prefix_).append(name);
+    if (reader_) {
+        readOn();
+    } else if (!files_.empty()) {
+        std::ranges::pop_heap(files_, ComesLater);
+        file_.assign(prefix_).append(files_.back());
+        files_.pop_back();
         return Step::File;
+    } else if (folders_.empty()) {
+        return Step::End;
+    } else {
+        enterNext();
     }
-    if (folders_.empty()) return Step::End;
-    const std::string folder = std::move(folders_.back());
-    folders_.pop_back();
-    enter(folder);
     return Step::Folder;
 }
 
-void FolderWalk::enter(const std::string& folder) {
-    names_.clear();
-    next_ = 0;
-    prefix_ = PrefixOf(folder);
-    auto contents = platform::ReadDirectory(folder);
-    if (!contents) {
-        ++unreadable_;
-    } else if (isNew({contents->volume, contents->index})) {
-        names_ = std::move(contents->files);
-        if (!subfolders_) return;
-        for (std::size_t i = contents->directories.size(); i > 0; --i)
-            folders_.push_back(prefix_ + contents->directories[i - 1]);
-    }
+void FolderWalk::enterNext() {
+    prefix_ = PrefixOf(folders_.back());
+    reader_.emplace(folders_.back());
+    folders_.pop_back();
+    found_ = std::ssize(folders_);
+    if (!isNew(reader_->identity())) reader_.reset();
 }
 
-bool FolderWalk::isNew(const Identity& identity) {
+// A heap, as sorting the names of a large folder takes too long for one step.
+void FolderWalk::readOn() {
+    using State = platform::DirectoryReader::State;
+    platform::DirectoryContents part;
+    const State state = reader_->read(part);
+    for (std::string& name : part.files)
+        if (patterns_.match(name)) files_.push_back(std::move(name));
+    for (const std::string& name : part.directories)
+        if (subfolders_) folders_.push_back(prefix_ + name);
+    if (state == State::Reading) return;
+    if (state == State::Failed) ++unreadable_;
+    reader_.reset();
+    std::ranges::make_heap(files_, ComesLater);
+    std::sort(folders_.begin() + found_, folders_.end(), ComesLater);
+}
+
+bool FolderWalk::isNew(const platform::DirectoryIdentity& identity) {
     if (identity.index == 0) return true;
     const auto found = std::ranges::lower_bound(entered_, identity);
     if (found != entered_.end() && *found == identity) return false;

@@ -1,11 +1,13 @@
 // Goes through the files of a folder, and of the folders in it, a little at a time.
 #pragma once
 
-#include <compare>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "base/platform.h"
 #include "search/files/file_patterns.h"
 
 namespace vexa {
@@ -19,7 +21,7 @@ class FolderWalk {
     FolderWalk(const std::string& folder, std::string_view patterns, bool subfolders)
         : patterns_(patterns), subfolders_(subfolders), folders_{folder} {}
 
-    // Goes to the next file, or reads a folder.
+    // Goes to the next file, or reads a part of a folder.
     Step step();
     // The full path of the file that step() has gone to.
     const std::string& file() const { return file_; }
@@ -27,23 +29,18 @@ class FolderWalk {
     std::int32_t unreadable() const { return unreadable_; }
 
   private:
-    struct Identity {
-        std::uint64_t volume;
-        std::uint64_t index;
-
-        auto operator<=>(const Identity&) const = default;
-    };
-
-    void enter(const std::string& folder);
-    bool isNew(const Identity& identity);
+    void enterNext();
+    void readOn();
+    bool isNew(const platform::DirectoryIdentity& identity);
 
     const FilePatterns patterns_;
     const bool subfolders_;
     std::vector<std::string> folders_;  // still to be read; the next is the last
     std::string prefix_;                // of the names in the folder that is gone through, "\" at the end
-    std::vector<std::string> names_;    // the files there
-    std::size_t next_ = 0;              // of them
-    std::vector<Identity> entered_;     // sorted
+    std::optional<platform::DirectoryReader> reader_;   // of that folder, until all of it is read
+    std::vector<std::string> files_;                    // the names there, a heap as soon as all are read
+    std::ptrdiff_t found_ = 0;                          // where the folders begin that were found there
+    std::vector<platform::DirectoryIdentity> entered_;  // sorted
     std::string file_;
     std::int32_t unreadable_ = 0;
 };

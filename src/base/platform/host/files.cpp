@@ -244,33 +244,39 @@ std::vector<std::string> FindDirectories(const std::string& directory) {
 
 namespace {
 
+DIR* Opened(std::intptr_t search) {
+    return reinterpret_cast<DIR*>(search);
+}
+
 // Only what a link leads to has to be asked for.
-void Add(const dirent& entry, const std::string& folder, DirectoryContents& contents) {
-    const std::string_view name = entry.d_name;
+void Add(const dirent& entry, int folder, DirectoryContents& contents) {
+    struct stat info {};
     const bool isKnown = entry.d_type == DT_REG || entry.d_type == DT_DIR;
-    const auto info = isKnown ? std::nullopt : StatusOf(folder + "/" + entry.d_name);
-    if (entry.d_type == DT_DIR || (info && S_ISDIR(info->st_mode))) contents.directories.emplace_back(name);
-    if (entry.d_type == DT_REG || (info && S_ISREG(info->st_mode))) contents.files.emplace_back(name);
+    if (!isKnown && fstatat(folder, entry.d_name, &info, 0) != 0) return;
+    if (entry.d_type == DT_DIR || S_ISDIR(info.st_mode)) contents.directories.emplace_back(entry.d_name);
+    if (entry.d_type == DT_REG || S_ISREG(info.st_mode)) contents.files.emplace_back(entry.d_name);
 }
 
 }  // namespace
 
-std::optional<DirectoryContents> ReadDirectory(const std::string& directory) {
+DirectoryReader::DirectoryReader(const std::string& directory) {
     const std::string folder = HostPath(directory);
-    const auto close = [](DIR* opened) { closedir(opened); };
-    const std::unique_ptr<DIR, decltype(close)> opened(folder.empty() ? nullptr : opendir(folder.c_str()), close);
-    if (!opened) return std::nullopt;
-    DirectoryContents contents;
-    if (const auto info = StatusOf(folder)) {
-        contents.volume = info->st_dev;
-        contents.index = info->st_ino;
+    search_ = reinterpret_cast<std::intptr_t>(folder.empty() ? nullptr : opendir(folder.c_str()));
+    if (const auto info = StatusOf(folder)) identity_ = {info->st_dev, info->st_ino};
+}
+
+DirectoryReader::~DirectoryReader() {
+    if (search_) closedir(Opened(search_));
+}
+
+DirectoryReader::State DirectoryReader::read(DirectoryContents& contents) {
+    if (!search_) return State::Failed;
+    for (int left = kPart; left > 0; --left) {
+        const dirent* entry = readdir(Opened(search_));
+        if (!entry) return State::Ended;
+        if (entry->d_name[0] != '.') Add(*entry, dirfd(Opened(search_)), contents);
     }
-    while (const dirent* entry = readdir(opened.get())) {
-        if (entry->d_name[0] != '.') Add(*entry, folder, contents);
-    }
-    std::ranges::sort(contents.files, LessIgnoringCase);
-    std::ranges::sort(contents.directories, LessIgnoringCase);
-    return contents;
+    return State::Reading;
 }
 
 }  // namespace vexa::platform

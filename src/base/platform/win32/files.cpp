@@ -285,16 +285,24 @@ std::vector<std::string> FindDirectories(const std::string& directory) {
 namespace {
 
 // Windows 98 opens no directories; there are no links to them there either.
-void Identify(const std::string& directory, DirectoryContents& contents) {
+DirectoryIdentity IdentityOf(const std::string& directory) {
     const HANDLE opened = CreateFileA(directory.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                       FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) return;
+    if (opened == INVALID_HANDLE_VALUE) return {};
     BY_HANDLE_FILE_INFORMATION info{};
-    if (GetFileInformationByHandle(opened, &info)) {
-        contents.volume = info.dwVolumeSerialNumber;
-        contents.index = Joined(info.nFileIndexHigh, info.nFileIndexLow);
-    }
+    const bool isKnown = GetFileInformationByHandle(opened, &info);
     CloseHandle(opened);
+    if (!isKnown) return {};
+    return {info.dwVolumeSerialNumber, Joined(info.nFileIndexHigh, info.nFileIndexLow)};
+}
+
+// The next entry; the first for a search that has not begun.
+bool Next(const std::string& pattern, std::intptr_t& search, WIN32_FIND_DATAA& found) {
+    if (search) return FindNextFileA(Native(search), &found);
+    const HANDLE begun = FindFirstFileA(pattern.c_str(), &found);
+    if (begun == INVALID_HANDLE_VALUE) return false;
+    search = reinterpret_cast<std::intptr_t>(begun);
+    return true;
 }
 
 void Add(const WIN32_FIND_DATAA& found, DirectoryContents& contents) {
@@ -306,20 +314,22 @@ void Add(const WIN32_FIND_DATAA& found, DirectoryContents& contents) {
 
 }  // namespace
 
-std::optional<DirectoryContents> ReadDirectory(const std::string& directory) {
-    const std::string pattern = directory + (directory.ends_with('\\') ? "*" : "\\*");
+DirectoryReader::DirectoryReader(const std::string& directory)
+    : identity_(IdentityOf(directory)), pattern_(directory + (directory.ends_with('\\') ? "*" : "\\*")) {}
+
+DirectoryReader::~DirectoryReader() {
+    if (search_) FindClose(Native(search_));
+}
+
+// An empty drive has not even "." in it.
+DirectoryReader::State DirectoryReader::read(DirectoryContents& contents) {
     WIN32_FIND_DATAA found;
-    const HANDLE search = FindFirstFileA(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return std::nullopt;
-    DirectoryContents contents;
-    Identify(directory, contents);
-    do {
+    for (int left = kPart; left > 0; --left) {
+        if (!Next(pattern_, search_, found))
+            return search_ || GetLastError() == ERROR_FILE_NOT_FOUND ? State::Ended : State::Failed;
         Add(found, contents);
-    } while (FindNextFileA(search, &found));
-    FindClose(search);
-    std::ranges::sort(contents.files, LessIgnoringCase);
-    std::ranges::sort(contents.directories, LessIgnoringCase);
-    return contents;
+    }
+    return State::Reading;
 }
 
 }  // namespace vexa::platform
