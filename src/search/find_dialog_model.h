@@ -37,7 +37,7 @@ class FindDialogModel {
 
   protected:
     FindCommands& commands() { return commands_; }
-    SearchOptions& options() { return commands_.options(); }
+    SearchOptions& options() const { return commands_.options(); }
     // A find text that differs from the present one sets whether a match is pending.
     void storeFindFields(bool pending);
     void noteSearch(bool ran) { searched_ = searched_ || ran; }

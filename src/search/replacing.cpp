@@ -1,8 +1,7 @@
 // How a search run replaces what it has found.
 #include "search/search_run.h"
 
-#include "document/text/line_actions.h"
-#include "document/text/run_actions.h"
+#include "search/line_insertion.h"
 
 namespace vexa {
 
@@ -38,32 +37,10 @@ TextPosition SearchRun::exchange(const DocumentMatch& match) {
     if (joined > 0) view_.editor().moveToLine(match.line);
     for (std::int32_t n = 0; n < joined; ++n)
         view_.editor().joinNextLine();
-    const TextPosition newEnd = insertLines(match.start(), match.inLine.length - joined, text);
+    const TextPosition newEnd = InsertLines(view_, match.start(), match.inLine.length - joined, text);
     moveOrigin(match.start(), oldEnd, newEnd);
     progress_.countReplacement();
     return newEnd;
-}
-
-// A text of several lines in the place of so many characters. What follows these goes to the last of its lines.
-TextPosition SearchRun::insertLines(TextPosition start, std::int32_t length, std::string_view text) {
-    LineEditor& editor = view_.editor();
-    const std::string_view first = text.substr(0, text.find('\n'));
-    const std::string rest(document_.text(start.line).substr(static_cast<std::size_t>(start.column.value + length)));
-    const bool isOneLine = first.size() == text.size();
-    const std::int32_t toEnd = length + static_cast<std::int32_t>(rest.size());
-    editor.run<ReplaceRun>(start.line, start.column, isOneLine ? length : toEnd, first);
-    if (isOneLine) return {start.line, start.column + static_cast<std::int32_t>(text.size())};
-    editor.moveToLine(start.line);
-    editor.cursorDown();
-    const std::string_view last = text.substr(text.rfind('\n') + 1);
-    editor.run<InsertLine>(document_.makeLine(std::string(last).append(rest)));
-    LineIndex end = start.line + 1;
-    for (text.remove_suffix(last.size() + 1); text.size() > first.size(); ++end) {
-        const std::size_t before = text.rfind('\n');
-        editor.run<InsertLine>(document_.makeLine(text.substr(before + 1)));
-        text = text.substr(0, before);
-    }
-    return {end, CharColumn(static_cast<std::int32_t>(last.size()))};
 }
 
 void SearchRun::moveOrigin(TextPosition from, TextPosition oldEnd, TextPosition newEnd) {

@@ -44,7 +44,6 @@ class SearchRun {
     std::optional<DocumentMatch> pendingMatch();
     void showAsNext(const std::optional<DocumentMatch>& match);
     TextPosition exchange(const DocumentMatch& match);
-    TextPosition insertLines(TextPosition start, std::int32_t length, std::string_view text);
     void moveOrigin(TextPosition from, TextPosition oldEnd, TextPosition newEnd);
     void moveTo(TextPosition position);
     void replaceOne(const DocumentMatch& match);

@@ -319,6 +319,25 @@ TEST_F(FilesSearch, ReplacementsAreOneUndoInEachDocument) {
     EXPECT_EQ(a.text(LineIndex(2)), "xfoo");
 }
 
+TEST_F(FilesSearch, ReplacementsMayHaveGroupsAndLineEnds) {
+    const Habits habits{.replacementGroups = true};
+    request.options = SearchOptions(habits);
+    request.options.setRegularExpression(true);
+    disk.put("a", "x1 x2\nb\nx3\n");
+    ASSERT_EQ(find("x([0-9])").size(), 2u);
+    HitReplacement(list, windows).replace({0, list.rowCount()}, "<\\1\\n");
+    EditView& active = *windows.activeView();
+    const auto lines = [&active] {
+        Texts texts;
+        for (LineIndex line; line.value <= active.document().lastLine(LastUsed::Text); ++line)
+            texts.emplace_back(active.document().text(line));
+        return texts;
+    };
+    EXPECT_EQ(lines(), (Texts{"<1", " <2", "", "b", "<3"}));
+    EXPECT_TRUE(active.undo());
+    EXPECT_EQ(lines(), (Texts{"x1 x2", "b", "x3"}));
+}
+
 TEST_F(FilesSearch, SoManyFilesAreNotOpened) {
     for (std::size_t i = 0; i <= HitReplacement::kMostFiles; ++i)
         disk.put(std::to_string(i), "foo");

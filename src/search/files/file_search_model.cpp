@@ -32,8 +32,16 @@ std::string FileSearchModel::refusal() const {
     if (!canSearch()) return std::string(LoadText(TextId::NoFindText));
     const std::string fault = regularExpression ? FaultOfPattern(findText) : std::string();
     if (!fault.empty()) return fault;
+    if (hasLineEnds()) return std::string(LoadText(TextId::NoLineEndsInFiles));
     const std::string folder = platform::FullPath(fields.folder);
     return platform::DirectoryExists(folder) ? std::string() : FillText(TextId::NoSuchFolder, {fields.folder});
+}
+
+bool FileSearchModel::hasLineEnds() const {
+    SearchOptions typed = options();
+    typed.setRegularExpression(regularExpression);
+    typed.setFindText(findText, false);
+    return typed.searchedText().find('\n') != std::string::npos;
 }
 
 FileSearchRequest FileSearchModel::request() {

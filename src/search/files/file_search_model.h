@@ -45,6 +45,8 @@ class FileSearchModel : public FindDialogModel {
     FileSearchRequest request();
 
   private:
+    bool hasLineEnds() const;
+
     HistoryList& folders_;
     HistoryList& patterns_;
 };

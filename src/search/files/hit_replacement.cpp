@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/strings.h"
-#include "document/text/run_actions.h"
+#include "search/line_insertion.h"
 
 namespace vexa {
 
@@ -11,8 +11,6 @@ std::string HitReplacement::replace(const HitRows& rows, const std::string& text
     if (filesIn(rows) > kMostFiles) return FillText(TextId::TooManyFilesToChange, {std::to_string(kMostFiles)});
     SearchOptions options = list_.request().options;
     options.setReplaceText(text);
-    const bool hasLineEnds = options.insertedText().find('\n') != std::string::npos;
-    if (hasLineEnds) return std::string(LoadText(TextId::ReplacementHasLineEnds));
     const std::size_t end = rows.first + rows.count;
     for (std::size_t row = rows.first; row < end;)
         row = list_.hitOf(row) ? replaceInFile(row, end, options) : row + 1;
@@ -35,33 +33,39 @@ std::size_t HitReplacement::filesIn(const HitRows& rows) const {
     return files;
 }
 
-// The first row behind those that are about the same file.
+// The first row behind those that are about the same file. The last is done first, as replacements may have line ends,
+// which move the lines behind them.
 std::size_t HitReplacement::replaceInFile(std::size_t row, std::size_t end, const SearchOptions& options) {
     const std::string path = list_.pathOf(row);
+    std::size_t next = row + 1;
+    while (next < end && list_.hitOf(next) && list_.pathOf(next) == path)
+        ++next;
     EditView* const view = list_.open(row);
-    LineSearch search(options, view ? DelimitersOf(view->document()) : std::string_view());
-    const std::int32_t before = replacements_;
-    if (view) view->marker().clear();
-    for (; row < end && list_.hitOf(row) && list_.pathOf(row) == path; ++row) {
-        if (!view || !replaceInLine(*view, search, *list_.hitOf(row))) ++passedOver_;
+    if (!view) {
+        passedOver_ += static_cast<std::int32_t>(next - row);
+        return next;
     }
-    if (!view) return row;
+    LineSearch search(options, DelimitersOf(view->document()));
+    const std::int32_t before = replacements_;
+    view->marker().clear();
+    for (std::size_t left = next; left > row; --left)
+        if (!replaceInLine(*view, search, *list_.hitOf(left - 1))) ++passedOver_;
     view->finish();
     files_.refreshActive();
     if (replacements_ > before) ++changedFiles_;
-    return row;
+    return next;
 }
 
 bool HitReplacement::replaceInLine(EditView& view, LineSearch& search, const HitList::Hit& hit) {
     const TextDocument& document = view.document();
-    std::optional<LineMatch> next = search.find(document.text(hit.line), CharColumn(0));
+    LineIndex line = hit.line;
+    std::optional<LineMatch> next = search.find(document.text(line), CharColumn(0));
     if (next != hit.match) return false;
     while (next) {
-        const std::string text = search.replacement();
-        const CharColumn end = next->column + static_cast<std::int32_t>(text.size());
-        view.editor().run<ReplaceRun>(hit.line, next->column, next->length, text);
+        const TextPosition end = InsertLines(view, {line, next->column}, next->length, search.replacement());
         ++replacements_;
-        next = search.findBehind(document.text(hit.line), end);
+        line = end.line;
+        next = search.findBehind(document.text(line), end.column);
     }
     return true;
 }

@@ -22,7 +22,7 @@ class HitReplacement {
 
     // Replaces every match in the lines of those rows by the text, which may have the escapes of a replacement; in each
     // document one undo group. A line whose first match is no longer the one that was found is passed over. Nothing is
-    // done where the rows are about more than kMostFiles files, or the text has line ends. What the user is to be told.
+    // done where the rows are about more than kMostFiles files. What the user is to be told.
     std::string replace(const HitRows& rows, const std::string& text);
 
   private:
