@@ -58,7 +58,7 @@ std::string FullPath(const std::string& path) {
     if (!rest.starts_with('\\'))
         AddParts(parts, places.directories[static_cast<std::size_t>(LowerAscii(full[0]) - 'a')]);
     AddParts(parts, rest);
-    if (!parts.empty()) parts.back() = WithoutTrailingDotsAndBlanks(parts.back());
+    if (!parts.empty() && !rest.ends_with('\\')) parts.back() = WithoutTrailingDotsAndBlanks(parts.back());
     for (const std::string_view part : parts)
         full.append("\\").append(part);
     if (parts.empty() || (rest.ends_with('\\') && !full.ends_with('\\'))) full += '\\';
