@@ -15,6 +15,11 @@ LRESULT MDIchildCL::defaultProcedure(const Message& message) {
     return DefMDIChildProcA(window(), message.number, message.wParam, message.lParam);
 }
 
+bool MDIchildCL::onMdiActivate(bool active) {
+    if (active) frame_.childrenChanged();
+    return false;
+}
+
 bool MDIchildCL::onContextMenu(std::optional<POINT> screenPlace) {
     if (!screenPlace || IsIconic(window()) || !isOnTitle(*screenPlace)) return false;
     frame_.activate(*this);

@@ -21,6 +21,7 @@ class MDIchildCL : public WindowCL {
     bool open(const WindowClass& windowClass, const std::string& title);
 
     LRESULT defaultProcedure(const Message& message) override;
+    bool onMdiActivate(bool active) override;
     bool onContextMenu(std::optional<POINT> screenPlace) override;
     bool onClose() override;
     void onGone() override;

@@ -56,7 +56,7 @@ class MDIframeCL : public AppFrameCL {
 
     // Lets what is queued run in the middle of long work; true when the program is about to end.
     virtual bool pumpMessages() { return false; }
-    // A child window has come or gone.
+    // A child window has come or gone, or has become the active one.
     virtual void childrenChanged() {}
 
     LRESULT defaultProcedure(const Message& message) override;

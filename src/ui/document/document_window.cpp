@@ -82,8 +82,7 @@ bool DocumentWindow::onFocusGained() {
 
 bool DocumentWindow::onMdiActivate(bool active) {
     if (active) lookAtFile();
-    if (active) host_.documentChanged(*this);
-    return false;
+    return TextWindow::onMdiActivate(active);
 }
 
 void DocumentWindow::refreshName() {
