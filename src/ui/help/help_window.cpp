@@ -20,7 +20,7 @@ using topics::BrowserOutcome;
 
 constexpr WindowClass kHelpClass{.name = kHelpWindowClass, .background = COLOR_3DFACE, .icon = IDI_VEXA};
 constexpr const char* kSection = "Help Window";
-constexpr ScreenRect kFirstPlace{80, 60, 640, 520};  // at the normal resolution
+constexpr ScreenRect kFirstPlace{80, 60, 760, 560};  // at the normal resolution; shows the manual's widest picture
 constexpr UINT kAskMessage = WM_APP + 1;             // the outcome to ask about
 constexpr WORD kFirstCommand = 1;
 constexpr int kGap = 3;  // pixels at the normal resolution, as is the other
@@ -244,8 +244,10 @@ void HelpWindow::placeFirst() {
         return store_.ReadInt(kSection, key, fallback);
     };
     const int dpi = DpiOf(window());
-    const ScreenRect first{kFirstPlace.x, kFirstPlace.y, Scaled(kFirstPlace.width, dpi),
-                           Scaled(kFirstPlace.height, dpi)};
+    const ScreenRect room = WorkAreaNear(kFirstPlace);
+    const ScreenRect first{kFirstPlace.x, kFirstPlace.y,
+                           std::min(Scaled(kFirstPlace.width, dpi), room.width - 2 * kFirstPlace.x),
+                           std::min(Scaled(kFirstPlace.height, dpi), room.height - 2 * kFirstPlace.y)};
     ScreenRect place{number("x", first.x), number("y", first.y), number("cx", first.width), number("cy", first.height)};
     if (place.width <= 0 || place.height <= 0) place = first;
     const ScreenRect areas[] = {WorkAreaNear(place)};
