@@ -1,257 +1,283 @@
+// The ways by which files reach the editor, in the cases of the folder opening/.
 #include "shell/file_opening.h"
 
-#include <gtest/gtest.h>
+#include "base/ascii.h"
+#include "base/directories.h"
+#include "document/text/text_document.h"
+#include "language/name_at_caret.h"
+#include "shell/open_include.h"
+#include "shell/outside_opens.h"
+#include "support/script.h"
 #ifdef _WIN32
 #include <windows.h>
+#else
+#include "base/platform/host/sandbox.h"
 #endif
 
-#include "base/directories.h"
-#include "base/file.h"
-#include "base/strings.h"
-#include "document/text/text_document.h"
-#include "shell/outside_opens.h"
-#include "support/recording_notices.h"
-#include "support/test_disk.h"
-
-namespace vexa {
+namespace vexa::test {
 namespace {
 
-// Notes what it is asked to do, a word and the line index each.
-class ScriptedFrame : public OutsideFrame {
-  public:
+constexpr CaseFile kFiles[] = {
+#include "opening_scripts.inc"
+};
+constexpr CaseFile kTables[] = {
+#include "shell_cases.inc"
+};
+
+CharColumn TakeCaret(std::string& line) {
+    const std::size_t caret = line.find('|');
+    line.erase(caret, 1);
+    return CharColumn(static_cast<std::int32_t>(caret));
+}
+
+TEST(NameAtCaret, IsWhatTheLineNames) {
+    for (const Cells& row : RowsOf(kTables, "names_at_caret")) {
+        std::string line = row.at(0);
+        const CharColumn caret = TakeCaret(line);
+        std::string shown;
+        for (const NamedPlace& place : NamesAtCaret(line, caret))
+            shown += (shown.empty() ? "" : ";") + place.name + (place.line ? " " + std::to_string(place.line) : "");
+        EXPECT_EQ(shown, row.at(1)) << row.at(0);
+    }
+    EXPECT_TRUE(NamesAtCaret("a.c", CharColumn(4)).empty()) << "in the space behind the text";
+}
+
+// What comes from another instance lies beside the program, which on Windows is the test program itself.
+std::string MessageFile() {
+    return DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT";
+}
+
+// Notes what it is asked to do, a word and the line each, counted from 1.
+struct OpeningStage : ScriptStage, OutsideFrame {
+    OpeningStage() { platform::RemoveFile(MessageFile()); }
+    ~OpeningStage() override {
+        platform::RemoveFile(MessageFile());
+        platform::DeleteGlobalMarker(kActiveMarker);
+    }
+
     bool activateShowing(const std::string& path, TextPosition at) override {
         if (path != shown) return false;
-        log += "activate " + std::to_string(at.line.value) + ";";
+        log.push_back("activate " + std::to_string(at.line.value + 1));
         return true;
     }
     bool openWindow(const std::optional<std::string>& path, TextPosition at) override {
-        log += "open " + path.value_or("new").substr(path ? path->rfind('\\') + 1 : 0) + " " +
-               std::to_string(at.line.value) + (at.column.value > 0 ? ":" + std::to_string(at.column.value) : "") + ";";
+        log.push_back("open " + path.value_or("new") + " " + std::to_string(at.line.value + 1) +
+                      (at.column.value > 0 ? ":" + std::to_string(at.column.value + 1) : ""));
         return path != refused;
     }
-    void bringToFront() override { log += "front;"; }
-    void restoreIfMinimised() override { log += "restore;"; }
+    void bringToFront() override { log.push_back("front"); }
+    void restoreIfMinimised() override { log.push_back("restore"); }
     bool isFree() const override { return free; }
-    void openWaitingSoon() override { log += "soon;"; }
+    void openWaitingSoon() override { log.push_back("soon"); }
     const TextDocument* documentOf(const std::string&) const override { return document; }
 
+    EditorOptions options;
+    FileOpening opening{*this, options, notices};
+    OutsideOpens outside{opening, *this, notices};
+    OutsideOpens another{opening, *this, notices};
+    std::optional<EnvironmentSetting> include;
+    std::uint32_t before = platform::Ticks();
+    const TextDocument* document = nullptr;  // that is shown for what is waited for
+    std::string documentName;                // beside which includes are looked for
     bool free = true;
-    const TextDocument* document = nullptr;
-
     std::string shown;
     std::string refused;
-    std::string log;
+    std::vector<std::string> log;
 };
+
+std::vector<std::string> All(Words words) {
+    std::vector<std::string> all;
+    while (words.more())
+        all.push_back(words.word());
+    return all;
+}
+
+Told OpenFiles(OpeningStage& stage, Words words) {
+    std::vector<FileAtLine> files;
+    while (words.more()) {
+        const std::string name = words.word();
+        files.push_back({name, words.number()});
+    }
+    return stage.opening.OpenCommandLineFiles(files);
+}
+
+Told PutHandOff(OpeningStage&, Words words) {
+    return WriteWholeFile(MessageFile(), words.rest());
+}
+
+Told TakeHandOff(OpeningStage&, Words) {
+    const std::optional<FileAtLine> taken = HandOffInbox().take();
+    if (!taken) return "none";
+    std::string shown = taken->file;
+    for (const std::int32_t number : {taken->line, taken->column, taken->wait})
+        shown += " " + std::to_string(number);
+    return shown;
+}
+
+Told HandOff(OpeningStage& stage, Words words) {
+    return HandedOff(ParseCommandLine("vexa " + words.rest()), stage.notices);
+}
+
+// What lies there for the running editor, all in capital letters.
+Told HandedOver(OpeningStage& stage, Words) {
+    if (!platform::PathExists(MessageFile())) return "none";
+    const std::string text = File(MessageFile(), platform::OpenMode::Read).readUpTo(4096).value_or("");
+    std::string disk = stage.disk.path();
+    std::ranges::transform(disk, disk.begin(), UpperAscii);
+    return text.starts_with(disk) ? "DISK" + text.substr(disk.size()) : text;
+}
+
+Told Should(OpeningStage&, Words words) {
+    const CommandLine line = ParseCommandLine("vexa " + words.rest());
+    const HandOffDecision decision = ShouldHandOff(line.text, line.arguments);
+    return Told(decision.handOff).text + " " + std::to_string(decision.line);
+}
+
+// "|" is the caret.
+Told Include(OpeningStage& stage, Words words) {
+    TextDocument document(stage.options, stage.notices);
+    document.newEmpty();
+    document.setName(stage.documentName);
+    std::string line = words.rest();
+    const CharColumn caret = TakeCaret(line);
+    document.lines().put(TextDocument::makeLine(line), 0);
+    document.setCurrentLine(LineIndex(0));
+    document.current().setColumn(caret);
+    stage.log.clear();
+    return OpenInclude(document, stage.opening, stage.notices) ? Told(stage.log) : Told(stage.notices.lastStatus());
+}
+
+Told DdeFile(OpeningStage&, Words words) {
+    return FileOfDdeExecute(words.rest());
+}
+
+const Verbs<OpeningStage> kVerbs = {
+    {"log", [](OpeningStage& s, Words) { return Told(std::exchange(s.log, {})); }},
+    {"shows", [](OpeningStage& s, Words w) { return s.shown = w.rest(), Told(); }},
+    {"refuses", [](OpeningStage& s, Words w) { return s.refused = w.rest(), Told(); }},
+    {"free", [](OpeningStage& s, Words w) { return s.free = w.yes(), Told(); }},
+    {"several-copies", [](OpeningStage& s, Words) { return s.options.MultipleCopies = true, Told(); }},
+    {"open-at",
+     [](OpeningStage& s, Words w) {
+         const int line = w.number();
+         return Told(s.opening.OpenFileAtLine(w.rest(), line));
+     }},
+    {"open-new-at", [](OpeningStage& s, Words w) { return Told(s.opening.OpenFileAtLine(std::nullopt, w.number())); }},
+    {"open-files", &OpenFiles},
+    {"drop", [](OpeningStage& s, Words w) { return s.opening.OpenDroppedFiles(All(w)), Told(); }},
+    // other programs
+    {"dde", [](OpeningStage& s, Words w) { return Told(s.outside.executeDde(w.rest())); }},
+    {"dde-file", &DdeFile},
+    {"add",
+     [](OpeningStage& s, Words w) {
+         return s.outside.add({w.rest(), 0}), Told();
+     }},
+    {"open-waiting", [](OpeningStage& s, Words) { return s.outside.openWaiting(), Told(); }},
+    {"put-hand-off", &PutHandOff},
+    {"hand-off-file", [](OpeningStage&, Words) { return Told(platform::PathExists(MessageFile())); }},
+    {"receive", [](OpeningStage& s, Words) { return s.outside.receiveHandOff(s.before), Told(); }},
+    // later than anything was taken
+    {"receive-late", [](OpeningStage& s, Words) { return s.outside.receiveHandOff(s.before + 1000), Told(); }},
+    {"another-receives", [](OpeningStage& s, Words) { return s.another.receiveHandOff(s.before), Told(); }},
+    {"another-opens", [](OpeningStage& s, Words) { return s.another.openWaiting(), Told(); }},
+    {"take-hand-off", &TakeHandOff},
+    {"editor-runs", [](OpeningStage&, Words) { return platform::AddGlobalMarker(kActiveMarker), Told(); }},
+    {"should", &Should},
+    {"hand-off", &HandOff},
+    {"handed-over", &HandedOver},
+    // a file that a line names
+    {"include-path", [](OpeningStage& s, Words w) { return s.include.emplace("INCLUDE", w.rest()), Told(); }},
+    {"document", [](OpeningStage& s, Words w) { return s.documentName = s.path(w.rest()), Told(); }},
+    {"include", &Include},
+};
+
+#ifndef _WIN32
+TEST(HandOffTest, TheRunningEditorIsToldByABroadcast) {
+    OpeningStage stage;
+    platform::AddGlobalMarker(kActiveMarker);
+    HandedOff(ParseCommandLine("vexa a.c"), stage.notices);
+    EXPECT_EQ(platform::host::ThePlaces().broadcasts, std::vector<std::string>{"VexaFileOpen"});
+    platform::host::ThePlaces().refusesBroadcasts = true;
+    EXPECT_FALSE(HandedOff(ParseCommandLine("vexa a.c"), stage.notices));
+    EXPECT_TRUE(stage.notices.boxes.empty());
+}
+#endif
+
+VEXA_SCRIPTS(Opening, kFiles, OpeningStage, kVerbs);
+
+TEST(FileOpeningTest, TheLatestOfSeveralCopiesIsSpokenOfFirst) {
+    OpeningStage stage;
+    stage.disk.put("a.c", "now");
+    stage.disk.put("a.c.vx7", "older");
+    const auto older = platform::FactsOf(stage.disk.path("a.c.vx7"))->stamp.writeTime;
+    do {
+        stage.disk.put("a.c.vx2", "later");
+    } while (platform::FactsOf(stage.disk.path("a.c.vx2"))->stamp.writeTime == older);
+    stage.notices.answers = {BoxAnswer::Yes, BoxAnswer::Yes};
+    EXPECT_TRUE(stage.opening.OpenFileAtLine(stage.disk.path("a.c"), 1));
+    for (std::size_t i = 0; const char* name : {"a.c", "a.c.vx2", "a.c.vx7"})
+        EXPECT_EQ(stage.log.at(i++), "open " + stage.disk.path(name) + " 1");
+}
 
 bool HasFreeTurn(const DocumentWait& wait) {
     return platform::SystemTurn(SharedWait(wait.number()).turn(), 0).isMine();
 }
 
+// As another process sees it: on Windows a turn is had again by the thread that has it.
 #ifdef _WIN32
 DWORD WINAPI Asks(void* wait) {
     return HasFreeTurn(*static_cast<const DocumentWait*>(wait)) ? 1 : 0;
 }
-#endif
 
-class FileOpeningTest : public testing::Test {
-  protected:
-    // As another process sees it: on Windows a turn is had again by the thread that has it.
-    static bool isFree(const DocumentWait& wait) {
-#ifdef _WIN32
-        const HANDLE asks = CreateThread(nullptr, 0, &Asks, const_cast<DocumentWait*>(&wait), 0, nullptr);
-        DWORD isFree = 0;
-        WaitForSingleObject(asks, INFINITE);
-        GetExitCodeThread(asks, &isFree);
-        CloseHandle(asks);
-        return isFree != 0;
+bool IsFree(const DocumentWait& wait) {
+    const HANDLE asks = CreateThread(nullptr, 0, &Asks, const_cast<DocumentWait*>(&wait), 0, nullptr);
+    DWORD isFree = 0;
+    WaitForSingleObject(asks, INFINITE);
+    GetExitCodeThread(asks, &isFree);
+    CloseHandle(asks);
+    return isFree != 0;
+}
 #else
-        return HasFreeTurn(wait);
+bool IsFree(const DocumentWait& wait) {
+    return HasFreeTurn(wait);
+}
 #endif
-    }
-    std::string takeLog() {
-        return std::exchange(frame_.log, {});
-    }
 
-    test::TestDisk disk_;
-    test::RecordingNotices notices_;
-    EditorOptions options_;
-    ScriptedFrame frame_;
-    FileOpening opening_{frame_, options_, notices_};
-    OutsideOpens outside_{opening_, frame_, notices_};
-};
-
-TEST_F(FileOpeningTest, AFileIsShownInItsWindowUnlessCopiesAreWanted) {
-    frame_.shown = disk_.path("a.c");
-    EXPECT_TRUE(opening_.OpenFileAtLine("a.c", 20));
-    EXPECT_EQ(takeLog(), "activate 19;");
-    options_.MultipleCopies = true;
-    EXPECT_TRUE(opening_.OpenFileAtLine("a.c", 20));
-    EXPECT_EQ(takeLog(), "open a.c 19;");
-    EXPECT_EQ(notices_.busyCount, 2);
-    EXPECT_EQ(notices_.busyDepth, 0);
-}
-
-TEST_F(FileOpeningTest, NamesThatCannotBeAFilesAreRefused) {
-    for (const std::string& name : {std::string("a|b.c"), std::string("C:\\NUL"), std::string("C:\\com1.c"),
-                                    std::string("C:\\") + std::string(257, 'x'), std::string("a\0b", 3)})
-        EXPECT_FALSE(opening_.OpenFileAtLine(name, 1)) << name;
-    EXPECT_EQ(notices_.boxes.size(), 5u);
-    EXPECT_EQ(takeLog(), "");
-    EXPECT_TRUE(opening_.OpenFileAtLine("C:\\" + std::string(256, 'x'), 1));
-}
-
-TEST_F(FileOpeningTest, LeftSafetyCopiesAreOfferedUntilTheUserHasDecided) {
-    constexpr auto kYes = BoxAnswer::Yes;
-    constexpr auto kNo = BoxAnswer::No;
-    const auto copy = disk_.path("a.c.vx1");
-    struct Case {
-        const char* contents;
-        std::deque<BoxAnswer> answers;
-        std::string lastQuestion;
-        const char* log;
-        const char* left;  // the copy's name afterwards
-    };
-    const std::string kept = copy + "k0";
-    const Case cases[] = {
-        {"same", {kYes}, FillText(TextId::LeftCopyIsEqual, {"a.c", copy}), "open a.c 0;", nullptr},
-        {"same", {kNo}, FillText(TextId::LeftCopyIsEqual, {"a.c", copy}), "open a.c 0;", "a.c.vx1k0"},
-        {"other", {kYes}, FillText(TextId::LeftCopyDiffers, {"a.c", copy}), "open a.c 0;open a.c.vx1 0;", "a.c.vx1"},
-        {"other", {kNo, kYes}, FillText(TextId::DeleteLeftCopy, {copy, kept}), "open a.c 0;", nullptr},
-        {"other", {kNo, kNo}, FillText(TextId::DeleteLeftCopy, {copy, kept}), "open a.c 0;", "a.c.vx1k0"},
-    };
-    disk_.put("a.c", "same");
-    for (const Case& c : cases) {
-        disk_.put("a.c.vx1", c.contents);
-        notices_.answers = c.answers;
-        EXPECT_TRUE(opening_.OpenFileAtLine(disk_.path("a.c"), 1));
-        EXPECT_EQ(takeLog(), c.log);
-        EXPECT_EQ(notices_.boxes.back().text, c.lastQuestion);
-        EXPECT_EQ(disk_.count(), c.left ? 2u : 1u);
-        if (!c.left) continue;
-        EXPECT_EQ(disk_.get(c.left), c.contents);
-        platform::RemoveFile(disk_.path(c.left));
-    }
-}
-
-TEST_F(FileOpeningTest, TheLatestOfSeveralCopiesIsSpokenOfFirst) {
-    disk_.put("a.c", "now");
-    disk_.put("a.c.vx7", "older");
-    const auto older = platform::FactsOf(disk_.path("a.c.vx7"))->stamp.writeTime;
-    do {
-        disk_.put("a.c.vx2", "later");
-    } while (platform::FactsOf(disk_.path("a.c.vx2"))->stamp.writeTime == older);
-    notices_.answers = {BoxAnswer::Yes, BoxAnswer::Yes};
-    EXPECT_TRUE(opening_.OpenFileAtLine(disk_.path("a.c"), 1));
-    EXPECT_EQ(takeLog(), "open a.c 0;open a.c.vx2 0;open a.c.vx7 0;");
-}
-
-TEST_F(FileOpeningTest, LinesBelowOneAreTheFirst) {
-    for (const int line : {1, 0, -1, -2147483647 - 1})
-        EXPECT_TRUE(opening_.OpenFileAtLine("a.c", line));
-    EXPECT_EQ(takeLog(), "open a.c 0;open a.c 0;open a.c 0;open a.c 0;");
-    EXPECT_TRUE(opening_.OpenFileAtLine(std::nullopt, 5));
-    EXPECT_EQ(takeLog(), "open new 4;");
-}
-
-TEST_F(FileOpeningTest, CommandLineFilesAreCountedWhenTheyAreOpened) {
-    frame_.refused = disk_.path("b.c");
-    const std::vector<FileAtLine> files = {{"a.c", 5}, {"b.c", 5}, {"c.c", 0}};
-    EXPECT_EQ(opening_.OpenCommandLineFiles(files), 2);
-    EXPECT_EQ(takeLog(), "open a.c 4;open b.c 4;open c.c 0;");
-    EXPECT_EQ(opening_.OpenCommandLineFiles({}), 0);
-}
-
-TEST_F(FileOpeningTest, AHandedOverFileIsOpenedAfterwardsAndItsMessageDeleted) {
-    const std::string file = DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT";
-    for (const auto& [bytes, opened] : {std::pair{"C:\\A.C\r\n20\r\n", "open A.C 19;"}, std::pair{"", ""}}) {
-        WriteWholeFile(file, bytes);
-        outside_.receiveHandOff(platform::Ticks());
-        EXPECT_EQ(takeLog(), "soon;");
-        EXPECT_FALSE(platform::PathExists(file));
-        outside_.openWaiting();
-        EXPECT_EQ(takeLog(), std::string("front;restore;") + opened);
-    }
-    outside_.openWaiting();
-    EXPECT_EQ(takeLog(), "");
-}
-
-TEST_F(FileOpeningTest, AStartWaitsUntilItsDocumentIsClosedOrCannotBeOpened) {
-    const TextDocument document(options_, notices_);
-    const TextDocument another(options_, notices_);
+TEST(FileOpeningTest, AStartWaitsUntilItsDocumentIsClosedOrCannotBeOpened) {
+    OpeningStage stage;
+    const TextDocument document(stage.options, stage.notices);
+    const TextDocument another(stage.options, stage.notices);
     const DocumentWait closed;
     const DocumentWait refused;
     for (const DocumentWait* wait : {&closed, &refused}) {
-        ASSERT_TRUE(HandOffFile({"C:\\a.c", 3, 5, wait->number()}, notices_));
-        outside_.receiveHandOff(platform::Ticks());
+        ASSERT_TRUE(HandOffFile({"C:\\a.c", 3, 5, wait->number()}, stage.notices));
+        stage.outside.receiveHandOff(platform::Ticks());
         EXPECT_TRUE(AwaitReading());
-        EXPECT_FALSE(isFree(*wait)) << "it is on its way";
-        frame_.document = wait == &closed ? &document : nullptr;
-        outside_.openWaiting();
-        EXPECT_EQ(takeLog(), "soon;front;restore;open a.c 2:4;");
+        EXPECT_FALSE(IsFree(*wait)) << "it is on its way";
+        stage.document = wait == &closed ? &document : nullptr;
+        stage.outside.openWaiting();
+        EXPECT_EQ(stage.log.back(), "open C:\\a.c 3:5");
     }
-    EXPECT_TRUE(isFree(refused));
+    EXPECT_TRUE(IsFree(refused));
     EXPECT_FALSE(refused.awaitEnd()) << "the user has not closed it";
-    outside_.documentCloses(another);
-    EXPECT_FALSE(isFree(closed));
-    outside_.documentCloses(document);
-    EXPECT_TRUE(isFree(closed));
+    stage.outside.documentCloses(another);
+    EXPECT_FALSE(IsFree(closed));
+    stage.outside.documentCloses(document);
+    EXPECT_TRUE(IsFree(closed));
     EXPECT_TRUE(closed.awaitEnd());
 }
 
-TEST_F(FileOpeningTest, WhatComesFromOutsideWaitsForTheEndOfADialog) {
-    frame_.free = false;
-    EXPECT_TRUE(outside_.executeDde("[open(\"C:\\A\")]"));
-    outside_.add({"C:\\B", 0});
-    outside_.openWaiting();
-    EXPECT_EQ(takeLog(), "soon;soon;front;restore;") << "the user finds the dialog";
-    frame_.free = true;
-    outside_.openWaiting();
-    EXPECT_EQ(takeLog(), "front;restore;open A 0;open B 0;");
-    EXPECT_FALSE(outside_.executeDde("[print(\"C:\\A.C\")]"));
-    EXPECT_EQ(takeLog(), "");
-}
-
-TEST_F(FileOpeningTest, BroadcastsWithoutAFileAreToldOnceUnlessTheirFileWasTaken) {
-    const std::uint32_t before = platform::Ticks();
-    for (int i = 0; i < 50; ++i)
-        outside_.receiveHandOff(before + 1000);  // later than anything was taken
-    outside_.openWaiting();
-    const test::BoxNotice told{FillText(TextId::UnexpectedError, {"VXEAPP01", "2173"}), "Vexa Error", BoxButtons::Ok};
-    EXPECT_EQ(notices_.boxes, std::vector{told});
-    WriteWholeFile(DirectoryOf(platform::ProgramPath()) + "VEXACMD.DAT", "C:\\A.C\r\n-1\r\n");
-    outside_.receiveHandOff(before);
-    outside_.receiveHandOff(before);
-    OutsideOpens another(opening_, frame_, notices_);
-    another.receiveHandOff(before);
-    outside_.openWaiting();
-    another.openWaiting();
-    EXPECT_EQ(notices_.boxes.size(), 1u);
-}
-
-TEST_F(FileOpeningTest, DroppedFilesAreOpenedInTheirOrderUntilTheProgramEnds) {
-    const std::vector<std::string> names = {"C:\\B", "C:\\A", "C:\\C"};
-    opening_.OpenDroppedFiles(names);
-    EXPECT_EQ(takeLog(), "front;front;open B 0;front;open A 0;front;open C 0;restore;");
-    EXPECT_EQ(notices_.pumpCount, 3);
-    notices_.quitAtPump = 5;
-    opening_.OpenDroppedFiles(names);
-    EXPECT_EQ(takeLog(), "front;front;open B 0;front;restore;");
-}
-
-TEST_F(FileOpeningTest, DdeExecutesOfOneFormAreTheEditors) {
-    const std::pair<const char*, std::optional<std::string>> cases[] = {
-        {"[open(\"C:\\A B.C\")]", "C:\\A B.C"},
-        {"[open(\"a.c\" and anything", "a.c"},
-        {"[open(\"\")]", ""},
-        {"[open(\"a.c", std::nullopt},
-        {"[OPEN(\"a.c\")]", std::nullopt},
-        {" [open(\"a.c\")]", std::nullopt},
-        {"[open(a.c)]", std::nullopt},
-        {"", std::nullopt},
-    };
-    for (const auto& [text, file] : cases)
-        EXPECT_EQ(FileOfDdeExecute(text), file) << text;
+TEST(HandOffTest, AFileIsTakenOnceAndItsBroadcastsAreAnswered) {
+    const OpeningStage stage;
+    WriteWholeFile(MessageFile(), "C:\\A.C\r\n-1\r\n");
+    HandOffInbox inbox;
+    EXPECT_NE(inbox.take(), std::nullopt);
+    EXPECT_EQ(inbox.take(), std::nullopt);
+    EXPECT_TRUE(HandOffInbox().wasTaken(stage.before));
+    EXPECT_TRUE(HandOffInbox().wasTaken(platform::SharedNumber("VexaHandOffTaken").get())) << "at the same tick";
+    EXPECT_FALSE(HandOffInbox().wasTaken(stage.before + 1000000));
+    AwaitReading();  // what has been taken is not waited for
 }
 
 }  // namespace
-}  // namespace vexa
+}  // namespace vexa::test
