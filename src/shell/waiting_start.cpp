@@ -1,5 +1,6 @@
 #include "shell/waiting_start.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "shell/document_wait.h"
@@ -33,7 +34,7 @@ bool HasEditor(IsEditorOpen isEditorOpen, StartTurn& turn) {
 }
 
 // An editor that is busy reads the file later, one that has ended never.
-bool HandedOffInTime(const FileAtLine& file, IsEditorOpen isEditorOpen, Notices& notices) {
+bool HandedOff(const FileAtLine& file, IsEditorOpen isEditorOpen, Notices& notices) {
     if (!HandOffFile(file, notices)) return false;
     while (!AwaitReading()) {
         if (isEditorOpen()) continue;
@@ -45,11 +46,9 @@ bool HandedOffInTime(const FileAtLine& file, IsEditorOpen isEditorOpen, Notices&
 
 }  // namespace
 
-bool HandedOff(std::span<const FileAtLine> files, Notices& notices) {
-    for (const FileAtLine& file : files) {
-        if (!HandOffFile(file, notices) || !AwaitReading()) return false;
-    }
-    return !files.empty();
+bool HandedOff(std::span<const FileAtLine> files, bool (*isEditorOpen)(), Notices& notices) {
+    const auto isHandedOff = [&](const FileAtLine& file) { return HandedOff(file, isEditorOpen, notices); };
+    return !files.empty() && std::ranges::all_of(files, isHandedOff);
 }
 
 bool WaitedFor(std::vector<FileAtLine> files, bool (*isEditorOpen)(), StartTurn& turn, Notices& notices) {
@@ -58,8 +57,8 @@ bool WaitedFor(std::vector<FileAtLine> files, bool (*isEditorOpen)(), StartTurn&
     for (FileAtLine& file : files) {
         waits.push_back(std::make_unique<DocumentWait>());
         file.wait = waits.back()->number();
-        if (!HandedOffInTime(file, isEditorOpen, notices)) return false;
     }
+    if (!HandedOff(files, isEditorOpen, notices)) return false;
     turn.reset();
     bool areClosed = true;
     for (const auto& wait : waits)

@@ -15,8 +15,9 @@ namespace vexa {
 // The turn that a start has until no other one can come in between.
 using StartTurn = std::optional<platform::SystemTurn>;
 
-// Hands the files over to the running editor, one after the other; true when it has read them all.
-bool HandedOff(std::span<const FileAtLine> files, Notices& notices);
+// Hands the files over to the running editor, one after the other; true when it has read them all. Waits while the
+// editor is busy, and takes back what one that has ended has not read.
+bool HandedOff(std::span<const FileAtLine> files, bool (*isEditorOpen)(), Notices& notices);
 
 // Has the running editor open the files, and starts one first if none runs: this process has no window. Ends when the
 // last file has been closed; true if the user has closed them all. False at once, or as soon as the editor ends by

@@ -79,7 +79,7 @@ int Start(const vexa::CommandLine& commandLine, int showCommand) {
     if (request && request->waits && !files.empty())
         return vexa::WaitedFor(files, &IsEditorOpen, turn, notices) ? 0 : 1;
     if (turn->isMine() && IsEditorOpen()) {
-        if (request && vexa::HandedOff(files, notices)) return 0;
+        if (request && vexa::HandedOff(files, &IsEditorOpen, notices)) return 0;
         if (!request && vexa::HandedOff(commandLine, notices)) {
             vexa::AwaitReading();
             return 0;
