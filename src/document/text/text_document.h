@@ -141,6 +141,7 @@ class TextDocument {
 
     // Sets a bookmark to the current line.
     BookmarkResult dropBookmark(std::int32_t n) { return bookmarks_.drop(n, currentLine_); }
+    void setBookmarks(const Bookmarks& kept) { bookmarks_ = kept; }
     const Bookmarks& bookmarks() const { return bookmarks_; }
     BackupState& backup() { return backup_; }
 

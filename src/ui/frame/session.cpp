@@ -90,12 +90,7 @@ DocumentWindow* Session::restore(const SessionDocument& kept) {
     if (!documents_.opening().OpenFileAtLine(kept.path, 0)) return nullptr;
     DocumentWindow* shown = documents_.active();
     if (!shown) return nullptr;
-    TextDocument& document = shown->document();
-    for (std::int32_t n = 0; n < Bookmarks::kCount; ++n) {
-        const std::optional<LineIndex> line = kept.bookmarks.line(n);
-        if (line) document.setCurrentLine(*line);  // a bookmark is dropped where the caret is
-        if (line) document.dropBookmark(n);
-    }
+    shown->document().setBookmarks(kept.bookmarks);
     shown->view().goTo(kept.caret.line, kept.caret.column);
     shown->refresh();
     return shown;
