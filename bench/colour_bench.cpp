@@ -104,12 +104,12 @@ struct ColouredSession : Session {
 void CommentsOfWholeText(benchmark::State& state) {
     Disk disk;
     ColouredSession session;
-    const std::int32_t last = session.document.lastLine(LastUsed::Text);
+    const LineIndex last = session.document.lastLine(LastUsed::Text);
     for (auto _ : state) {
         state.PauseTiming();
         session.document.setProfile(session.profile);
         state.ResumeTiming();
-        benchmark::DoNotOptimize(session.document.startState(LineIndex(last)));
+        benchmark::DoNotOptimize(session.document.startState(last));
     }
     CountLines(state, static_cast<std::size_t>(last));
 }
@@ -148,7 +148,7 @@ BENCHMARK(OpenCommentOnTopAndLookAtEnd)->Name("comment_on_top_seen_at_end/C/vexa
 void ScrollThroughTextAndPaint(benchmark::State& state) {
     Disk disk;
     ColouredSession session;
-    const LineIndex last(session.document.lastLine(LastUsed::Text) - kRows);
+    const LineIndex last = session.document.lastLine(LastUsed::Text) - kRows;
     for (auto _ : state) {
         if (session.view.topLine() >= last) session.view.scrollToLine(LineIndex(0));
         session.view.scrollBy(1);

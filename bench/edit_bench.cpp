@@ -48,7 +48,7 @@ void LineInAndOutByKeys(benchmark::State& state) {
             state.ResumeTiming();
         }
     }
-    if (session.document.lastLine(LastUsed::Plain) + 1 != kLinesOfC) state.SkipWithError("lines were left");
+    if (session.document.lastLine(LastUsed::Plain).value + 1 != kLinesOfC) state.SkipWithError("lines were left");
 }
 
 // The floor of a plain array: every pointer behind the place moves, there and back.

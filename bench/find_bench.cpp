@@ -132,13 +132,13 @@ void FindInDocument(benchmark::State& state, const char* file, const Absent& abs
     for (auto _ : state) {
         if (session.finder.findNext(session.view)) return state.SkipWithError("it is there");
     }
-    Report(state, "ns_line", session.document.lastLine(LastUsed::Text) + 1);
+    Report(state, "ns_line", session.document.lastLine(LastUsed::Text).value + 1);
 }
 
 template <typename Search>
 void SearchLines(benchmark::State& state, const TextDocument& document, Search search) {
     std::vector<std::string_view> lines;
-    for (LineIndex line; line.value <= document.lastLine(LastUsed::Text); ++line)
+    for (LineIndex line; line <= document.lastLine(LastUsed::Text); ++line)
         lines.push_back(document.text(line));
     for (auto _ : state) {
         for (const std::string_view line : lines)

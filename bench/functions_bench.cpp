@@ -18,7 +18,7 @@ void UseLines(benchmark::State& state, const std::string& name, Use use) {
     const Disk disk;
     Session session("c.txt");
     session.document.setName("C:\\" + name);
-    const LineIndex last(session.document.lastLine(LastUsed::Text));
+    const LineIndex last = session.document.lastLine(LastUsed::Text);
     for (auto _ : state)
         benchmark::DoNotOptimize(use(session.document, last));
     state.SetItemsProcessed((last.value + 1) * state.iterations());

@@ -48,7 +48,7 @@ void MeasureVexa(const std::string& corpus, const std::string& file) {
     const Memory before;
     const Session session(file);
     Print("memory/" + corpus + "/vexa", before, Memory());
-    const int lines = session.document.lastLine(LastUsed::Plain) + 1;
+    const int lines = session.document.lastLine(LastUsed::Plain).value + 1;
     std::printf("memory/%s/reserve_of_every_line allocated %.0f resident 0\n", corpus.c_str(),
                 static_cast<double>(lines) * TextLine::kReserve);
     std::fflush(stdout);

@@ -57,7 +57,7 @@ struct Session {
 std::size_t CutTokens(const TextDocument& document) {
     static const TokenRules rules{ExtensionProfile()};
     std::size_t tokens = 0;
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex line; line <= last; ++line) {
         LineTokenizer tokenizer(rules, document.text(line));
         while (tokenizer.NextToken().kind != TokenKind::EndOfLine)

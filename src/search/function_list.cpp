@@ -51,7 +51,7 @@ FunctionEntry EntryOf(std::string_view name, LineIndex line) {
 std::vector<FunctionEntry> FindByLines(const TextDocument& document, const LineRule& rule) {
     const std::unique_ptr<RegExp> program = RegExp::Compile(rule.pattern);
     std::vector<FunctionEntry> found;
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex line(0); line <= last; ++line) {
         const std::string_view text = document.text(line);
         if (!RegExp::Execute(program.get(), text, rule.letterCase)) continue;
@@ -62,7 +62,7 @@ std::vector<FunctionEntry> FindByLines(const TextDocument& document, const LineR
 
 std::vector<FunctionEntry> FindLikeC(const TextDocument& document) {
     CFunctionScanner scanner;
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex line(0); line <= last; ++line)
         scanner.addLine(document.text(line));
     std::vector<FunctionEntry> found;

@@ -35,7 +35,7 @@ class SearchRun {
 
   private:
     TextPosition start() const;
-    LineIndex lastTextLine() const { return LineIndex(document_.lastLine(LastUsed::Text)); }
+    LineIndex lastTextLine() const { return document_.lastLine(LastUsed::Text); }
     std::string_view subject(LineIndex line);
     TextPosition endOf(const DocumentMatch& match) const;
     std::optional<DocumentMatch> findBetween(TextPosition start, LineIndex last);

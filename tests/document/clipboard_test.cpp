@@ -66,7 +66,7 @@ TEST_F(Clipboard, ABlockThatReachesBeyondTheLastSlotEndsWithIt) {
     view_.key({.key = kKeyTab});
     view_.cut();
     EXPECT_EQ(clipboard_.text, "    line\r\n");
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 1098);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(1098));
 }
 
 TEST_F(Clipboard, HeldByAnotherProgramLosesNothing) {
@@ -83,13 +83,13 @@ TEST_F(Clipboard, HeldByAnotherProgramLosesNothing) {
 TEST_F(Clipboard, ACutOrPasteOfManyLinesIsOneUndoStep) {
     markTo(999);
     view_.cut();
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 99);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(99));
     view_.paste();
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 1099);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(1099));
     view_.undo();
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 99);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(99));
     view_.undo();
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 1099);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(1099));
     EXPECT_FALSE(document_.isModified());
 }
 

@@ -29,7 +29,7 @@ struct DocumentSession {
     // Up to the last that is in use, or that has text.
     std::vector<std::string> lines(LastUsed last = LastUsed::Plain) const {
         std::vector<std::string> all;
-        for (std::int32_t i = 0; i <= document_.lastLine(last); ++i)
+        for (std::int32_t i = 0; i <= document_.lastLine(last).value; ++i)
             all.push_back(text(i));
         return all;
     }

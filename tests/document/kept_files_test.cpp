@@ -48,7 +48,7 @@ class KeptFile : protected test::DocumentSession {
     // One character typed and deleted leaves the bytes alone, and one typed is the only difference.
     void expectUnchanged(const std::string& bytes, std::size_t seed) {
         load(bytes);
-        const auto lines = static_cast<std::size_t>(document_.lastLine(LastUsed::Text)) + 1;
+        const auto lines = static_cast<std::size_t>(document_.lastLine(LastUsed::Text).value) + 1;
         view_.goTo(LineIndex(static_cast<std::int32_t>(seed % lines)), CharColumn(0));
         const auto length = static_cast<std::size_t>(view_.editor().textEnd().value);
         view_.goTo(document_.currentLine(), CharColumn(static_cast<std::int32_t>(seed % 300 % (length + 1))));

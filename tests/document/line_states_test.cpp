@@ -42,7 +42,7 @@ class CommentLines : public testing::Test, protected test::DocumentSession {
     LineState state(int line) { return document_.startState(LineIndex(line)); }
     bool inside(int line) { return GoesOn(state(line)); }
     void expectFresh(const std::string& when) {
-        const std::int32_t lines = document_.lastLine(LastUsed::Plain) + 3;
+        const std::int32_t lines = document_.lastLine(LastUsed::Plain).value + 3;
         const std::vector<LineState> fresh = FreshStates(document_, profile_, lines);
         for (std::int32_t i = 0; i < lines; ++i)
             ASSERT_EQ(state(i), fresh[static_cast<std::size_t>(i)]) << "line " << i << " " << when;

@@ -137,7 +137,7 @@ TEST_F(Load, AFileThatCannotBeReadToItsEndLeavesNoLines) {
     SetFileFault(nullptr);
     EXPECT_EQ(reads, 2);
     EXPECT_FALSE(document_.isNamed());
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 200);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(200));
     EXPECT_EQ(text(0), "");
     EXPECT_EQ(document_.disk().checksum, std::nullopt);
 }
@@ -195,12 +195,12 @@ TEST_F(Load, ExactlyTheLimitOfLinesIsWhole) {
         file += "x\n";
     ASSERT_TRUE(load(file));
     EXPECT_FALSE(document_.isTruncated());
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 90000);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(90000));
     EXPECT_TRUE(notices_.boxes.empty());
 
     ASSERT_TRUE(load(file + "y"));
     EXPECT_TRUE(document_.isTruncated());
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 90000);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(90000));
     ASSERT_EQ(notices_.boxes.size(), 1u);
     EXPECT_EQ(notices_.boxes[0], (BoxNotice{std::string(LoadText(TextId::FileTooLarge)), "Vexa 95", BoxButtons::Ok}));
 }
@@ -243,7 +243,7 @@ TEST_F(Load, WhatCannotBeOpenedLeavesAnEmptyDocumentThatIsNotSavedOverIt) {
         EXPECT_FALSE(document_.load()) << name;
         EXPECT_FALSE(document_.isNamed());
         EXPECT_FALSE(document_.write());
-        EXPECT_EQ(document_.lastLine(LastUsed::Plain), 200);
+        EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(200));
         EXPECT_EQ(text(0), "");
     }
     document_.setName("");
@@ -264,7 +264,7 @@ TEST_F(Load, OfAHugeFileOnlyTheLinesThatAreKeptAreRead) {
     document_.setName(disk_.path("HUGE.BIN"));
     ASSERT_TRUE(document_.load());
     EXPECT_TRUE(document_.isTruncated());
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 90000);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(90000));
     EXPECT_EQ(text(90000), std::string(294, '\0'));
 }
 
@@ -280,10 +280,10 @@ TEST_F(Load, ALoadForgetsHistoryAndMarking) {
 }
 
 TEST_F(Load, ANewDocumentHasItsOnlyLineFarDown) {
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 200) << "before any text";
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(200)) << "before any text";
     document_.newEmpty();
     EXPECT_FALSE(document_.isNamed());
-    EXPECT_EQ(document_.lastLine(LastUsed::Plain), 200);
+    EXPECT_EQ(document_.lastLine(LastUsed::Plain), LineIndex(200));
     EXPECT_TRUE(document_.lines().isVacant(0));
     EXPECT_FALSE(document_.lines().isVacant(200));
 }

@@ -24,7 +24,7 @@ class RandomUser {
         } else if (choice == 5) {
             useMouse();
         } else if (choice == 6) {
-            const auto lines = static_cast<unsigned>(view_.document().lastLine(LastUsed::Plain)) + 2;
+            const auto lines = static_cast<unsigned>(view_.document().lastLine(LastUsed::Plain).value) + 2;
             view_.goTo(LineIndex(below(lines)), CharColumn(below(6)));
         } else if (choice < 11) {
             view_.key(KeyEvent{.character = static_cast<unsigned char>(characters_[random_() % characters_.size()]),

@@ -105,10 +105,10 @@ std::vector<Inserted> SignsOf(const TextDocument& document, LineIndex line) {
 }  // namespace
 
 std::vector<std::string> ShowDocument(const TextDocument& document) {
-    std::int32_t last = std::max(document.lastLine(LastUsed::Text), document.currentLine().value);
-    if (document.marked().active) last = std::max(last, document.marked().end.line.value);
+    LineIndex last = std::max(document.lastLine(LastUsed::Text), document.currentLine());
+    if (document.marked().active) last = std::max(last, document.marked().end.line);
     std::vector<std::string> lines;
-    for (LineIndex line; line.value <= last; ++line)
+    for (LineIndex line; line <= last; ++line)
         lines.push_back(WithSigns(document, line, SignsOf(document, line)));
     return lines;
 }

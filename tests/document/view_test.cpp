@@ -196,7 +196,7 @@ const Verbs<ViewStage> kVerbs = {
     {"left", [](ViewStage& s, Words) { return Told(s.view.leftColumn().value); }},
     {"line", [](ViewStage& s, Words) { return Told(s.document.currentLine().value); }},
     {"column", [](ViewStage& s, Words) { return Told(s.document.column().value); }},
-    {"last-line", [](ViewStage& s, Words) { return Told(s.document.lastLine(LastUsed::Plain)); }},
+    {"last-line", [](ViewStage& s, Words) { return Told(s.document.lastLine(LastUsed::Plain).value); }},
     {"caret", &Caret},
     {"marked", &Marked},
     {"margin", &Margin},

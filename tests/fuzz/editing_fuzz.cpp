@@ -188,7 +188,7 @@ class User {
         view_.scrollBy(input_.byte() - 128);
         document_.lookAheadForComments(100);
         for (const FunctionEntry& entry : FunctionsOf(document_))
-            Require(entry.line.value <= document_.lastLine(LastUsed::Text));
+            Require(entry.line <= document_.lastLine(LastUsed::Text));
         if (document_.marked().active) print(PrintArea::Marked);
         print(PrintArea::Document);
     }
@@ -199,7 +199,7 @@ class User {
     }
     std::size_t textSize() const {
         std::size_t size = 0;
-        for (LineIndex i; i.value <= document_.lastLine(LastUsed::Plain); ++i)
+        for (LineIndex i; i <= document_.lastLine(LastUsed::Plain); ++i)
             size += document_.text(i).size() + 1;
         return size;
     }

@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Fill(document, input.rest());
     LineIndex before;
     for (const FunctionEntry& entry : FunctionsOf(document)) {
-        Require(entry.line >= before && entry.line.value <= document.lastLine(LastUsed::Text));
+        Require(entry.line >= before && entry.line <= document.lastLine(LastUsed::Text));
         Require(!entry.name.empty() && entry.name.find('\t') == std::string::npos);
         before = entry.line;
     }

@@ -76,7 +76,7 @@ inline void Fill(TextDocument& document, std::string_view text) {
 
 inline std::vector<std::string> LinesOf(const TextDocument& document) {
     std::vector<std::string> lines;
-    for (LineIndex i; i.value <= document.lastLine(LastUsed::Text); ++i)
+    for (LineIndex i; i <= document.lastLine(LastUsed::Text); ++i)
         lines.emplace_back(document.text(i));
     return lines;
 }

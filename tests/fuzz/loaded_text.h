@@ -24,8 +24,8 @@ inline std::string WithoutLineEnds(const std::string& bytes, bool binary) {
 
 inline std::string Joined(const TextDocument& document) {
     std::string text;
-    const std::int32_t last = document.lastLine(LastUsed::Text);
-    for (LineIndex i; i.value <= last; ++i)
+    const LineIndex last = document.lastLine(LastUsed::Text);
+    for (LineIndex i; i <= last; ++i)
         text += document.text(i);
     return text;
 }

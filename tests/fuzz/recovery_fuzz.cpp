@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         lines.pop_back();
     Require(vexa::LinesOf(document) == lines);
     std::string again = RecoveryBeginning(document);
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex i; i <= last; ++i)
         again.append(document.text(i)).append(RecoveredLineEnd(document, i, last));
     SealRecovery(again, ChecksumOf(std::string_view(again).substr(kUncounted)));

@@ -50,7 +50,7 @@ PrintLayout::PrintLayout(const TextDocument& document, Request request)
 }
 
 void PrintLayout::findLines() {
-    last_ = LineIndex(document_.lastLine(LastUsed::Text));
+    last_ = document_.lastLine(LastUsed::Text);
     if (request_.area == PrintArea::Marked) {
         first_ = document_.marked().start.line;
         last_ = std::min(last_, document_.marked().end.line);

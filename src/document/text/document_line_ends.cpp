@@ -25,7 +25,7 @@ LineEnd LineEndAt(const TextDocument& document, LineIndex index, LineIndex last)
 
 void CountLineEnds(TextDocument& document) {
     LineEndTally tally;
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex i; i <= last; ++i)
         tally.add(LineEndAt(document, i, last));
     document.lineEndStyle() = tally.style(document.lineEndStyle().common);

@@ -144,8 +144,8 @@ bool TextDocument::isLineChanged(LineIndex index) const {
 
 // ---- lines -------------------------------------------------------------------------------------------------------
 
-std::int32_t TextDocument::lastLine(LastUsed mode) const {
-    return loaded_ ? lines_.lastUsed(mode) : kNewDocumentLine;
+LineIndex TextDocument::lastLine(LastUsed mode) const {
+    return LineIndex(loaded_ ? lines_.lastUsed(mode) : kNewDocumentLine);
 }
 
 TextLine& TextDocument::editableLine(LineIndex index) {

@@ -90,7 +90,7 @@ class TextDocument {
     // ---- lines ----
 
     // The index of the last line in use; that of a new document's line before the first load.
-    std::int32_t lastLine(LastUsed mode) const;
+    LineIndex lastLine(LastUsed mode) const;
     // The line at an index; none beyond the capacity of the line store. Vacant slots read as an empty line.
     const TextLine* line(LineIndex index) const { return lines_.at(index.value); }
     std::string_view text(LineIndex index) const {

@@ -58,7 +58,7 @@ class BufferedOutput {
 };
 
 void PutAsKept(const TextDocument& document, BufferedOutput& output) {
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex i; i <= last; ++i) {
         output.put(document.text(i));
         output.put(BytesOf(LineEndAt(document, i, last)));
@@ -66,11 +66,11 @@ void PutAsKept(const TextDocument& document, BufferedOutput& output) {
 }
 
 void PutUnified(const TextDocument& document, BufferedOutput& output, bool bytes) {
-    const std::int32_t last = document.lastLine(LastUsed::Text);
-    const bool endsInCtrlZ = bytes && document.text(LineIndex(last)).ends_with(kCtrlZ);
-    for (LineIndex i; i.value <= last; ++i) {
+    const LineIndex last = document.lastLine(LastUsed::Text);
+    const bool endsInCtrlZ = bytes && document.text(last).ends_with(kCtrlZ);
+    for (LineIndex i; i <= last; ++i) {
         output.put(document.text(i));
-        if (endsInCtrlZ && i.value == last) break;
+        if (endsInCtrlZ && i == last) break;
         if (!bytes) output.put('\r');
         output.put('\n');
     }

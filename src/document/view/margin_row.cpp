@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
+#include "document/view/viewport.h"
+
 namespace vexa {
 
 namespace {
 
 constexpr std::size_t kFewestDigits = 4;
-
-LineIndex LastShownLine(const TextDocument& document) {
-    return std::max(LineIndex(document.lastLine(LastUsed::Plain)), document.currentLine());
-}
 
 char BookmarkOf(const TextDocument& document, LineIndex line) {
     for (std::int32_t n = 0; n < Bookmarks::kCount; ++n) {

@@ -60,7 +60,7 @@ void Marker::cursorMoved(bool extending) {
 }
 
 void Marker::markAll() {
-    const LineIndex last(document_.lastLine(LastUsed::Text));
+    const LineIndex last = document_.lastLine(LastUsed::Text);
     extending_ = false;
     editor_.run<SetMarkMode>(MarkMode::Lines);
     anchor_ = MarkPoint{};

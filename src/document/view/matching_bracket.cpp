@@ -42,7 +42,7 @@ class Search {
         : document_(document), shape_(shape), brackets_{shape.opening, shape.closing} {}
 
     std::optional<TextPosition> forwards(TextPosition from) {
-        const LineIndex last(document_.lastLine(LastUsed::Text));
+        const LineIndex last = document_.lastLine(LastUsed::Text);
         auto start = static_cast<std::size_t>(from.column.value);
         for (LineIndex line = from.line; line <= last; ++line, start = 0) {
             const std::string_view text = document_.text(line);

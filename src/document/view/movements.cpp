@@ -39,7 +39,7 @@ void WordRight(Editing& editing) {
     const LineIndex line = editing.document.currentLine();
     if (const auto start = NextWordStart(editing.document.text(line), editing.document.column())) {
         editing.editor.moveToColumn(*start);
-    } else if (line.value < editing.document.lastLine(LastUsed::Plain)) {
+    } else if (line < editing.document.lastLine(LastUsed::Plain)) {
         editing.editor.moveToLine(line + 1);
         const std::size_t indent = IndentOf(editing.document.text(line + 1)).size();
         editing.editor.moveToColumn(CharColumn(static_cast<std::int32_t>(indent)));
@@ -93,7 +93,7 @@ void DocumentStart(Editing& editing) {
 }
 
 void DocumentEnd(Editing& editing) {
-    editing.editor.moveToLine(LineIndex(editing.document.lastLine(LastUsed::Text)));
+    editing.editor.moveToLine(editing.document.lastLine(LastUsed::Text));
     editing.editor.moveToLineEnd();
 }
 

@@ -52,7 +52,7 @@ class FileWasReadAnew : public EditAction {
 
 LineViews LinesOf(const TextDocument& document) {
     LineViews lines;
-    const LineIndex last(document.lastLine(LastUsed::Text));
+    const LineIndex last = document.lastLine(LastUsed::Text);
     for (LineIndex i; i <= last; ++i)
         lines.push_back({document.text(i), LineEndAt(document, i, last)});
     return lines;

@@ -4,13 +4,13 @@
 
 namespace vexa {
 
+LineIndex LastShownLine(const TextDocument& document) {
+    return std::max(document.lastLine(LastUsed::Plain), document.currentLine());
+}
+
 void Viewport::resize(std::int32_t rows, std::int32_t columns) {
     rows_ = std::max(rows, 1);
     columns_ = std::max(columns, 1);
-}
-
-LineIndex Viewport::lastLine() const {
-    return std::max(LineIndex(document_.lastLine(LastUsed::Plain)), document_.currentLine());
 }
 
 DisplayColumn Viewport::widestColumn() const {

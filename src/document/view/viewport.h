@@ -17,6 +17,9 @@ struct Cell {
     bool operator==(const Cell&) const = default;
 };
 
+// The last line that is in use or has the caret: scrolling reaches it, and the margin numbers the lines up to it.
+LineIndex LastShownLine(const TextDocument& document);
+
 class Viewport {
   public:
     explicit Viewport(const TextDocument& document) : document_(document) {}
@@ -28,8 +31,8 @@ class Viewport {
 
     LineIndex top() const { return top_; }
     DisplayColumn left() const { return left_; }
-    // The last line and the widest column that scrolling must be able to reach.
-    LineIndex lastLine() const;
+    LineIndex lastLine() const { return LastShownLine(document_); }
+    // What scrolling must be able to reach.
     DisplayColumn widestColumn() const;
 
     void scrollToLine(LineIndex top);

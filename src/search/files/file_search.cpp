@@ -59,13 +59,13 @@ bool FileSearch::searchBlock() {
 // The document may have been changed or closed since the last part.
 bool FileSearch::searchDocument() {
     const TextDocument* document = files_.documentOf(walk_.file());
-    const std::int32_t last = document ? document->lastLine(LastUsed::Text) : -1;
-    for (std::int32_t left = kLinesAtOnce; left > 0 && line_.value <= last; --left, ++line_) {
+    const LineIndex last = document ? document->lastLine(LastUsed::Text) : LineIndex(-1);
+    for (std::int32_t left = kLinesAtOnce; left > 0 && line_ <= last; --left, ++line_) {
         const std::string_view text = document->text(line_);
         const auto match = search_.lines().find(text, CharColumn(0));
         if (match && !take(line_, *match, text)) return false;
     }
-    if (line_.value > last) next_ = &FileSearch::findFile;
+    if (line_ > last) next_ = &FileSearch::findFile;
     return true;
 }
 

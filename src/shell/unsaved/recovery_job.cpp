@@ -36,7 +36,7 @@ RecoveryJob::State RecoveryJob::copyLines() {
     if (revision_ != document_.revision()) begin();
     std::string part;
     const std::size_t limit = beginnings_ < kMostBeginnings ? kPart : part.max_size();
-    const LineIndex last(document_.lastLine(LastUsed::Text));
+    const LineIndex last = document_.lastLine(LastUsed::Text);
     for (; line_ <= last && part.size() < limit; ++line_) {
         part += document_.text(line_);
         part += RecoveredLineEnd(document_, line_, last);
