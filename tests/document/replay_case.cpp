@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <sstream>
 
 #include "document/shown_document.h"
 
@@ -55,6 +54,12 @@ int UndoAll(EditView& view) {
     return commands;
 }
 
+void ExpectShown(const CaseStep& step, char mark, const std::vector<std::string>& shown) {
+    const std::vector<std::string> expected = step.marked(mark);
+    if (expected.empty()) return;
+    EXPECT_EQ(Joined(shown), Joined(expected)) << "line " << step.number << ", after: " << step.text;
+}
+
 std::string StatusOf(const ReplaySession& session) {
     return session.notices().statuses.empty() ? "none" : session.notices().lastStatus();
 }
@@ -62,11 +67,7 @@ std::string StatusOf(const ReplaySession& session) {
 }  // namespace
 
 void PressWord(EditView& view, std::string word) {
-    int count = 1;
-    if (const std::size_t star = word.find('*'); star != std::string::npos) {
-        count = std::stoi(word.substr(star + 1));
-        word.erase(star);
-    }
+    int count = TakeCount(word);
     int number = 0;
     if (const std::size_t colon = word.find(':'); colon != std::string::npos) {
         number = std::stoi(word.substr(colon + 1));
@@ -92,52 +93,25 @@ void PressWord(EditView& view, std::string word) {
     }
 }
 
-std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::string& content) {
-    std::vector<ReplayCase> cases;
-    std::istringstream lines(content);
-    for (std::string line; std::getline(lines, line);) {
-        if (line.empty()) continue;
-        const std::string rest = line.size() > 2 ? line.substr(2) : std::string();
-        if (line[0] == '#') {
-            cases.push_back({topic, rest, {}, {}, {}});
-            continue;
-        }
-        ReplayCase& now = cases.back();
-        if (line[0] == '<') {
-            now.before.push_back(rest);
-        } else if (line[0] == '>') {
-            now.steps.back().expected.push_back(rest);
-        } else if (line[0] == '!') {
-            now.steps.back().status = rest;
-        } else if (line[0] == '=') {
-            now.steps.back().clipboard = rest;
-        } else if (now.before.empty()) {
-            now.options += line + "\n";
-        } else {
-            now.steps.push_back({line, {}, {}, {}});
-        }
+void RunReplayCase(const Case& replay, ReplaySession& session) {
+    std::vector<std::string> text;
+    std::string options;
+    std::size_t at = 0;
+    for (; text.empty(); ++at) {
+        options += replay.steps.at(at).text + "\n";
+        text = replay.steps.at(at).marked('<');
     }
-    return cases;
-}
-
-void RunReplayCase(const ReplayCase& replayCase, ReplaySession& session) {
-    SCOPED_TRACE(replayCase.topic + ": " + replayCase.name);
-    session.setOptions(replayCase.options);
+    session.setOptions(options);
     EditView& view = session.view();
     const TextDocument& document = view.document();
-    FillDocument(view.document(), replayCase.before);
+    FillDocument(view.document(), text);
     const std::vector<std::string> before = ShowDocument(document);
-    for (const ReplayStep& step : replayCase.steps) {
-        session.run(step.keys);
-        if (!step.expected.empty()) {
-            EXPECT_EQ(Joined(ShowDocument(document)), Joined(step.expected)) << "after: " << step.keys;
-        }
-        if (!step.status.empty()) {
-            EXPECT_EQ(StatusOf(session), step.status) << "after: " << step.keys;
-        }
-        if (!step.clipboard.empty()) {
-            EXPECT_EQ(session.clipboard(), step.clipboard) << "after: " << step.keys;
-        }
+    for (; at < replay.steps.size(); ++at) {
+        const CaseStep& step = replay.steps[at];
+        session.run(step.text);
+        ExpectShown(step, '>', ShowDocument(document));
+        ExpectShown(step, '!', {StatusOf(session)});
+        ExpectShown(step, '=', {session.clipboard()});
     }
     const std::vector<std::string> after = ShowDocument(document);
     int commands = UndoAll(view);

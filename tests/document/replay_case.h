@@ -17,32 +17,13 @@
 // done again, which must bring back the last.
 #pragma once
 
-#include <ostream>
 #include <string>
-#include <vector>
 
 #include "document/view/edit_view.h"
+#include "support/case_files.h"
 #include "support/recording_notices.h"
 
 namespace vexa::test {
-
-struct ReplayStep {
-    std::string keys;
-    std::vector<std::string> expected;
-    std::string status;
-    std::string clipboard;
-};
-
-struct ReplayCase {
-    std::string topic;
-    std::string name;
-    std::string options;
-    std::vector<std::string> before;
-    std::vector<ReplayStep> steps;
-
-    // How GoogleTest names a case in its messages.
-    friend void PrintTo(const ReplayCase& replayCase, std::ostream* out) { *out << replayCase.name; }
-};
 
 // Where a case runs: what its options and its keys mean.
 class ReplaySession {
@@ -55,10 +36,11 @@ class ReplaySession {
     virtual std::string clipboard() const { return {}; }
 };
 
-std::vector<ReplayCase> ParseReplayCases(const std::string& topic, const std::string& content);
+// How the lines of a case's steps begin.
+inline constexpr std::string_view kReplayMarks = "<>!=";
 
 // Runs a case and reports its failures to GoogleTest.
-void RunReplayCase(const ReplayCase& replayCase, ReplaySession& session);
+void RunReplayCase(const Case& replay, ReplaySession& session);
 
 // Presses a key, which is written as in a case, or runs a command of the view.
 void PressWord(EditView& view, std::string word);

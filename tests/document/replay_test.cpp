@@ -57,16 +57,12 @@ bool FillClipboard(MemoryClipboard& clipboard, const std::string& word) {
 }
 
 void PressAll(DocumentSession& session, MemoryClipboard& clipboard, const std::string& keys) {
-    std::size_t i = 0;
-    while ((i = keys.find_first_not_of(' ', i)) != std::string::npos) {
-        const bool quoted = keys[i] == '"';
-        const std::size_t end = std::min(keys.find(quoted ? '"' : ' ', i + 1), keys.size());
-        if (quoted) {
-            session.type(Unescape(keys.substr(i + 1, end - i - 1)));
-        } else if (const std::string word = keys.substr(i, end - i); !FillClipboard(clipboard, word)) {
+    for (const auto& [word, isQuoted] : KeyWordsOf(keys)) {
+        if (isQuoted) {
+            session.type(Unescape(word));
+        } else if (!FillClipboard(clipboard, word)) {
             PressWord(session.view_, word);
         }
-        i = end + 1;
     }
 }
 
@@ -110,15 +106,10 @@ class KeySession : public ReplaySession, private DocumentSession {
     MemoryClipboard clipboard_;
 };
 
-class Replay : public testing::TestWithParam<ReplayCase> {};
-
-TEST_P(Replay, Case) {
+VEXA_CASES(Replay, CasesOf(kFiles, kReplayMarks), [](const Case& replay) {
     KeySession session;
-    RunReplayCase(GetParam(), session);
-}
-
-INSTANTIATE_TEST_SUITE_P(Keys, Replay, testing::ValuesIn(CasesOf<ReplayCase>(kFiles, &ParseReplayCases)),
-                         &CaseName<testing::TestParamInfo<ReplayCase>>);
+    RunReplayCase(replay, session);
+});
 
 }  // namespace
 }  // namespace vexa::test

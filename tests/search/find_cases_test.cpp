@@ -28,7 +28,7 @@ constexpr CaseFile kFiles[] = {
 
 using Word = std::function<void(FindSession&)>;
 
-const std::map<std::string, Word>& Words() {
+const std::map<std::string, Word>& FindWords() {
     static const std::map<std::string, Word> words = {
         {"up", [](FindSession& s) { s.options.setForward(false); }},
         {"case", [](FindSession& s) { s.options.setMatchCase(true); }},
@@ -52,10 +52,11 @@ const std::map<std::string, Word>& Words() {
 }
 
 void RunWord(FindSession& session, const std::string& word) {
-    const std::size_t star = std::min(word.find('*'), word.size());
-    const auto found = Words().find(word.substr(0, star));
-    if (found == Words().end()) return PressWord(session.view, word);
-    for (int count = star < word.size() ? std::stoi(word.substr(star + 1)) : 1; count > 0; --count)
+    std::string name = word;
+    int count = TakeCount(name);
+    const auto found = FindWords().find(name);
+    if (found == FindWords().end()) return PressWord(session.view, word);
+    for (; count > 0; --count)
         found->second(session);
 }
 
@@ -63,19 +64,15 @@ void RunWord(FindSession& session, const std::string& word) {
 // search step over the match) and "replace".
 void RunLine(FindSession& session, const std::string& line) {
     std::string before;
-    for (std::size_t i = 0; (i = line.find_first_not_of(" \n", i)) != std::string::npos;) {
-        const bool quoted = line[i] == '"';
-        const std::size_t end = std::min(line.find_first_of(quoted ? "\"" : " \n", i + 1), line.size());
-        const std::string word = quoted ? line.substr(i + 1, end - i - 1) : line.substr(i, end - i);
-        if (quoted && before == "replace") {
+    for (const auto& [word, isQuoted] : KeyWordsOf(line)) {
+        if (isQuoted && before == "replace") {
             session.options.setReplaceText(word);
-        } else if (quoted) {
+        } else if (isQuoted) {
             session.options.setFindText(word, before == "step");
         } else if (word != "find" && word != "step" && word != "replace") {
             RunWord(session, word);
         }
         before = word;
-        i = end + 1;
     }
 }
 
@@ -90,15 +87,10 @@ class SearchingSession : public ReplaySession {
     FindSession session_;
 };
 
-class FindCases : public testing::TestWithParam<ReplayCase> {};
-
-TEST_P(FindCases, Case) {
+VEXA_CASES(FindCases, CasesOf(kFiles, kReplayMarks), [](const Case& find) {
     SearchingSession session;
-    RunReplayCase(GetParam(), session);
-}
-
-INSTANTIATE_TEST_SUITE_P(Search, FindCases, testing::ValuesIn(CasesOf<ReplayCase>(kFiles, &ParseReplayCases)),
-                         &CaseName<testing::TestParamInfo<ReplayCase>>);
+    RunReplayCase(find, session);
+});
 
 }  // namespace
 }  // namespace vexa::test

@@ -1,7 +1,6 @@
 // Which functions are found in a text, and the rules of the dialog that lists them.
 #include <gtest/gtest.h>
 
-#include "document/replay_case.h"
 #include "regexp/regex_matcher.h"
 #include "search/function_list.h"
 #include "search/function_list_model.h"
@@ -32,20 +31,14 @@ std::vector<std::string> FunctionsIn(const std::string& name, const std::vector<
 
 // The files of the folder functions/: the name of a file, its lines, and the functions that are found. What others have
 // chosen about letter case plays no part.
-class FunctionCases : public testing::TestWithParam<test::ReplayCase> {};
-
-TEST_P(FunctionCases, Case) {
-    const std::string name = GetParam().options.substr(0, GetParam().options.size() - 1);
+VEXA_CASES(FunctionCases, test::CasesOf(kFiles, "<>"), [](const test::Case& functions) {
+    const test::CaseStep& source = functions.steps.at(0);
     for (const bool ignoresCase : {true, false}) {
         SetRegExpIgnoreCase(ignoresCase);
-        EXPECT_EQ(FunctionsIn(name, GetParam().before), GetParam().steps.at(0).expected);
+        EXPECT_EQ(FunctionsIn(source.text, source.marked('<')), functions.steps.at(1).marked('>'));
         EXPECT_EQ(RegExpIgnoresCase(), ignoresCase);
     }
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, FunctionCases,
-                         testing::ValuesIn(test::CasesOf<test::ReplayCase>(kFiles, &test::ParseReplayCases)),
-                         &test::CaseName<testing::TestParamInfo<test::ReplayCase>>);
+});
 
 TEST(FunctionList, TakesNamesOutsideAscii) {
     EXPECT_EQ(FunctionsIn("a.c", {"int \x80() {}"}), std::vector<std::string>{"1 int \x80"});

@@ -1,41 +1,13 @@
 #include "support/script.h"
 
+#include <algorithm>
 #include <climits>
-#include <sstream>
 
 #include "base/platform.h"
 
 namespace vexa::test {
 
 namespace {
-
-// What stands between braces, or nothing when it is no escape.
-std::optional<std::string> Named(const std::string& name, const std::string& disk) {
-    static const std::map<std::string, std::string> kNames = {{"", ""},    {"r", "\r"},    {"n", "\n"},
-                                                              {"t", "\t"}, {"rn", "\r\n"}, {"..", "..."}};
-    if (name == "disk") return disk;
-    if (const auto known = kNames.find(name); known != kNames.end()) return known->second;
-    if (name.size() == 2 && name.find_first_not_of("0123456789ABCDEF") == std::string::npos)
-        return std::string(1, static_cast<char>(std::stoi(name, nullptr, 16)));
-    const std::size_t star = name.find('*');
-    if (star == std::string::npos || star + 1 == name.size()) return std::nullopt;
-    const std::string once = Named(name.substr(0, star), disk).value_or(name.substr(0, star));
-    std::string all;
-    for (int count = std::stoi(name.substr(star + 1)); count > 0; --count)
-        all += once;
-    return all;
-}
-
-std::string Expanded(const std::string& text, const std::string& disk) {
-    std::string all;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::size_t end = text[i] == '{' ? text.find('}', i) : std::string::npos;
-        const auto named = end == std::string::npos ? std::nullopt : Named(text.substr(i + 1, end - i - 1), disk);
-        all += named.value_or(std::string(1, text[i]));
-        if (named) i = end;
-    }
-    return all;
-}
 
 FileStep StepNamed(const std::string& name) {
     static const std::map<std::string, FileStep> kSteps = {{"open", FileStep::Open},   {"read", FileStep::Read},
@@ -138,44 +110,6 @@ Told Get(ScriptStage& stage, Words words) {
 
 }  // namespace
 
-std::vector<ScriptCase> ParseScript(const std::string& topic, const std::string& content) {
-    std::vector<ScriptCase> cases;
-    std::istringstream lines(content);
-    int number = 0;
-    for (std::string line; std::getline(lines, line);) {
-        ++number;
-        if (line.empty()) continue;
-        if (line.starts_with("# ")) {
-            cases.push_back({topic, line.substr(2), {}});
-            continue;
-        }
-        const std::size_t arrow = line.find(" ->");
-        const std::string step = line.substr(0, arrow);
-        const std::size_t blank = std::min(step.find(' '), step.size());
-        std::optional<std::string> outcome;
-        if (arrow != std::string::npos) outcome = line.substr(std::min(arrow + 4, line.size()));
-        cases.back().steps.push_back(
-            {number, step.substr(0, blank), step.substr(std::min(blank + 1, step.size())), outcome});
-    }
-    return cases;
-}
-
-std::string Words::word() {
-    const std::size_t end = std::min(text_.find(' '), text_.size());
-    const std::string word = text_.substr(0, end);
-    text_.erase(0, end + 1);
-    return Expanded(word, disk_);
-}
-
-int Words::number() {
-    const std::string text = word();
-    return text.empty() ? 0 : std::stoi(text);
-}
-
-std::string Words::rest() const {
-    return Expanded(text_, disk_);
-}
-
 Told::Told(const std::vector<std::string>& given) {
     for (const std::string& one : given)
         text += (&one == given.data() ? "" : ";") + one;
@@ -233,7 +167,7 @@ bool Fits(const std::string& text, const std::string& pattern, const std::string
     std::size_t from = 0;
     for (std::size_t at = 0;;) {
         const std::size_t end = pattern.find(kAny, at);
-        const std::string part = Expanded(pattern.substr(at, end - at), disk);
+        const std::string part = Unbraced(pattern.substr(at, end - at), disk);
         const std::size_t found = end == std::string::npos && at > 0 ? text.rfind(part) : text.find(part, from);
         if (found == std::string::npos || found < from || (at == 0 && found > 0)) return false;
         from = found + part.size();
@@ -244,11 +178,18 @@ bool Fits(const std::string& text, const std::string& pattern, const std::string
 
 }  // namespace
 
-void ExpectOutcome(const ScriptStage& stage, const ScriptStep& step, const Told& told) {
-    if (!step.outcome) return;
-    EXPECT_TRUE(Fits(told.text, *step.outcome, stage.disk.path()))
-        << step.line << ": " << step.verb << " " << step.words << "\n  is  " << told.text << "\n  not "
-        << *step.outcome;
+ScriptStep::ScriptStep(const CaseStep& line) : step(line) {
+    const std::size_t arrow = line.text.find(" ->");
+    Words all(line.text.substr(0, arrow));
+    verb = all.word();
+    words = all.rest();
+    if (arrow != std::string::npos) outcome = line.text.substr(std::min(arrow + 4, line.text.size()));
+}
+
+void ScriptStep::expect(const Told& told, const std::string& disk) const {
+    if (!outcome) return;
+    EXPECT_TRUE(Fits(told.text, *outcome, disk))
+        << step.number << ": " << verb << " " << words << "\n  is  " << told.text << "\n  not " << *outcome;
 }
 
 }  // namespace vexa::test

@@ -5,17 +5,11 @@
 //   load A.TXT -> yes                           a verb without "->" may give anything
 //   box -> Unable to open...                    "..." at an end stands for any text there
 //
-// In words and outcomes {r}, {n} and {t} stand for these characters, {rn} for both of a line end, {1A} for any byte,
-// {x*300} for 300 times the text, {disk} for the path of the test's disk, {..} for three full stops, and {} for
-// nothing.
+// Words and outcomes have the escapes of `Words`.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <initializer_list>
 #include <map>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,39 +20,6 @@
 #include "support/test_disk.h"
 
 namespace vexa::test {
-
-struct ScriptStep {
-    int line;
-    std::string verb;
-    std::string words;
-    std::optional<std::string> outcome;
-};
-
-struct ScriptCase {
-    std::string topic;
-    std::string name;
-    std::vector<ScriptStep> steps;
-
-    friend void PrintTo(const ScriptCase& one, std::ostream* out) { *out << one.name; }
-};
-
-std::vector<ScriptCase> ParseScript(const std::string& topic, const std::string& content);
-
-// The words of a step, which are taken one by one. What is missing is empty, or 0.
-class Words {
-  public:
-    Words(std::string text, std::string disk) : text_(std::move(text)), disk_(std::move(disk)) {}
-
-    std::string word();
-    int number();
-    bool yes() { return word() == "yes"; }
-    std::string rest() const;
-    bool more() const { return !text_.empty(); }
-
-  private:
-    std::string text_;
-    std::string disk_;
-};
 
 // What a step gives.
 struct Told {
@@ -101,7 +62,16 @@ Told SetField(Model& model, const std::map<std::string, std::string Model::*>& f
 
 // put, get, folder, remove, status, box, answer and others.
 const Verbs<ScriptStage>& CommonVerbs();
-void ExpectOutcome(const ScriptStage& stage, const ScriptStep& step, const Told& told);
+
+struct ScriptStep {
+    explicit ScriptStep(const CaseStep& step);
+    void expect(const Told& told, const std::string& disk) const;
+
+    const CaseStep& step;
+    std::string verb;
+    std::string words;
+    std::optional<std::string> outcome;
+};
 
 #ifdef _WIN32
 inline constexpr bool kOnWindows = true;
@@ -110,29 +80,23 @@ inline constexpr bool kOnWindows = false;
 #endif
 
 template <class Stage>
-void RunScript(const ScriptCase& script, const Verbs<Stage>& verbs) {
+void RunScript(const Case& script, const Verbs<Stage>& verbs) {
     Stage stage;
-    for (const ScriptStep& step : script.steps) {
+    for (const CaseStep& line : script.steps) {
+        const ScriptStep step(line);
         if (step.verb == "host-only" && kOnWindows) GTEST_SKIP() << "the rest is true on the host alone";
         const Words words(step.words, stage.disk.path());
         const auto own = verbs.find(step.verb);
         const auto common = CommonVerbs().find(step.verb);
-        ASSERT_TRUE(own != verbs.end() || common != CommonVerbs().end()) << step.line << ": unknown verb " << step.verb;
-        ExpectOutcome(stage, step, own != verbs.end() ? own->second(stage, words) : common->second(stage, words));
+        ASSERT_TRUE(own != verbs.end() || common != CommonVerbs().end())
+            << line.number << ": unknown verb " << step.verb;
+        step.expect(own != verbs.end() ? own->second(stage, words) : common->second(stage, words), stage.disk.path());
     }
 }
 
-class Script : public testing::TestWithParam<ScriptCase> {};
-
 // The cases of some files as tests of a stage.
-#define VEXA_SCRIPTS(Suite, files, Stage, verbs)                                                               \
-    class Suite : public ::vexa::test::Script {};                                                              \
-    TEST_P(Suite, Case) {                                                                                      \
-        ::vexa::test::RunScript<Stage>(GetParam(), verbs);                                                     \
-    }                                                                                                          \
-    INSTANTIATE_TEST_SUITE_P(                                                                                  \
-        Scripts, Suite,                                                                                        \
-        testing::ValuesIn(::vexa::test::CasesOf<::vexa::test::ScriptCase>(files, &::vexa::test::ParseScript)), \
-        &::vexa::test::CaseName<testing::TestParamInfo<::vexa::test::ScriptCase>>)
+#define VEXA_SCRIPTS(Suite, files, Stage, verbs)    \
+    VEXA_CASES(Suite, ::vexa::test::CasesOf(files), \
+               [](const ::vexa::test::Case& script) { ::vexa::test::RunScript<Stage>(script, verbs); })
 
 }  // namespace vexa::test

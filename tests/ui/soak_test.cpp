@@ -11,7 +11,7 @@
 
 #include "ui/dialogs.h"
 #include "ui/editor.h"
-#include "ui/ui_case.h"
+#include "ui/ui_stage.h"
 
 namespace vexa::test {
 namespace {

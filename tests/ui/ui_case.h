@@ -69,35 +69,11 @@
 //   picture-of dialog find          and which part of it the dialog, the frame or the viewer is
 #pragma once
 
-#include <ostream>
-#include <string>
-#include <vector>
-
-#include "shell/command_id.h"
+#include "support/case_files.h"
 
 namespace vexa::test {
 
-struct UiStep {
-    std::string verb;
-    std::string rest;
-    std::string lines;  // those that follow, with their ends
-};
-
-struct UiCase {
-    std::string topic;
-    std::string name;
-    std::vector<UiStep> steps;
-
-    // How GoogleTest names a case in its messages.
-    friend void PrintTo(const UiCase& uiCase, std::ostream* out) { *out << uiCase.name; }
-};
-
-std::vector<UiCase> ParseUiCases(const std::string& topic, const std::string& content);
-
-// A command by its name in the table of commands; an unknown one fails by an exception.
-CommandId CommandNamed(const std::string& name);
-
 // Runs a case and reports the step that fails to GoogleTest.
-void RunUiCase(const UiCase& uiCase);
+void RunUiCase(const Case& uiCase);
 
 }  // namespace vexa::test

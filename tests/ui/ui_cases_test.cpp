@@ -3,7 +3,6 @@
 
 #include <cstdlib>
 
-#include "support/case_files.h"
 #include "ui/ui_case.h"
 
 namespace vexa::test {
@@ -15,26 +14,15 @@ constexpr CaseFile kFiles[] = {
 constexpr CaseFile kPictures[] = {
 #include "ui_pictures.inc"
 };
+constexpr std::string_view kMarks = "<>";
 
-class Ui : public testing::TestWithParam<UiCase> {};
-
-TEST_P(Ui, Case) {
-    RunUiCase(GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, Ui, testing::ValuesIn(CasesOf<UiCase>(kFiles, &ParseUiCases)),
-                         &CaseName<testing::TestParamInfo<UiCase>>);
+VEXA_CASES(Ui, CasesOf(kFiles, kMarks), &RunUiCase);
 
 // Those that the manual shows; tools/screenshots runs them.
-class Manual : public testing::TestWithParam<UiCase> {};
-
-TEST_P(Manual, Pictures) {
+VEXA_CASES(Manual, CasesOf(kPictures, kMarks), [](const Case& picture) {
     if (!std::getenv("VEXA_MANUAL")) GTEST_SKIP() << "no pictures are wanted for the manual";
-    RunUiCase(GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, Manual, testing::ValuesIn(CasesOf<UiCase>(kPictures, &ParseUiCases)),
-                         &CaseName<testing::TestParamInfo<UiCase>>);
+    RunUiCase(picture);
+});
 
 }  // namespace
 }  // namespace vexa::test
