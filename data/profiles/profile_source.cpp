@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/ascii.h"
+#include "base/take_line.h"
 
 namespace vexa {
 
@@ -16,14 +17,6 @@ std::vector<std::string> WordsOf(std::string_view text) {
         text.remove_prefix(end);
     }
     return words;
-}
-
-std::string_view TakeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
 }
 
 char CharacterOf(std::string_view value) {

@@ -1,6 +1,7 @@
 #include "quickhelp/help_index_reader.h"
 
 #include "base/ascii.h"
+#include "base/take_line.h"
 
 namespace vexa {
 
@@ -18,11 +19,7 @@ bool BeginsWith(std::string_view line, std::string_view keyword) {
 
 std::optional<std::string_view> HelpIndexReader::nextLine() {
     if (rest_.empty()) return std::nullopt;
-    const std::size_t end = std::min(rest_.find('\n'), rest_.size());
-    std::string_view line = rest_.substr(0, end);
-    rest_.remove_prefix(std::min(end + 1, rest_.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
+    return TakeLine(rest_);
 }
 
 bool HelpIndexReader::hasLineThatBeginsWith(std::string_view keyword) {

@@ -6,6 +6,7 @@
 #include "base/directories.h"
 #include "base/file.h"
 #include "base/strings.h"
+#include "base/take_line.h"
 
 namespace vexa {
 
@@ -43,14 +44,6 @@ std::string PathIn(std::string_view commandLine, std::int32_t line) {
     std::string path = platform::ParseFileName(NameIn(commandLine, line));
     std::ranges::transform(path, path.begin(), UpperAscii);
     return path;
-}
-
-std::string_view TakeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
 }
 
 std::int32_t TakeNumberLine(std::string_view& text) {
