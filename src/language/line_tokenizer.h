@@ -57,6 +57,8 @@ class LineTokenizer {
     bool takeHereText(const char* start);
     void takeText(const char* start);
     void takeQuote(const Quote& quote, const char* inside);
+    void takeQuoteUpTo(std::string_view inner, const Quote& quote, const char* inside);
+    bool startsWith(const char* at, std::string_view text) const;
     const char* endOfComment(const char* searchFrom);
     const char* endOfString(const char* quote) const;
     const char* endOfPreprocessor(const char* start) const;

@@ -58,22 +58,27 @@ bool LineTokenizer::takeHereText(const char* start) {
     return true;
 }
 
-// The rest of a quote, from a position inside, or as far as code. Without an end it goes to the end of the line, and on
-// into the next line if it may, or if an escape character stands there.
+bool LineTokenizer::startsWith(const char* at, std::string_view text) const {
+    return !text.empty() && std::string_view(at, end_).starts_with(text);
+}
+
+// The rest of a quote, from a position inside, or the beginning of code there.
 void LineTokenizer::takeQuote(const Quote& quote, const char* inside) {
-    const QuoteRules& rules = rules_.quotes();
-    const auto startsWith = [this](const char* at, std::string_view text) {
-        return !text.empty() && std::string_view(at, end_).starts_with(text);
-    };
     const bool canHoldCode = quote.canHoldCode() && CanNest(state_);
-    const std::string_view inner = canHoldCode ? rules.innerStart.view() : std::string_view();
+    const std::string_view inner = canHoldCode ? rules_.quotes().innerStart.view() : std::string_view();
     if (inside == next_ && startsWith(inside, inner)) {
         state_ = NestedAs(state_, rules_.codeState(), 1);
         take(inside + inner.size(), TokenKind::Symbols);
-        return;
+    } else {
+        takeQuoteUpTo(inner, quote, inside);
     }
+}
+
+// As far as code. Without an end the quote goes to the end of the line, and on into the next line if it may, or if an
+// escape character stands there.
+void LineTokenizer::takeQuoteUpTo(std::string_view inner, const Quote& quote, const char* inside) {
     const std::string_view close = quote.close.view();
-    const char escape = quote.isRaw ? '\0' : rules.escape;
+    const char escape = quote.isRaw ? '\0' : rules_.quotes().escape;
     bool goesOn = quote.overLines;
     const char* end = inside;
     for (; end != end_ && !startsWith(end, close) && !startsWith(end, inner); ++end) {
@@ -84,7 +89,7 @@ void LineTokenizer::takeQuote(const Quote& quote, const char* inside) {
     const bool closes = startsWith(end, close);
     if (closes) end += close.size();
     const LineState after = quote.isComment ? LineState::Outside : rules_.codeState();
-    state_ = NestedAs(state_, goesOn && !closes ? rules.stateIn(quote) : after);
+    state_ = NestedAs(state_, goesOn && !closes ? rules_.quotes().stateIn(quote) : after);
     take(end, quote.isComment ? TokenKind::Comment : TokenKind::String);
 }
 
