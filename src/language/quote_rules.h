@@ -14,8 +14,6 @@ namespace vexa {
 template <std::size_t limit>
 class ShortText {
   public:
-    static constexpr std::size_t kLimit = limit;
-
     ShortText() = default;
     explicit ShortText(std::string_view text) : length_(static_cast<std::uint8_t>(text.substr(0, limit).size())) {
         text.copy(text_, limit);
