@@ -258,12 +258,14 @@ TEST(KeptFiles, EditsGiveTheEndsThatTheirUserExpects) {
     for (const EditCase& c : kEdits) {
         KeptFile file;
         file.load(c.before);
+        const LineEnd common = file.style().common;
         c.edit(file);
         EXPECT_EQ(file.saved(), c.after) << c.name;
         int commands = 0;
         for (; !file.document_.history().isEmpty(); ++commands)
             file.view_.undo();
         EXPECT_EQ(file.saved(), c.before) << c.name << ", undone";
+        EXPECT_EQ(file.style().common, common) << c.name << ", undone";
         EXPECT_FALSE(file.document_.isModified()) << c.name;
         for (; commands > 0; --commands)
             file.view_.redo();
