@@ -47,7 +47,7 @@ TEST(DialogKeys, EachModelessDialogKeepsItsMnemonicsAndEditingKeysFromTheFrame) 
     const std::map<std::string, std::set<CommandId>> byMnemonic = {
         {"IDD_FIND", {FileSave, Exit, Find, NextWindow, HelpIndex}},
         {"IDD_REPLACE", {FileSave, Print, Exit, Find, NextWindow, HelpIndex}},
-        {"IDD_FIND_IN_FILES", {FileSave, FileSaveAs, Exit, Find, Replace, NextWindow, HelpIndex}},
+        {"IDD_FIND_IN_FILES", {FileSave, FileSaveAs, Exit, Find, Replace, NextWindow, HelpIndex, MatchingBracket}},
         {"IDD_PRINTING", {HelpIndex}},
     };
     const std::set<CommandId> ofFields = {Undo,  Redo,        Cut,       Copy,          Paste,
