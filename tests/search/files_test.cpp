@@ -329,7 +329,7 @@ TEST_F(FilesSearch, ReplacementsMayHaveGroupsAndLineEnds) {
     EditView& active = *windows.activeView();
     const auto lines = [&active] {
         Texts texts;
-        for (LineIndex line; line.value <= active.document().lastLine(LastUsed::Text); ++line)
+        for (LineIndex line; line <= active.document().lastLine(LastUsed::Text); ++line)
             texts.emplace_back(active.document().text(line));
         return texts;
     };
