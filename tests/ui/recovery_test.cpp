@@ -124,7 +124,9 @@ TEST_F(RecoveryTest, WhatAKilledEditorHadNotSavedIsOfferedInOneDialog) {
 }
 
 TEST_F(RecoveryTest, WhatAnotherProgramWritesIsReadAnewOrAskedAbout) {
-    const Editor editor(folder, {"a.txt", "b.txt"});
+    const Editor editor(folder, {"b.txt", "a.txt"});
+    editor.keys("{Alt+N}");
+    ASSERT_TRUE(editor.hasCaption("b.txt]"));
     editor.keys("my ");
     ASSERT_TRUE(editor.showsPosition(1, 4));
     folder.put("a.txt", "another's a\r\n");

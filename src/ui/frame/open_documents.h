@@ -48,10 +48,11 @@ class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuest
         MDIchildCL* active = frame_.activeChild();
         return active ? WindowOf(active)->asList() : nullptr;
     }
+    // More windows may be opened meanwhile.
     template <class Use>
     void each(Use use) const {
-        for (const auto& child : frame_.children()) {
-            if (DocumentWindow* window = DocumentOf(child.get())) use(*window);
+        for (std::size_t i = 0; i < frame_.children().size(); ++i) {
+            if (DocumentWindow* window = DocumentOf(frame_.children()[i].get())) use(*window);
         }
     }
     // Lets an operation work on the edit view of the active document, if there is one, shows what it has done, and
