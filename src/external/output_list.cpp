@@ -6,32 +6,49 @@ namespace vexa {
 
 bool OutputList::LoadCapture(const std::string& path, const std::string& errorPath, const std::string& directory) {
     setBaseDirectory(directory);
+    belongTo(nullptr);
     const auto added = [](std::string_view) {};
     if (!loadLines(path, added)) return false;
     if (!errorPath.empty()) loadLines(errorPath, added);
     addClosing({"", LoadText(TextId::CommandCompleted)});
-    belongTo(nullptr);
     show();
     return true;
 }
 
 void OutputList::OnDocumentClosed(const SourceDocument& document) {
-    if (document_ == &document) document_ = nullptr;
+    for (Part& part : parts_) {
+        if (part.document == &document) part.document = nullptr;
+    }
+}
+
+void OutputList::clearRows() {
+    parts_.clear();
+    LineList::clearRows();
+}
+
+SourceDocument* OutputList::documentOf(std::size_t row) const {
+    SourceDocument* document = nullptr;
+    for (const Part& part : parts_) {
+        if (part.firstRow <= row) document = part.document;
+    }
+    return document;
 }
 
 void OutputList::activateRow() {
     const std::string line = selectedText();
-    if (!(document_ ? goToNumberedLine(line) : openNamedFile(line))) tell(LoadText(TextId::NoFileNameInLine));
+    SourceDocument* document = documentOf(selectedRow().value_or(0));
+    const bool isShown = document ? goToNumberedLine(*document, line) : openNamedFile(line);
+    if (!isShown) tell(LoadText(TextId::NoFileNameInLine));
 }
 
 bool OutputList::openNamedFile(const std::string& line) {
     return parser().FindFileName(line) && openAt(parser().fileName(), 0);
 }
 
-bool OutputList::goToNumberedLine(const std::string& line) {
+bool OutputList::goToNumberedLine(SourceDocument& document, const std::string& line) {
     if (!parser().FindLineNumber(line)) return false;
-    document_->moveCaret(LineIndex(parser().lineNumber() - 1));
-    document_->activate();
+    document.moveCaret(LineIndex(parser().lineNumber() - 1));
+    document.activate();
     return true;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "external/line_list.h"
 
@@ -15,17 +16,24 @@ class OutputList : public LineList {
     // a command; names in them are those of files in the directory. Shows the window. False, and nothing is added,
     // when the capture file cannot be opened.
     bool LoadCapture(const std::string& path, const std::string& errorPath, const std::string& directory);
-    // The rows belong to a document from now on, whose lines they number; none, each names a file.
-    void belongTo(SourceDocument* document) { document_ = document; }
+    // The rows that are added from now on belong to a document, whose lines they number; to none, each names a file.
+    void belongTo(SourceDocument* document) { parts_.push_back({rowCount(), document}); }
     void OnDocumentClosed(const SourceDocument& document);
 
+    void clearRows() override;
     void activateRow() override;
 
   private:
-    bool openNamedFile(const std::string& line);
-    bool goToNumberedLine(const std::string& line);
+    struct Part {
+        std::size_t firstRow;
+        SourceDocument* document;
+    };
 
-    SourceDocument* document_ = nullptr;
+    SourceDocument* documentOf(std::size_t row) const;
+    bool openNamedFile(const std::string& line);
+    bool goToNumberedLine(SourceDocument& document, const std::string& line);
+
+    std::vector<Part> parts_;  // in the order of their rows
 };
 
 }  // namespace vexa

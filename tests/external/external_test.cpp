@@ -284,6 +284,7 @@ const Verbs<ExternalStage> kVerbs = {
     {"selected", [](ExternalStage& s, Words) { return Told(s.list->selectedRow()); }},
     {"activate", &Activate},
     {"belong", [](ExternalStage& s, Words) { return s.output.belongTo(&s.document()), Told(); }},
+    {"add-line", [](ExternalStage& s, Words w) { return s.output.AddLine(w.rest()), Told(); }},
     {"opened", &Opened},
     {"document", &MakeDocument},
     {"caret", [](ExternalStage& s, Words) { return Told(s.document().caretLine + 1); }},
