@@ -8,6 +8,7 @@ import json
 import sys
 from collections import defaultdict
 from pathlib import Path
+from statistics import median
 
 UNITS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}  # in nanoseconds
 
@@ -61,8 +62,14 @@ BARS = [
     ("help_lookup/100_indexes/vexa", 30e6, 1),
     ("files/plain/native", "files/plain/grep", 1.5),
     ("files/regexp/native", "files/regexp/grep", 2),
-    ("files/first_line/native", 50e6, 1),
-    ("files/longest_part/native", 50e6, 1),
+    ("files/plain/windows", "files/read/windows", 1.5),
+    ("files/regexp/windows", "files/read/windows", 2),
+    ("files/plain_first_line/native", 50e6, 1),
+    ("files/plain_first_line/windows", 50e6, 1),
+    # A search is cancelled between two parts.
+    ("files/plain_longest_part/native", 50e6, 1),
+    ("files/plain_longest_part/windows", 50e6, 1),
+    ("files/regexp_longest_part/windows", 50e6, 1),
 ]
 
 # The same for all the work whose names begin alike: the start of the names, what is measured, the peers of which the best
@@ -106,11 +113,12 @@ def read_figures(folder):
             for counter in ("bytes_step", "bytes_line", "ns_hit"):
                 if counter in run:
                     figures[f"{counter}/{name}"] = run[counter]
+    runs = defaultdict(list)
     for path in sorted(folder.glob("*.txt")):
         for line in path.read_text().splitlines():
             name, value, *_ = line.split()
-            figures[name] = float(value)
-    return figures
+            runs[name].append(float(value))
+    return figures | {name: median(values) for name, values in runs.items()}
 
 
 def worst_of_group(figures, start, subject, peer):

@@ -1,7 +1,7 @@
 // Searching a tree of source files, as the editor does it: the same source as a program of this machine and as a
-// Windows program of 32 bits under Wine. Prints lines "files/WORK/BUILD nanoseconds", each the best of several runs:
-// the whole search, and of the worst text the time to the first line found and the longest time without a look at what
-// the user does.
+// Windows program of 32 bits under Wine. Prints lines "files/WORK/BUILD nanoseconds" for each of several runs in turns:
+// the whole search, the time to its first line and its longest time without a look at what the user does; and, as a
+// peer, opening and reading the same files by the same calls.
 //
 // usage: file_search BUILD FOLDER PLAIN REGEXP [ROOT]    FOLDER is a path as the editor has it; on this machine, in the
 //        folder ROOT as C:
@@ -21,7 +21,7 @@
 namespace vexa::bench {
 namespace {
 
-constexpr int kRuns = 5;
+constexpr int kRuns = 3;
 
 using Time = std::chrono::steady_clock::time_point;
 
@@ -39,50 +39,52 @@ class NoFiles : public SearchedFiles {
     void refreshActive() override {}
 };
 
-struct Times {
-    double whole = 1e18;
-    double firstLine = 1e18;
-    double longestPart = 1e18;
+struct Peer {
+    const char* build;
+    std::string folder;
 };
 
-void Keep(double& best, double time) {
-    best = std::min(best, time);
+void Print(const Peer& peer, const std::string& work, double nanoseconds) {
+    std::printf("files/%s/%s %.0f\n", work.c_str(), peer.build, nanoseconds);
 }
 
-Times Measure(const std::string& folder, const std::string& text, bool isRegular) {
+void Search(const Peer& peer, const std::string& work, const std::string& text) {
     FileSearchRequest request;
-    request.folder = folder;
+    request.folder = peer.folder;
     request.options.setMatchCase(true);
-    request.options.setRegularExpression(isRegular);
+    request.options.setRegularExpression(work == "regexp");
     request.options.setFindText(text, false);
-    Times best;
-    for (int run = 0; run < kRuns; ++run) {
-        SilentNotices notices;
-        SearchOptions options;
-        NoFiles files;
-        HitList list(files, options, notices);
-        FileSearchJob job(list, files, notices);
-        const Time begin = std::chrono::steady_clock::now();
-        job.start(request);
-        double first = 0;
-        double longest = 0;
-        for (bool goesOn = true; goesOn;) {
-            const Time part = std::chrono::steady_clock::now();
-            goesOn = job.work();
-            longest = std::max(longest, Since(part));
-            if (first == 0 && list.hitCount() > 0) first = Since(begin);
-        }
-        Keep(best.whole, Since(begin));
-        Keep(best.firstLine, first);
-        Keep(best.longestPart, longest);
-        std::fprintf(stderr, "%s: %zu lines, %s\n", text.c_str(), list.hitCount(),
-                     std::string(list.rowText(list.rowCount() - 1)).c_str());
+    SilentNotices notices;
+    SearchOptions options;
+    NoFiles files;
+    HitList list(files, options, notices);
+    FileSearchJob job(list, files, notices);
+    const Time begin = std::chrono::steady_clock::now();
+    job.start(request);
+    double first = 0;
+    double longest = 0;
+    for (bool goesOn = true; goesOn;) {
+        const Time part = std::chrono::steady_clock::now();
+        goesOn = job.work();
+        longest = std::max(longest, Since(part));
+        if (first == 0 && list.hitCount() > 0) first = Since(begin);
     }
-    return best;
+    Print(peer, work, Since(begin));
+    Print(peer, work + "_first_line", first);
+    Print(peer, work + "_longest_part", longest);
+    std::fprintf(stderr, "%s: %s\n", text.c_str(), std::string(list.rowText(list.rowCount() - 1)).c_str());
 }
 
-void Print(const char* work, const char* build, double nanoseconds) {
-    std::printf("files/%s/%s %.0f\n", work, build, nanoseconds);
+void Read(const Peer& peer) {
+    const Time begin = std::chrono::steady_clock::now();
+    FolderWalk walk(peer.folder, "", true);
+    LineBlocks blocks;
+    for (auto step = walk.step(); step != FolderWalk::Step::End; step = walk.step()) {
+        if (step != FolderWalk::Step::File || !blocks.open(walk.file())) continue;
+        while (blocks.next()) {
+        }
+    }
+    Print(peer, "read", Since(begin));
 }
 
 int Run(int count, char** arguments) {
@@ -90,13 +92,12 @@ int Run(int count, char** arguments) {
 #ifndef _WIN32
     platform::host::SetSandboxRoot(arguments[5]);
 #endif
-    const char* const build = arguments[1];
-    const Times plain = Measure(arguments[2], arguments[3], false);
-    const Times regular = Measure(arguments[2], arguments[4], true);
-    Print("plain", build, plain.whole);
-    Print("regexp", build, regular.whole);
-    Print("first_line", build, std::max(plain.firstLine, regular.firstLine));
-    Print("longest_part", build, std::max(plain.longestPart, regular.longestPart));
+    const Peer peer{arguments[1], arguments[2]};
+    for (int run = 0; run < kRuns; ++run) {
+        Search(peer, "plain", arguments[3]);
+        Search(peer, "regexp", arguments[4]);
+        Read(peer);
+    }
     return EXIT_SUCCESS;
 }
 
