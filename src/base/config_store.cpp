@@ -1,8 +1,8 @@
 #include "base/config_store.h"
 
+#include <algorithm>
+
 #include "base/ascii.h"
-#include "base/file.h"
-#include "base/platform.h"
 
 namespace vexa {
 
@@ -27,25 +27,47 @@ std::string SettingsFileOf(const std::string& executable) {
 }
 
 ConfigStore::ConfigStore(const std::string& settingsFile)
-    : path_(settingsFile.substr(0, kPathLimit)), isReadable_(ReadKeptFile(path_, 0).has_value()) {}
+    : path_(settingsFile.substr(0, kPathLimit)), isReadable_(platform::ReadSetting(path_, "", "", "", 1).has_value()) {}
 
 std::string ConfigStore::ReadString(const std::string& section, const std::string& key, const std::string& fallback,
                                     std::size_t size) const {
-    return platform::ReadSetting(path_, section, key, fallback, size);
+    const auto value = isReadable_ ? platform::ReadSetting(path_, section, key, fallback, size) : std::nullopt;
+    if (!value) unreadSections_.push_back(section);
+    return value.value_or(fallback);
 }
 
 std::int32_t ConfigStore::ReadInt(const std::string& section, const std::string& key, std::int32_t fallback) const {
-    return platform::ReadIntSetting(path_, section, key, fallback);
+    const auto value = isReadable_ ? platform::ReadIntSetting(path_, section, key, fallback) : std::nullopt;
+    if (!value) unreadSections_.push_back(section);
+    return value.value_or(fallback);
 }
 
-// A value with a line end in it would put lines of its own into the file, so it ends there. One that the file has
-// already is not written: each that is makes the system read and write the whole file.
+// A value with a line end in it would put lines of its own into the file, so it ends there. Of two for one key the last
+// counts.
 void ConfigStore::WriteString(const std::string& section, const std::string& key, const std::string& value) {
     using namespace std::string_view_literals;
+    const Batch batch(*this);
     const std::string kept = value.substr(0, value.find_first_of("\r\n\0"sv));
-    const std::size_t oneMoreAndTerminator = kept.size() + 2;
-    if (!isReadable_ || ReadString(section, key, kNoValue, oneMoreAndTerminator) == kept) return;
-    platform::WriteSetting(path_, section, key, kept);
+    for (platform::Setting& other : collected_) {
+        if (other.key == key && other.section == section) {
+            other.value = kept;
+            return;
+        }
+    }
+    if (isToBeWritten(section, key, kept)) collected_.push_back({section, key, kept});
+}
+
+// A value that the file has already is not: each that is written makes the system read and write the whole file.
+bool ConfigStore::isToBeWritten(const std::string& section, const std::string& key, const std::string& value) const {
+    const std::size_t oneMoreAndTerminator = value.size() + 2;
+    return isReadable_ && std::ranges::find(unreadSections_, section) == unreadSections_.end() &&
+           platform::ReadSetting(path_, section, key, kNoValue, oneMoreAndTerminator) != value;
+}
+
+ConfigStore::Batch::~Batch() {
+    if (--store_.batches_ > 0 || store_.collected_.empty()) return;
+    platform::WriteSettings(store_.path_, store_.collected_);
+    store_.collected_.clear();
 }
 
 std::string ConfigStore::ReadGuarded(const std::string& section, const std::string& key, const std::string& fallback,

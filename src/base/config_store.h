@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "base/platform.h"
 
 namespace vexa {
 
@@ -12,10 +15,23 @@ namespace vexa {
 std::string SettingsFileOf(const std::string& executable);
 
 // Named values in sections of the settings file. A missing file or key gives the caller's default; a file that cannot
-// be written silently keeps its old contents, and so does one that could not be read at the start, as the defaults in
-// its stead are not to be written over it.
+// be written silently keeps its old contents. So does, until the program ends, a section of which a value could not be
+// read, as the default in its stead is not to be written over it; and the whole file if that was so at the start.
 class ConfigStore {
   public:
+    // While one lives, what is written is collected, and reaches the file in one step with the end of the outermost:
+    // values that belong together are old or new together. Reading gives the old ones meanwhile.
+    class Batch {
+      public:
+        explicit Batch(ConfigStore& store) : store_(store) { ++store_.batches_; }
+        ~Batch();
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+      private:
+        ConfigStore& store_;
+    };
+
     // Keeps at most 255 characters of the path.
     explicit ConfigStore(const std::string& settingsFile);
 
@@ -35,8 +51,13 @@ class ConfigStore {
     const std::string& path() const { return path_; }
 
   private:
+    bool isToBeWritten(const std::string& section, const std::string& key, const std::string& value) const;
+
     std::string path_;
     bool isReadable_;
+    mutable std::vector<std::string> unreadSections_;
+    std::vector<platform::Setting> collected_;
+    int batches_ = 0;
 };
 
 }  // namespace vexa

@@ -31,6 +31,7 @@ std::optional<ScreenPoint> RestoreDialogPosition(const ConfigStore& store, int d
 
 void SaveDialogPosition(ConfigStore& store, int dialog, ScreenPoint owner, ScreenPoint corner) {
     const std::string section = SectionOf(dialog);
+    const ConfigStore::Batch batch(store);
     store.WriteInt(section, "XPos", Offset(owner.x, corner.x));
     store.WriteInt(section, "YPos", Offset(owner.y, corner.y));
 }

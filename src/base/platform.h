@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -155,18 +156,23 @@ std::string ShortPath(const std::string& path);
 
 // ---- settings files (INI) ----------------------------------------------------------------------------------------
 
+struct Setting {
+    std::string section;
+    std::string key;
+    std::string value;  // one line
+};
+
 // The value of a key, without the blanks around it and without one pair of enclosing quotes, at most size - 1 bytes;
-// the fallback when the file, section or key is missing.
-std::string ReadSetting(const std::string& file, const std::string& section, const std::string& key,
-                        const std::string& fallback, std::size_t size);
+// the fallback when the file, section or key is missing. None when the file is there and cannot be read.
+std::optional<std::string> ReadSetting(const std::string& file, const std::string& section, const std::string& key,
+                                       const std::string& fallback, std::size_t size);
 // The value's leading decimal number, with or without a sign (0 for other text); the fallback when the key is missing
-// or empty.
-std::int32_t ReadIntSetting(const std::string& file, const std::string& section, const std::string& key,
-                            std::int32_t fallback);
-// Stores a value of one line, adding file, section and key as needed, other lines untouched. False for a read-only file
-// or a missing directory, which stay as they were. The file is replaced in one step, so that it is whole at any moment.
-bool WriteSetting(const std::string& file, const std::string& section, const std::string& key,
-                  const std::string& value);
+// or empty. None when the file is there and cannot be read.
+std::optional<std::int32_t> ReadIntSetting(const std::string& file, const std::string& section, const std::string& key,
+                                           std::int32_t fallback);
+// Stores values, adding file, sections and keys as needed, other lines untouched. False for a read-only file or a
+// missing directory, which stay as they were. The file is replaced in one step: at any moment it has all or none.
+bool WriteSettings(const std::string& file, std::span<const Setting> settings);
 
 // ---- other instances of the program ------------------------------------------------------------------------------
 

@@ -62,6 +62,7 @@ void ColourTable::load(const ConfigStore& store) {
 }
 
 void ColourTable::save(ConfigStore& store) const {
+    const ConfigStore::Batch batch(store);
     store.WriteInt(kSection, kHighlightingKey, highlighting_ ? 1 : 0);
     for (const SettingsKey& row : kKeys)
         store.WriteInt(kSection, row.key, indexOf(row.element));

@@ -81,19 +81,31 @@ std::string TextOfMissing(std::span<const std::string> paths) {
     return FillText(TextId::SessionFilesGone, {std::to_string(paths.size()), names});
 }
 
-void KeepSession(const std::string& file, std::span<const SessionDocument> documents) {
-    if (!documents.empty()) {
-        WriteWholeFile(file, SessionText(documents));
-    } else if (platform::PathExists(file)) {
-        platform::RemoveFile(file);
-    }
+void SessionFile::keep(std::span<const SessionDocument> documents) {
+    takeBack();
+    if (!isUnread_) before_ = ReadKeptFile(path_, kFileLimit);
+    if (before_) write(SessionText(documents));
 }
 
-std::vector<SessionDocument> TakeSession(const std::string& file) {
-    const std::optional<std::string> text = ReadKeptFile(file, kFileLimit);
-    if (!text) return {};
-    KeepSession(file, {});
+void SessionFile::takeBack() {
+    if (before_) write(*before_);
+    before_.reset();
+}
+
+std::vector<SessionDocument> SessionFile::take() {
+    const std::optional<std::string> text = ReadKeptFile(path_, kFileLimit);
+    isUnread_ = !text;
+    if (isUnread_) return {};
+    write("");
     return ReadSessionText(*text);
+}
+
+void SessionFile::write(const std::string& text) {
+    if (!text.empty()) {
+        WriteWholeFile(path_, text);
+    } else if (platform::PathExists(path_)) {
+        platform::RemoveFile(path_);
+    }
 }
 
 }  // namespace vexa

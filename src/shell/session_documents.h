@@ -2,9 +2,11 @@
 // their own, as their number has no limit.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "document/text/bookmarks.h"
@@ -29,10 +31,25 @@ std::vector<SessionDocument> ReadSessionText(std::string_view text);
 // What the user is told of files that have gone, in one box for all of them.
 std::string TextOfMissing(std::span<const std::string> paths);
 
-// Keeps the documents under a file's name; none removes it. A file that cannot be written stays as it was.
-void KeepSession(const std::string& file, std::span<const SessionDocument> documents);
-// The documents that the file keeps, which is removed: what stops the editor while it opens them is not tried again.
-// None when there is no file or it cannot be read.
-std::vector<SessionDocument> TakeSession(const std::string& file);
+// The file that keeps them; without any there is none. One that cannot be written stays as it was, and so does one that
+// could not be read, as what it keeps has not come back yet.
+class SessionFile {
+  public:
+    explicit SessionFile(std::string path) : path_(std::move(path)) {}
+
+    // What it kept before comes back with takeBack(), should the end that they are kept for be called off.
+    void keep(std::span<const SessionDocument> documents);
+    void takeBack();
+    // The documents that it keeps, which it then does no more: what stops the editor while it opens them is not tried
+    // again.
+    std::vector<SessionDocument> take();
+
+  private:
+    void write(const std::string& text);
+
+    std::string path_;
+    std::optional<std::string> before_;
+    bool isUnread_ = false;
+};
 
 }  // namespace vexa

@@ -39,6 +39,7 @@ void StartupFiles::keep() {
 
 void StartupFiles::takeBack() {
     if (!kept_) return;
+    const ConfigStore::Batch batch(store_);
     for (std::size_t slot = 0; slot < kSlots; ++slot)
         store_.WriteString(kSection, KeyOf(slot), kept_->values[slot]);
     paths_ = kept_->paths;

@@ -4,6 +4,8 @@
 #include <windows.h>
 #endif
 
+#include <array>
+
 #include "base/config_store.h"
 #include "base/platform.h"
 #include "support/test_disk.h"
@@ -120,7 +122,30 @@ TEST_F(Settings, AFileThatCannotBeWrittenKeepsItsContents) {
     store.WriteString("Main", "key", "lost");
     EXPECT_EQ(disk.get("VEXA.INI"), "[Main]\r\nkey=kept\r\n");
     EXPECT_EQ(disk.count(), 1u);
-    EXPECT_FALSE(platform::WriteSetting(disk.path("NO\\X.INI"), "Main", "key", "x"));
+    EXPECT_FALSE(platform::WriteSettings(disk.path("NO\\X.INI"), std::array{platform::Setting{"Main", "key", "x"}}));
+}
+
+TEST_F(Settings, ASectionThatCouldNotBeReadIsLeftAsItIs) {
+    disk.put("VEXA.INI", "[Main]\r\nkey=kept\r\n[Other]\r\nkey=old\r\n");
+    {
+        const test::LockedFile locked(disk.path("VEXA.INI"));
+        EXPECT_EQ(text("key") + std::to_string(ConfigStore(store.path()).ReadInt("Main", "n", 7)), "default7");
+    }
+    store.WriteString("Main", "key", "default");
+    store.WriteString("Other", "key", "new");
+    EXPECT_EQ(disk.get("VEXA.INI"), "[Main]\r\nkey=kept\r\n[Other]\r\nkey=new\r\n");
+}
+
+TEST_F(Settings, ABatchIsWrittenAtItsEndAndOfTwoValuesTheLastCounts) {
+    disk.put("VEXA.INI", "[Main]\r\nkey=old\r\n");
+    {
+        const ConfigStore::Batch batch(store);
+        for (const char* value : {"other", "old"})
+            store.WriteString("Main", "key", value);
+        store.WriteString("Main", "more", "new");
+        EXPECT_EQ(text("more"), "default");
+    }
+    EXPECT_EQ(text("key") + text("more"), "oldnew");
 }
 
 #ifdef _WIN32

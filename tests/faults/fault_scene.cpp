@@ -6,8 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <set>
-#include <sstream>
 
 #include "base/platform/host/sandbox.h"
 
@@ -17,27 +15,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::multiset<std::string> LinesOf(const std::string& text) {
-    std::multiset<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.insert(line);
-    return lines;
-}
-
 std::optional<std::string> Find(const Files& files, const std::string& name) {
     const auto found = files.find(name);
     return found == files.end() ? std::nullopt : std::optional(found->second);
-}
-
-// Of each value the old line or the new one, and all that are the same in both.
-bool IsOfLines(const std::string& text, const std::string& old, const std::string& expected) {
-    const auto lines = LinesOf(text);
-    const auto before = LinesOf(old);
-    const auto after = LinesOf(expected);
-    const auto isKnown = [&](const std::string& line) { return before.contains(line) || after.contains(line); };
-    const auto isKept = [&](const std::string& line) { return !after.contains(line) || lines.contains(line); };
-    return std::ranges::all_of(lines, isKnown) && std::ranges::all_of(before, isKept) && lines.size() >= before.size();
 }
 
 }  // namespace
@@ -121,9 +101,7 @@ void FaultScene::judgeFile(const std::string& name, std::optional<bool> saved) c
 }
 
 bool FaultScene::isExpected(const std::string& name, const std::optional<std::string>& found) const {
-    const auto expected = Find(*expected_, name);
-    if (operation_.afterFailure != AfterFailure::EachLine || !found || !expected) return found == expected;
-    return LinesOf(*found) == LinesOf(*expected);
+    return found == Find(*expected_, name);
 }
 
 bool FaultScene::mayBe(const std::string& name, const std::optional<std::string>& found) const {
@@ -132,8 +110,6 @@ bool FaultScene::mayBe(const std::string& name, const std::optional<std::string>
             return false;
         case AfterFailure::OldOrNone:
             return !found;
-        case AfterFailure::EachLine:
-            return found && IsOfLines(*found, Find(old_, name).value_or(""), Find(*expected_, name).value_or(""));
         case AfterFailure::TornWithCopy:
             return CountedFaults().refused > 1 && isInToldCopy(name);
         case AfterFailure::TornAsTold:

@@ -21,7 +21,6 @@ using Files = std::map<std::string, std::string>;
 enum class AfterFailure {
     OldOrNew,      // what the operation says of it, and old or new where it says nothing
     OldOrNone,     // it may also have been taken away
-    EachLine,      // each line is old or new: values are written one by one
     TornWithCopy,  // after two failures anything, if a safety copy that the user has been told of holds the old
                    // contents
     TornAsTold,    // after two failures also without one, for a user who wanted none and has been told

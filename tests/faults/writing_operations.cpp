@@ -6,10 +6,12 @@
 
 #include "base/dialog_position.h"
 #include "base/history_list.h"
+#include "document/print/print_options.h"
 #include "document/view/edit_view.h"
 #include "external/compiler.h"
 #include "external/external_session.h"
 #include "external/tool_list.h"
+#include "faults/start_operations.h"
 #include "language/colour_table.h"
 #include "language/electric_model.h"
 #include "language/extension_edit_model.h"
@@ -17,9 +19,11 @@
 #include "language/profile_file.h"
 #include "quickhelp/help_configuration_model.h"
 #include "quickhelp/help_file_writer.h"
+#include "search/files/file_search_model.h"
 #include "search/search_options.h"
 #include "shell/auto_backup.h"
 #include "shell/file_saving.h"
+#include "shell/frame_placement.h"
 #include "shell/hand_off.h"
 #include "shell/session_documents.h"
 #include "shell/startup_files.h"
@@ -188,6 +192,10 @@ void HandOver(FaultScene& scene) {
     scene.attempt([&] { return HandOffToRunningInstance("a.c", -1, scene.notices); });
 }
 
+void HandOverPosition(FaultScene& scene) {
+    scene.attempt([&] { return HandOffFile({"C:\\A.C", 7, 3, 1}, scene.notices); });
+}
+
 // There is no interpreter, so nothing runs.
 void WriteBatchFile(FaultScene& scene) {
     const Directories directories(scene.disk.programPath());
@@ -231,7 +239,6 @@ void RemoveHelp(FaultScene& scene) {
 
 // ---- settings -------------------------------------------------------------------------------------------------------
 
-// Each of these writes one value or more through the one class of settings.
 template <void (*write)(ConfigStore& store)>
 void SaveSettings(FaultScene& scene) {
     ConfigStore store(scene.disk.path("VEXA.INI"));
@@ -241,26 +248,27 @@ void SaveSettings(FaultScene& scene) {
     });
 }
 
-void WriteOptions(ConfigStore& store) {
+// All that is written when the program ends.
+void WriteAllSettings(ConfigStore& store) {
+    const ConfigStore::Batch batch(store);
+    SaveFramePlacement(store, {{1, 2, 3, 4}, FrameState::Maximised});
     EditorOptions().Save(store);
+    SearchOptions().Save(store);
+    ColourTable().save(store);
+    PrintOptions().Save(store);
+    CompilerSetup().Save(store);
 }
 
-void WriteStartupFiles(ConfigStore& store) {
-    StartupFiles files(store);
-    files.RecordStartupFile("C:\\A.TXT", 7);
-    files.RecordStartupFile("C:\\B.TXT", 8);
+void WriteStartupFile(ConfigStore& store) {
+    StartupFiles(store).RecordStartupFile("C:\\A.TXT", 7);
 }
 
 void WriteColours(ConfigStore& store) {
     ColourTable().save(store);
 }
 
-void WriteSearch(ConfigStore& store) {
-    SearchOptions().Save(store);
-}
-
-void WriteCompiler(ConfigStore& store) {
-    CompilerSetup().Save(store);
+void WriteFileSearch(ConfigStore& store) {
+    FileSearchFields{.folder = "C:\\A", .subfolders = false}.Save(store);
 }
 
 void WriteDialogPosition(ConfigStore& store) {
@@ -269,8 +277,9 @@ void WriteDialogPosition(ConfigStore& store) {
 
 void WriteSession(FaultScene& scene) {
     const SessionDocument document{"C:\\A.TXT", {LineIndex(7), CharColumn(0)}, {}, true};
+    SessionFile file(scene.disk.path("vConfig\\VexaSes.txt"));
     scene.attempt([&]() -> Saved {
-        KeepSession(scene.disk.path("vConfig\\VexaSes.txt"), {&document, 1});
+        file.keep({&document, 1});
         return std::nullopt;
     });
 }
@@ -278,7 +287,6 @@ void WriteSession(FaultScene& scene) {
 // ---- the table ------------------------------------------------------------------------------------------------------
 
 constexpr AfterFailure kOldOrNew = AfterFailure::OldOrNew;
-constexpr AfterFailure kEachLine = AfterFailure::EachLine;
 
 }  // namespace
 
@@ -293,7 +301,12 @@ const std::vector<WritingOperation>& WritingOperations() {
     const Files batch{{"Work/VexaCC.BAT", "old"}, {"Work/a.err", "old"}};
     const Files help{{"A.HLP", HelpFile()}};
     const Files index{{"A.HLP", HelpFile()}, {"vHelp/A.ZIX", "old"}};
-    const Files settings{{"VEXA.INI", "; mine\r\n[Editor Options]\r\nTabSize=3\r\n\r\n[Other]\r\nkept=1\r\n"}};
+    const Files unsaved{
+        {"vbackup/unsaved-1.run", ""}, {"vbackup/unsaved-1-1.vxr", "one"}, {"vbackup/unsaved-1-2.vxr", "two"}};
+    const Files session{{"vConfig/VexaSes.txt", kSessionLine}};
+    const Files settings{{"VEXA.INI",
+                          "; mine\r\n[History]\r\nStartupFile:0=C:\\A.TXT 7\r\nMenuFile:0=C:\\A.TXT\r\n"
+                          "[Editor Options]\r\nTabSize=3\r\n\r\n[Other]\r\nkept=1\r\n"}};
     static const std::vector<WritingOperation> kOperations = {
         {"document over its file", document, "A.TXT", AfterFailure::TornWithCopy, SaveOver<BoxAnswer::No>},
         {"document without a copy", document, "A.TXT", AfterFailure::TornAsTold, SaveOver<BoxAnswer::Yes>},
@@ -302,23 +315,32 @@ const std::vector<WritingOperation>& WritingOperations() {
         {"later backup", backup, "", kOldOrNew, BackUp},
         {"backup of a second file of a name", {}, "", AfterFailure::OldOrNone, BackUpBesideAnother},
         {"recovery file", backup, "", kOldOrNew, KeepUnsaved},
+        {"first recovery file", {}, "", kOldOrNew, KeepFirstUnsaved},
+        {"recovery files of another run", unsaved, "", kOldOrNew, TakeUnsavedOfOthers},
+        {"offer of recovery files", document, "", kOldOrNew, OfferUnsaved},
+        {"left safety copy", copy, "", kOldOrNew, RenameLeftCopy},
         {"electric words", words, "vexa.elc", kOldOrNew, SaveElectricWords},
         {"tools", tools, "", kOldOrNew, SaveTools},
         {"profile", profile, "VexaC.PRF", kOldOrNew, SaveProfile},
         {"deletion of a profile", profile, "VexaC.PRF", kOldOrNew, DeleteProfile},
         {"history", history, "", kOldOrNew, SaveHistory},
-        {"session", {{"vConfig/VexaSes.txt", "old"}}, "", kOldOrNew, WriteSession},
+        {"session", session, "", kOldOrNew, WriteSession},
+        {"session that comes back", session, "", kOldOrNew, TakeSession},
+        {"session called off", session, "", kOldOrNew, CallOffSession},
         {"hand-off", {}, "Unexpected Vexa error", kOldOrNew, HandOver},
+        {"hand-off at a position", {}, "Unexpected Vexa error", kOldOrNew, HandOverPosition},
+        {"hand-off that is taken", {{"VEXACMD.DAT", "A.TXT\r\n7\r\n"}}, "", kOldOrNew, TakeHandOff},
         {"batch file", batch, "Can't ", AfterFailure::OldOrNone, WriteBatchFile},
         {"index of help", help, "Error processing 'A.HLP'", kOldOrNew, InstallHelp},
         {"index of help again", index, "Error processing 'A.HLP'", AfterFailure::OldOrNone, InstallHelp},
         {"removal of help", index, "a.zix", kOldOrNew, RemoveHelp},
-        {"editor options", settings, "", kEachLine, SaveSettings<WriteOptions>},
-        {"startup files", settings, "", kEachLine, SaveSettings<WriteStartupFiles>},
-        {"colours", settings, "", kEachLine, SaveSettings<WriteColours>},
-        {"search options", settings, "", kEachLine, SaveSettings<WriteSearch>},
-        {"compiler", settings, "", kEachLine, SaveSettings<WriteCompiler>},
-        {"position of a dialog", settings, "", kEachLine, SaveSettings<WriteDialogPosition>},
+        {"settings at the end", settings, "", kOldOrNew, SaveSettings<WriteAllSettings>},
+        {"startup file", settings, "", kOldOrNew, SaveSettings<WriteStartupFile>},
+        {"startup files called off", settings, "", kOldOrNew, CallOffStartupFiles},
+        {"recent files", settings, "", kOldOrNew, GoOnWithRecentFiles},
+        {"colours", settings, "", kOldOrNew, SaveSettings<WriteColours>},
+        {"search in files", settings, "", kOldOrNew, SaveSettings<WriteFileSearch>},
+        {"position of a dialog", settings, "", kOldOrNew, SaveSettings<WriteDialogPosition>},
     };
     return kOperations;
 }

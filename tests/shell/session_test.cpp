@@ -114,16 +114,16 @@ TEST_F(Session, AnyNumberOfDocumentsIsKeptWithTheirPositions) {
         documents[i].bookmarks.drop(static_cast<std::int32_t>(i % 10), LineIndex(5));
         documents[i].isActive = i == 500;
     }
-    const std::string file = disk_.path("SESSION.TXT");
-    KeepSession(file, documents);
-    const std::vector<SessionDocument> taken = TakeSession(file);
+    SessionFile file(disk_.path("SESSION.TXT"));
+    file.keep(documents);
+    const std::vector<SessionDocument> taken = file.take();
     ASSERT_EQ(taken.size(), documents.size());
     EXPECT_EQ(SessionText(taken), SessionText(documents));
     EXPECT_EQ(taken[999].path, "C:\\My file 999");
     EXPECT_EQ(taken[999].caret, documents[999].caret);
     EXPECT_EQ(taken[999].bookmarks.line(9), LineIndex(5));
     EXPECT_EQ(taken[999].bookmarks.line(8), std::nullopt);
-    EXPECT_TRUE(TakeSession(file).empty()) << "each is opened once";
+    EXPECT_TRUE(file.take().empty()) << "each is opened once";
 }
 
 TEST_F(Session, AnyBytesAreASession) {

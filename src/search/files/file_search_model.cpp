@@ -19,6 +19,7 @@ void FileSearchFields::Load(const ConfigStore& store) {
 }
 
 void FileSearchFields::Save(ConfigStore& store) const {
+    const ConfigStore::Batch batch(store);
     store.WriteGuarded(kSection, "Folder", folder);
     store.WriteGuarded(kSection, "Patterns", patterns);
     store.WriteInt(kSection, "Subfolders", subfolders ? 1 : 0);

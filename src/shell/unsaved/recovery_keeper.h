@@ -59,7 +59,6 @@ class RecoveryKeeper {
 
     void look();
     void note(const TextDocument& document);
-    void drop(std::size_t index);
     Kept& keptOf(const TextDocument& document);
     bool isDue(const Kept& kept) const;
     void begin(Kept& kept);

@@ -64,7 +64,7 @@ void Session::tellMissing(std::span<const std::string> paths) {
 void Session::restoreAll() {
     std::vector<SessionDocument> present;
     std::vector<std::string> missing;
-    for (SessionDocument& document : TakeSession(allFile())) {
+    for (SessionDocument& document : sessionFile_.take()) {
         if (platform::PathExists(document.path)) {
             present.push_back(std::move(document));
         } else {
@@ -129,7 +129,7 @@ void Session::recordAll() {
         if (window.document().isNamed())
             all.push_back(DescribeForSession(window.document(), &window == documents_.active()));
     });
-    KeepSession(allFile(), all);
+    sessionFile_.keep(all);
 }
 
 void Session::recordStartupFile(const TextDocument& document) {
@@ -142,11 +142,12 @@ void Session::recordStartupFile(const TextDocument& document) {
 
 void Session::takeBackEnd() {
     startupFiles_.takeBack();
-    if (isRecorded_) KeepSession(allFile(), {});
+    if (isRecorded_) sessionFile_.takeBack();
     isRecorded_ = false;
 }
 
 void Session::save() {
+    const ConfigStore::Batch batch(application_.store);
     placement_.save(application_.store);
     recentFiles_.SaveRecentFiles(application_.store);
     application_.options.Save(application_.store);
@@ -162,6 +163,7 @@ void Session::save() {
 void Session::prepareEnd() {
     startupFiles_.keep();
     isRecorded_ = false;
+    const ConfigStore::Batch batch(application_.store);
     for (MDIchildCL* child : documents_.inSessionOrder()) {
         const DocumentWindow* shown = OpenDocuments::DocumentOf(child);
         if (shown && shown->document().isNamed()) recordStartupFile(shown->document());

@@ -22,6 +22,7 @@ class Session {
           application_(application),
           notices_(notices),
           startupFiles_(application.store),
+          sessionFile_(application.directories.GetDirectory(kConfigDirectory) + "\\VexaSes.txt"),
           placement_(documents.frame()) {}
 
     void registerCommands(CommandDispatcher& dispatcher);
@@ -52,13 +53,13 @@ class Session {
     void restoreAll(std::span<const SessionDocument> all);
     DocumentWindow* restore(const SessionDocument& document);
     void recordAll();
-    std::string allFile() const { return application_.directories.GetDirectory(kConfigDirectory) + "\\VexaSes.txt"; }
 
     OpenDocuments& documents_;
     Application& application_;
     Notices& notices_;
     RecentFiles recentFiles_;
     StartupFiles startupFiles_;
+    SessionFile sessionFile_;
     WindowPlacement placement_;
     HMENU fileMenu_ = nullptr;
     bool isRecorded_ = false;  // all documents, before the first of them is closed

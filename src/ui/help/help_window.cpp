@@ -259,6 +259,7 @@ void HelpWindow::savePlace() const {
     placement.length = sizeof(placement);
     if (!GetWindowPlacement(window(), &placement)) return;
     const ScreenRect place = ScreenRectOf(placement.rcNormalPosition);
+    const ConfigStore::Batch batch(store_);
     store_.WriteInt(kSection, "x", place.x);
     store_.WriteInt(kSection, "y", place.y);
     store_.WriteInt(kSection, "cx", place.width);

@@ -111,10 +111,10 @@ class SettingsLines {
     std::vector<std::string> lines_;
 };
 
-// None when the file is missing or cannot be read.
+// Empty for a missing file; none for one that cannot be read.
 std::optional<std::string> ReadText(const std::string& file) {
     const FileHandle handle = OpenFile(file, OpenMode::Read);
-    if (handle == kNoFile) return std::nullopt;
+    if (handle == kNoFile) return PathExists(file) ? std::nullopt : std::optional<std::string>("");
     const std::optional<std::uint64_t> size = FileSize(handle);
     std::string text(static_cast<std::size_t>(std::min<std::uint64_t>(size.value_or(0), kLargestSettingsFile)), '\0');
     const std::optional<std::size_t> count = ReadFile(handle, text.data(), text.size());
@@ -136,25 +136,27 @@ bool ReplaceText(const std::string& file, std::string_view text) {
 
 }  // namespace
 
-std::string ReadSetting(const std::string& file, const std::string& section, const std::string& key,
-                        const std::string& fallback, std::size_t size) {
-    const std::optional<std::string> value = SettingsLines(ReadText(file).value_or("")).value(section, key);
-    return value.value_or(fallback).substr(0, size == 0 ? 0 : size - 1);
-}
-
-std::int32_t ReadIntSetting(const std::string& file, const std::string& section, const std::string& key,
-                            std::int32_t fallback) {
-    constexpr std::size_t kLongestNumber = 30;
-    const std::string value = ReadSetting(file, section, key, "", kLongestNumber);
-    return value.empty() ? fallback : LeadingInteger(value);
-}
-
-bool WriteSetting(const std::string& file, const std::string& section, const std::string& key,
-                  const std::string& value) {
+std::optional<std::string> ReadSetting(const std::string& file, const std::string& section, const std::string& key,
+                                       const std::string& fallback, std::size_t size) {
     const std::optional<std::string> text = ReadText(file);
-    if (!text && PathExists(file)) return false;
-    SettingsLines lines(text.value_or(""));
-    lines.set(section, key, value);
+    if (!text) return std::nullopt;
+    return SettingsLines(*text).value(section, key).value_or(fallback).substr(0, size == 0 ? 0 : size - 1);
+}
+
+std::optional<std::int32_t> ReadIntSetting(const std::string& file, const std::string& section, const std::string& key,
+                                           std::int32_t fallback) {
+    constexpr std::size_t kLongestNumber = 30;
+    const std::optional<std::string> value = ReadSetting(file, section, key, "", kLongestNumber);
+    if (!value) return std::nullopt;
+    return value->empty() ? fallback : LeadingInteger(*value);
+}
+
+bool WriteSettings(const std::string& file, std::span<const Setting> settings) {
+    const std::optional<std::string> text = ReadText(file);
+    if (!text) return false;
+    SettingsLines lines(*text);
+    for (const Setting& setting : settings)
+        lines.set(setting.section, setting.key, setting.value);
     return ReplaceText(file, lines.text());
 }
 
