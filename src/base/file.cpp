@@ -119,7 +119,7 @@ bool WriteWholeFile(const std::string& path, std::string_view data) {
     return RewriteFile(path, [data](File& file) { return file.write(data); });
 }
 
-bool RewriteFile(const std::string& path, const std::function<bool(File&)>& write) {
+bool RewriteFile(const std::string& path, const Callback<bool(File&)>& write) {
     File file;
     const std::string temporary = NewFileBeside(path, file);
     if (temporary.empty()) return false;

@@ -1,13 +1,13 @@
 // An open file that closes itself, over the platform's file functions.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "base/callback.h"
 #include "base/platform.h"
 
 namespace vexa {
@@ -50,7 +50,7 @@ std::optional<std::string> ReadKeptFile(const std::string& path, std::size_t lim
 // old file, or its absence, as it was. Read-only files are not replaced.
 bool WriteWholeFile(const std::string& path, std::string_view data);
 // The same for what a function writes into the new file; its false leaves the old file too.
-bool RewriteFile(const std::string& path, const std::function<bool(File&)>& write);
+bool RewriteFile(const std::string& path, const Callback<bool(File&)>& write);
 
 // The steps that a full or failing disk can refuse: reading of any file, the others of a file opened for writing.
 enum class FileStep { Open, Read, Write, End, Flush, Close };

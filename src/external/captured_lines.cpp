@@ -35,7 +35,7 @@ std::optional<CutLine> CutFirst(std::string_view text, bool atEnd) {
 
 // Hands the lines of a text over. What is left is the beginning of a line; none when the function has had enough.
 std::optional<std::string_view> HandOver(std::string_view text, bool atEnd,
-                                         const std::function<bool(std::string_view)>& take) {
+                                         const Callback<bool(std::string_view)>& take) {
     while (!text.empty()) {
         const std::optional<CutLine> cut = CutFirst(text, atEnd);
         if (!cut) break;
@@ -48,7 +48,7 @@ std::optional<std::string_view> HandOver(std::string_view text, bool atEnd,
 
 }  // namespace
 
-bool ReadCapturedLines(const std::string& path, const std::function<bool(std::string_view)>& take) {
+bool ReadCapturedLines(const std::string& path, const Callback<bool(std::string_view)>& take) {
     constexpr std::size_t kBlock = 64 * 1024;
     File file(path, platform::OpenMode::Read);
     if (!file.isOpen()) return false;

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
+
+#include "base/callback.h"
 
 namespace vexa {
 
@@ -15,6 +16,6 @@ inline constexpr std::size_t kCapturedLineLimit = 255;
 // is not part of it. A line in UTF-8 is handed over in the ANSI code page; all other bytes are as they are. The file is
 // shared with programs that still write. False when it cannot be opened; after an error in the middle of the file, what
 // was read before it counts.
-bool ReadCapturedLines(const std::string& path, const std::function<bool(std::string_view)>& take);
+bool ReadCapturedLines(const std::string& path, const Callback<bool(std::string_view)>& take);
 
 }  // namespace vexa

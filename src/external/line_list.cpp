@@ -69,7 +69,7 @@ void LineList::AddBanner() {
     AddLine({});
 }
 
-bool LineList::loadLines(const std::string& path, const std::function<void(std::string_view)>& added) {
+bool LineList::loadLines(const std::string& path, const Callback<void(std::string_view)>& added) {
     return ReadCapturedLines(path, [&](std::string_view line) {
         const bool taken = addRow(line);
         if (taken) added(lines_[lines_.size() - 1]);

@@ -1,10 +1,10 @@
 // What the Output window and the Message window have in common: lines, a selected one, and the file that a line names.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
+#include "base/callback.h"
 #include "base/list_rows.h"
 #include "base/notices.h"
 #include "external/error_line_parser.h"
@@ -35,7 +35,7 @@ class LineList : public ListRows {
   protected:
     // Adds the lines of a file and calls a function for each, until the list is full, which the user is then told.
     // False when the file cannot be opened.
-    bool loadLines(const std::string& path, const std::function<void(std::string_view)>& added);
+    bool loadLines(const std::string& path, const Callback<void(std::string_view)>& added);
     // Adds a line without telling the window. False, and the user is told, when the list is full.
     bool addRow(std::string_view text);
     void addClosing(std::initializer_list<std::string_view> texts);

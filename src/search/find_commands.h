@@ -1,9 +1,7 @@
 // The commands of searching and what they tell the user.
 #pragma once
 
-#include <functional>
-#include <utility>
-
+#include "base/callback.h"
 #include "document/view/edit_view.h"
 #include "search/finder.h"
 #include "search/search_options.h"
@@ -26,7 +24,7 @@ class FindCommands {
 
     SearchOptions& options() { return options_; }
     // Told of every search that finds nothing, and whether it is the user who has stopped it.
-    void setFailureListener(std::function<void(bool isUserStop)> listener) { failureListener_ = std::move(listener); }
+    void setFailureListener(Callback<void(bool isUserStop)> listener) { failureListener_ = listener; }
 
     // Find Next (307) and Find Previous (308) also change the direction that is kept.
     void findNext(const SearchTarget& target);
@@ -55,7 +53,7 @@ class FindCommands {
     SearchOptions& options_;
     Notices& notices_;
     Finder finder_;
-    std::function<void(bool isUserStop)> failureListener_;
+    Callback<void(bool isUserStop)> failureListener_;
 };
 
 }  // namespace vexa

@@ -12,11 +12,11 @@ bool AsksForFile(CommandNeed need) {
 }  // namespace
 
 void CommandDispatcher::RegisterCommand(CommandId id, Handler handler) {
-    RegisterToggle(id, std::move(handler), nullptr);
+    RegisterToggle(id, handler, {});
 }
 
 void CommandDispatcher::RegisterToggle(CommandId id, Handler handler, CheckQuery isChecked) {
-    registrations_[id] = {std::move(handler), std::move(isChecked)};
+    registrations_[id] = {handler, isChecked};
 }
 
 const CommandDispatcher::Registration* CommandDispatcher::registrationOf(CommandId id) const {

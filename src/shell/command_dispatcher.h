@@ -2,9 +2,9 @@
 // and runs it.
 #pragma once
 
-#include <functional>
 #include <map>
 
+#include "base/callback.h"
 #include "base/notices.h"
 #include "base/units.h"
 #include "shell/command_table.h"
@@ -14,12 +14,12 @@ namespace vexa {
 class CommandDispatcher {
   public:
     // Several commands may share a handler, so it is told which one runs.
-    using Handler = std::function<void(CommandId)>;
+    using Handler = Callback<void(CommandId)>;
     // Whether a need is met at this moment; never asked about Nothing.
-    using NeedQuery = std::function<bool(CommandNeed)>;
-    using CheckQuery = std::function<bool()>;
+    using NeedQuery = Callback<bool(CommandNeed)>;
+    using CheckQuery = Callback<bool()>;
 
-    CommandDispatcher(Notices& notices, NeedQuery isMet) : notices_(notices), isMet_(std::move(isMet)) {}
+    CommandDispatcher(Notices& notices, NeedQuery isMet) : notices_(notices), isMet_(isMet) {}
 
     // A later handler of the same command takes the place of the earlier one.
     void RegisterCommand(CommandId id, Handler handler);
@@ -27,8 +27,8 @@ class CommandDispatcher {
     void RegisterToggle(CommandId id, Handler handler, CheckQuery isChecked);
 
     // Told of every command that is about to run and is no step, for the macro that is being recorded.
-    using Recorder = std::function<void(CommandId, CommandOrigin)>;
-    void setRecorder(Recorder recorder) { recorder_ = std::move(recorder); }
+    using Recorder = Callback<void(CommandId, CommandOrigin)>;
+    void setRecorder(Recorder recorder) { recorder_ = recorder; }
 
     // The one answer to "may it run?": it has a handler, and what it needs is there.
     bool CanRun(CommandId id) const;

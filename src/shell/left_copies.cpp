@@ -19,7 +19,7 @@ bool AreEqual(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-void OfferLeftCopies(const std::string& path, Notices& notices, const std::function<void(const std::string&)>& open) {
+void OfferLeftCopies(const std::string& path, Notices& notices, const Callback<void(const std::string&)>& open) {
     const auto isYes = [&notices](const std::string& question) {
         return notices.box(question, TextId::ProgramCaption, BoxButtons::YesNo) == BoxAnswer::Yes;
     };

@@ -5,10 +5,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 
+#include "base/callback.h"
 #include "base/config_store.h"
 
 namespace vexa {
@@ -26,7 +26,7 @@ class StartupFiles {
 
     // Opens the files, the last slot first, when the user wants files restored; each is forgotten as soon as it has
     // been opened, so that one that cannot be is not tried for ever. Otherwise they stay as they are.
-    using Open = std::function<void(const std::string& path, std::int32_t line)>;
+    using Open = Callback<void(const std::string& path, std::int32_t line)>;
     void RestoreStartupFiles(bool restoreFiles, const Open& open);
 
     // The files as they are now come back with takeBack(), should the end that they are recorded for be called off.

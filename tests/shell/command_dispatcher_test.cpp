@@ -80,7 +80,7 @@ TEST_F(CommandDispatcherTest, ToggleIsCheckedAsItsQuerySays) {
 
 TEST_F(CommandDispatcherTest, HandlerMayReplaceItselfWhileItRuns) {
     std::string order;
-    dispatcher.RegisterCommand(CommandId::FileNew, [&, kept = std::string("first")](CommandId) {
+    dispatcher.RegisterCommand(CommandId::FileNew, [&, kept = std::string_view("first")](CommandId) {
         dispatcher.RegisterCommand(CommandId::FileNew, [&](CommandId) { order += "second"; });
         order += kept;
     });

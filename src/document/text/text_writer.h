@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "base/callback.h"
 #include "document/text/safety_copy.h"
 
 namespace vexa {
@@ -15,7 +15,7 @@ class File;
 class TextDocument;
 
 // Takes bytes; false when it has not taken them all.
-using ByteSink = std::function<bool(std::string_view)>;
+using ByteSink = Callback<bool(std::string_view)>;
 
 // Writes the lines up to the last that is not empty, each with its line end: that which is kept; else CR LF as text,
 // and LF as bytes, then a Ctrl-Z after the last line, unless that ends in one already. False when the sink has not

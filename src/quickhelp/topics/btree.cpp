@@ -53,7 +53,7 @@ int FirstLeaf(const Tree& tree) {
 }
 
 // Reads the entries of a leaf. The next leaf, -1 after the last, or -2 for a damaged one.
-int ReadLeaf(std::string_view page, const std::function<void(ByteReader&)>& readEntry) {
+int ReadLeaf(std::string_view page, const Callback<void(ByteReader&)>& readEntry) {
     ByteReader in(page);
     in.skip(2);
     const int count = in.i16();
@@ -66,7 +66,7 @@ int ReadLeaf(std::string_view page, const std::function<void(ByteReader&)>& read
 
 }  // namespace
 
-bool ReadTree(std::string_view bytes, const std::function<void(ByteReader&)>& readEntry) {
+bool ReadTree(std::string_view bytes, const Callback<void(ByteReader&)>& readEntry) {
     const Tree tree = ReadHeader(bytes);
     if (tree.pages < 0) return false;
     if (tree.levels <= 0) return true;

@@ -47,7 +47,7 @@ ColourSetupDialog::ColourSetupDialog(ConfigStore& store, const ColourTable& inEf
                                      Preview preview)
     : EditorDialog(store, IDD_COLOUR_SETUP),
       font_(font),
-      preview_(std::move(preview)),
+      preview_(preview),
       model_(inEffect),
       sampleColours_(model_.working()),
       painter_(sampleColours_) {}

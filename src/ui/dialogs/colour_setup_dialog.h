@@ -1,8 +1,7 @@
 // The "Color Setup" dialog.
 #pragma once
 
-#include <functional>
-
+#include "base/callback.h"
 #include "language/colour_setup_model.h"
 #include "ui/dialogs/editor_dialog.h"
 #include "ui/document/row_painter.h"
@@ -12,7 +11,7 @@ namespace vexa {
 class ColourSetupDialog : public EditorDialog {
   public:
     // Shows the colours being chosen in the open documents: called after every change.
-    using Preview = std::function<void(const ColourTable&)>;
+    using Preview = Callback<void(const ColourTable&)>;
 
     ColourSetupDialog(ConfigStore& store, const ColourTable& inEffect, const FontDetails& font, Preview preview);
 

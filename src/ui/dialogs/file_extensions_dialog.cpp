@@ -17,7 +17,7 @@ FileExtensionsDialog::FileExtensionsDialog(Application& application, Notices& no
     : EditorDialog(application.store, IDD_FILE_EXTENSIONS),
       application_(application),
       notices_(notices),
-      changed_(std::move(changed)),
+      changed_(changed),
       model_(application.profiles) {}
 
 void FileExtensionsDialog::onOpen() {

@@ -2,8 +2,7 @@
 // deleted.
 #pragma once
 
-#include <functional>
-
+#include "base/callback.h"
 #include "language/file_extensions_model.h"
 #include "ui/dialogs/editor_dialog.h"
 #include "ui/document/application.h"
@@ -13,7 +12,7 @@ namespace vexa {
 class FileExtensionsDialog : public EditorDialog {
   public:
     // Called after every profile that has been written or deleted.
-    using Changed = std::function<void()>;
+    using Changed = Callback<void()>;
 
     FileExtensionsDialog(Application& application, Notices& notices, Changed changed);
 

@@ -1,9 +1,9 @@
 // The dialogs that ask for one number: "Goto Line", "Jump to Bookmark", "Macro Repeat".
 #pragma once
 
-#include <functional>
 #include <string>
 
+#include "base/callback.h"
 #include "ui/dialogs/editor_dialog.h"
 
 namespace vexa {
@@ -11,10 +11,10 @@ namespace vexa {
 class NumberDialog : public EditorDialog {
   public:
     // What the dialog does with the number as it was typed; false keeps it open.
-    using Use = std::function<bool(const std::string& number)>;
+    using Use = Callback<bool(const std::string& number)>;
 
     NumberDialog(ConfigStore& store, int dialog, std::string number, Use use)
-        : EditorDialog(store, dialog), number_(std::move(number)), use_(std::move(use)) {}
+        : EditorDialog(store, dialog), number_(std::move(number)), use_(use) {}
 
   protected:
     void onOpen() override;

@@ -1,9 +1,9 @@
 // What the Find and the Replace dialog have in common. They stay open beside the document while the user edits it.
 #pragma once
 
-#include <functional>
 #include <string>
 
+#include "base/callback.h"
 #include "base/history_list.h"
 #include "search/find_dialog_model.h"
 #include "search/pattern_pieces.h"
@@ -16,7 +16,7 @@ namespace vexa {
 // What the dialogs ask of the frame.
 class SearchHost {
   public:
-    using Search = std::function<void(const SearchTarget& active)>;
+    using Search = Callback<void(const SearchTarget& active)>;
 
     virtual ~SearchHost() = default;
     // Lets a search run on the active document or list and shows what it has done.

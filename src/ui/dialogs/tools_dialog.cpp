@@ -40,7 +40,7 @@ constexpr TextField<ToolsModel> kTexts[] = {
 ToolsDialog::ToolsDialog(Application& application, Notices& notices, ToolList& tools, Changed changed)
     : EditorDialog(application.store, IDD_TOOLS),
       application_(application),
-      changed_(std::move(changed)),
+      changed_(changed),
       model_(tools, notices, platform::EnvironmentValue("PATH")) {}
 
 void ToolsDialog::onOpen() {

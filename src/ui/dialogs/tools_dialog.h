@@ -1,8 +1,7 @@
 // The "Tools" dialog, in which the user makes the tools of the Tools menu. Each change is kept at once.
 #pragma once
 
-#include <functional>
-
+#include "base/callback.h"
 #include "external/tools_model.h"
 #include "ui/dialogs/editor_dialog.h"
 #include "ui/document/application.h"
@@ -12,7 +11,7 @@ namespace vexa {
 class ToolsDialog : public EditorDialog {
   public:
     // Called after every change of the tools.
-    using Changed = std::function<void()>;
+    using Changed = Callback<void()>;
 
     ToolsDialog(Application& application, Notices& notices, ToolList& tools, Changed changed);
 

@@ -7,9 +7,9 @@
 
 namespace vexa {
 
-FrameBars::FrameBars(MDIframeCL& frame, EditorOptions& options, std::function<void()> layOut)
+FrameBars::FrameBars(MDIframeCL& frame, EditorOptions& options, Callback<void()> layOut)
     : options_(options),
-      layOut_(std::move(layOut)),
+      layOut_(layOut),
       toolBar_(ToolButtons(), ToolPictureStrips(), &ToolTipOf),
       tabs_(frame),
       statusBar_(WidestPaneTexts()) {}

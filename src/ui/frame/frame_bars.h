@@ -2,8 +2,7 @@
 // them.
 #pragma once
 
-#include <functional>
-
+#include "base/callback.h"
 #include "base/editor_options.h"
 #include "framework/status_bar.h"
 #include "framework/tool_bar.h"
@@ -16,7 +15,7 @@ namespace vexa {
 class FrameBars {
   public:
     // Whoever lays the frame out hears when a bar has been shown or hidden.
-    FrameBars(MDIframeCL& frame, EditorOptions& options, std::function<void()> layOut);
+    FrameBars(MDIframeCL& frame, EditorOptions& options, Callback<void()> layOut);
 
     void registerCommands(CommandDispatcher& dispatcher);
     // False when the system refuses to make a bar.
@@ -43,7 +42,7 @@ class FrameBars {
     void toggleTabs();
 
     EditorOptions& options_;
-    std::function<void()> layOut_;
+    Callback<void()> layOut_;
     ToolBarCL toolBar_;
     DocumentTabs tabs_;
     StatusBarCL statusBar_;

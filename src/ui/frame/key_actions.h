@@ -1,17 +1,16 @@
 // The keys that the frame carries out itself, by those who carry them out.
 #pragma once
 
-#include <functional>
 #include <map>
-#include <utility>
 
+#include "base/callback.h"
 #include "shell/frame_keys.h"
 
 namespace vexa {
 
 class KeyActions {
   public:
-    void RegisterAction(FrameAction action, std::function<void()> run) { runs_[action] = std::move(run); }
+    void RegisterAction(FrameAction action, Callback<void()> run) { runs_[action] = run; }
     // Carries out a key that is the frame's own; false for any other. Each action must have been registered.
     bool use(const KeyEvent& event, bool inText) const {
         const auto action = FrameActionOf(event, inText);
@@ -20,7 +19,7 @@ class KeyActions {
     }
 
   private:
-    std::map<FrameAction, std::function<void()>> runs_;
+    std::map<FrameAction, Callback<void()>> runs_;
 };
 
 }  // namespace vexa

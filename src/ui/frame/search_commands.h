@@ -28,9 +28,7 @@ class SearchCommands : private SearchHost {
     void registerCommands(CommandDispatcher& dispatcher);
     void registerKeys(KeyActions& keys);
     // Told of every search that finds nothing, and whether it is the user who has stopped it.
-    void setFailureListener(std::function<void(bool isUserStop)> listener) {
-        commands_.setFailureListener(std::move(listener));
-    }
+    void setFailureListener(Callback<void(bool isUserStop)> listener) { commands_.setFailureListener(listener); }
 
     // Uses a key that means something to the dialog while it has the focus; false for any other key.
     bool useKey(MSG& message, const KeyEvent& event);

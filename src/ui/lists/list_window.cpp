@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "base/strings.h"
 #include "framework/mdi_frame.h"
@@ -37,7 +36,7 @@ ListWindow::ListWindow(MDIframeCL& frame, ListHost& host, ListRows& rows, Applic
       rows_(rows),
       clipboard_(application.clipboard),
       pane_(rows, application.display, application.font, *this),
-      gone_(std::move(gone)) {}
+      gone_(gone) {}
 
 bool ListWindow::onSize(UINT /*kind*/) {
     pane_.place(clientArea());

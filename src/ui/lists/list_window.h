@@ -1,8 +1,7 @@
 // A window inside the frame that shows one list, such as what a program has printed.
 #pragma once
 
-#include <functional>
-
+#include "base/callback.h"
 #include "ui/document/application.h"
 #include "ui/document/text_window.h"
 #include "ui/lists/list_pane.h"
@@ -24,7 +23,7 @@ extern const WindowClass kListWindowClass;
 class ListWindow : public TextWindow, private RowPaneHost {
   public:
     // The owner is told when the window has gone, and the object is going to be destroyed.
-    using Gone = std::function<void()>;
+    using Gone = Callback<void()>;
 
     ListWindow(MDIframeCL& frame, ListHost& host, ListRows& rows, Application& application, Gone gone);
 
