@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/ascii.h"
-#include "base/take_line.h"
+#include "base/take_text.h"
 
 namespace vexa {
 

@@ -4,6 +4,7 @@
 
 #include "base/ascii.h"
 #include "base/platform.h"
+#include "base/take_text.h"
 
 namespace vexa {
 
@@ -19,9 +20,7 @@ bool IsDevice(std::string_view name) {
 
 bool AreNameParts(std::string_view path) {
     while (!path.empty()) {
-        const std::string_view part = path.substr(0, path.find('\\'));
-        if (!IsNamePart(part)) return false;
-        path.remove_prefix(std::min(part.size() + 1, path.size()));
+        if (!IsNamePart(TakeUpTo(path, '\\'))) return false;
     }
     return true;
 }

@@ -5,6 +5,7 @@
 
 #include "base/ascii.h"
 #include "base/file.h"
+#include "base/take_text.h"
 
 namespace vexa {
 
@@ -50,15 +51,7 @@ std::string_view WithoutFilling(std::string_view text) {
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-std::string_view TakeUpTo(std::string_view& text, char end) {
-    const std::size_t length = std::min(text.find(end), text.size());
-    const std::string_view taken = text.substr(0, length);
-    text.remove_prefix(std::min(length + 1, text.size()));
-    return taken;
-}
-
 void TakeEntry(ElectricList& list, std::string_view line) {
-    if (line.ends_with('\r')) line.remove_suffix(1);
     const std::string_view keyword = ElectricKeywordOf(TakeUpTo(line, '\t'));
     TakeUpTo(line, '\t');
     if (!list.find(keyword)) list.set(keyword, WithoutFilling(line));
@@ -116,7 +109,7 @@ std::string EncodeElectricList(const ElectricList& list) {
 ElectricList DecodeElectricList(std::string_view bytes) {
     ElectricList list;
     while (!bytes.empty())
-        TakeEntry(list, TakeUpTo(bytes, '\n'));
+        TakeEntry(list, TakeLine(bytes));
     return list;
 }
 

@@ -1,7 +1,7 @@
 #include "quickhelp/help_index_reader.h"
 
 #include "base/ascii.h"
-#include "base/take_line.h"
+#include "base/take_text.h"
 
 namespace vexa {
 

@@ -6,7 +6,7 @@
 #include "base/directories.h"
 #include "base/file.h"
 #include "base/strings.h"
-#include "base/take_line.h"
+#include "base/take_text.h"
 
 namespace vexa {
 

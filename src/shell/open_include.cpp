@@ -8,6 +8,7 @@
 #include "base/file_name.h"
 #include "base/platform.h"
 #include "base/strings.h"
+#include "base/take_text.h"
 #include "language/name_at_caret.h"
 
 namespace vexa {
@@ -30,11 +31,9 @@ std::string Joined(std::string directory, const std::string& name) {
 // Empty parts would mean the current directory once more.
 void AddListed(std::vector<std::string>& directories, std::string_view list) {
     while (!list.empty()) {
-        const std::size_t length = std::min(list.find(';'), list.size());
-        std::string directory(TrimBlanks(list.substr(0, length)));
+        std::string directory(TrimBlanks(TakeUpTo(list, ';')));
         std::erase(directory, '"');
         if (!directory.empty()) directories.push_back(directory);
-        list.remove_prefix(std::min(length + 1, list.size()));
     }
 }
 

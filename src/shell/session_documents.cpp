@@ -7,6 +7,7 @@
 #include "base/file.h"
 #include "base/platform.h"
 #include "base/strings.h"
+#include "base/take_text.h"
 
 namespace vexa {
 
@@ -19,9 +20,7 @@ constexpr char kBeforePath = '\t';  // what no path has
 
 // The number at the start of a line of numbers, which is taken out.
 std::int32_t TakeNumber(std::string_view& line) {
-    const std::string_view number = line.substr(0, line.find(' '));
-    line.remove_prefix(std::min(number.size() + 1, line.size()));
-    return LeadingInteger(number);
+    return LeadingInteger(TakeUpTo(line, ' '));
 }
 
 // Whether it is the active one, the caret's line and column, and the lines of the bookmarks, -1 for none.

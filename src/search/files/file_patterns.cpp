@@ -1,6 +1,7 @@
 #include "search/files/file_patterns.h"
 
 #include "base/ascii.h"
+#include "base/take_text.h"
 
 namespace vexa {
 
@@ -39,9 +40,7 @@ bool FilePatterns::match(std::string_view name) const {
     std::string_view rest = patterns_;
     bool hasPattern = false;
     while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find(';'), rest.size());
-        const std::string_view pattern = TrimBlanks(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const std::string_view pattern = TrimBlanks(TakeUpTo(rest, ';'));
         if (pattern == "*.*" || (!pattern.empty() && Matches(pattern, name))) return true;
         hasPattern = hasPattern || !pattern.empty();
     }

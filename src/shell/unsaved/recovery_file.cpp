@@ -7,6 +7,7 @@
 #include "base/file.h"
 #include "base/file_contents.h"
 #include "base/file_name.h"
+#include "base/take_text.h"
 #include "document/text/document_line_ends.h"
 
 namespace vexa {
@@ -31,9 +32,7 @@ std::uint64_t ChecksumWhenSaved(const LineViews& lines, bool bytes) {
 LineViews LinesBeforeLf(std::string_view rest) {
     LineViews lines;
     do {
-        const std::size_t length = std::min(rest.find('\n'), rest.size());
-        lines.push_back(rest.substr(0, length));
-        rest.remove_prefix(std::min(length + 1, rest.size()));
+        lines.push_back(TakeUpTo(rest, '\n'));
     } while (!rest.empty());
     return lines;
 }

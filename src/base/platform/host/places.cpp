@@ -7,6 +7,7 @@
 #include "base/ascii.h"
 #include "base/platform.h"
 #include "base/platform/host/sandbox.h"
+#include "base/take_text.h"
 
 namespace vexa::platform {
 
@@ -24,9 +25,7 @@ bool NamesDrive(std::string_view path) {
 
 void AddParts(std::vector<std::string_view>& parts, std::string_view path) {
     while (!path.empty()) {
-        const std::size_t end = std::min(path.find('\\'), path.size());
-        const std::string_view part = path.substr(0, end);
-        path.remove_prefix(std::min(end + 1, path.size()));
+        const std::string_view part = TakeUpTo(path, '\\');
         if (part.empty() || part == ".") continue;
         if (part != "..")
             parts.push_back(part);
