@@ -17,7 +17,7 @@ class HeldKeys {
     bool hold(const MSG& message);
     void drop() { keys_.clear(); }
     // Has the loop process what is kept, in its order and as if the keys were pressed now. What is held in the course
-    // of that follows behind.
+    // of that follows.
     void giveBack(MessageLoop& loop);
 
   private:

@@ -14,7 +14,7 @@ enum class LineState : std::uint8_t {
     Outside,             // of everything; in a profile that tells code from text, in text
     Comment,             // between the profile's comment start and end
     Code,                // in a profile that tells code from text, in code
-    FirstQuote,          // in the first of the rules' quotes; the numbers behind are the others
+    FirstQuote,          // in the first of the rules' quotes; the numbers after it are the others
     FirstHereText = 64,  // in a text up to a line that is one word; the number stands for the word
     Unknown = 255
 };

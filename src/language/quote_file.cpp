@@ -8,9 +8,9 @@
 namespace vexa {
 namespace {
 
-// Takes the text before the first of the parting characters, and these, off a text.
-std::string_view TakeUntil(std::string_view& text, std::string_view parting) {
-    const std::size_t end = std::min(text.find_first_of(parting), text.size());
+// Takes what stands before the first of the separators, and this one, off a text.
+std::string_view TakeUntil(std::string_view& text, std::string_view separators) {
+    const std::size_t end = std::min(text.find_first_of(separators), text.size());
     const std::string_view taken = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     return taken;

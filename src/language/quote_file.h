@@ -6,13 +6,13 @@
 //   quote: OPEN [CLOSE] [lines] [raw] [behind CHARACTERS]
 //                                 up to 8 of them, instead of the profile's string character; CLOSE is OPEN where it is
 //                                 missing. "lines": goes over lines; "raw": the escape character is an ordinary one
-//                                 inside; "behind": opens only behind one of these characters or at the start of a
+//                                 inside; "behind": opens only after one of these characters or at the start of a
 //                                 line, blanks aside
 //   comment: OPEN CLOSE           instead of the profile's start and end
 //   line comment: word [CHARACTERS]
-//                                 the profile's line comment begins only behind a blank or one of these
+//                                 the profile's line comment begins only after a blank or one of these
 //   code in quotes: OPEN CLOSE    what stands between these is code again, in quotes with "lines" and without "raw"
-//   text behind: OPEN             a word behind OPEN begins a text, from the next line to the line of this word alone
+//   text behind: OPEN             a word after OPEN begins a text, from the next line to the line of this word alone
 //
 //   code: OPEN CLOSE              only what stands between these two characters is code, all around is text
 #pragma once

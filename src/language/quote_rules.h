@@ -47,12 +47,12 @@ struct QuoteRules {
     bool hasString = false;        // one of them is a string: the profile's string character does not count
     bool hasComment = false;       // one of them is a comment: the profile's start and end do not count
     char escape = '\0';            // it and the character after it open and close nothing
-    bool commentsAtWords = false;  // a line comment begins only behind a blank or one of these:
+    bool commentsAtWords = false;  // a line comment begins only after a blank or one of these:
     ShortText<31> wordBreaks;
     // In quotes that go over lines and are not raw, what stands between these two is code.
     ShortText<3> innerStart;
     char innerEnd = '\0';
-    // A word behind it begins a text, from the next line to the line that is this word alone.
+    // A word after it begins a text, from the next line to the line that is this word alone.
     ShortText<3> hereText;
     // Where the first is not 0: only what stands between the two is code, all around it is text.
     char codeStart = '\0';

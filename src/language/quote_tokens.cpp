@@ -35,7 +35,7 @@ bool LineTokenizer::takeQuoted(const char* start) {
     return true;
 }
 
-// The end of code in a quote, behind which the quote goes on.
+// The end of code in a quote, after which the quote goes on.
 bool LineTokenizer::takeInnerCode(const char* start) {
     const QuoteRules& rules = rules_.quotes();
     if (*start != rules.innerEnd || state_ == InnermostOf(state_)) return false;

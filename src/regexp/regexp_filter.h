@@ -17,7 +17,7 @@ class PlaceFilter {
     static constexpr int kMostAlternatives = 8;
 
     // Alternatives, each a possible beginning: the sets of its characters at the first offsets. The NUL at the end of
-    // the line is one of the characters, and the set of an offset that may lie behind it is All.
+    // the line is one of the characters, and the set of an offset that may lie after it is All.
     using Alternative = std::array<ByteSet, kOffsets>;
 
     // Lets every place pass.

@@ -39,7 +39,7 @@ class LineSearch {
     void setDelimiters(std::string_view delimiters) { delimiters_ = delimiters; }
 
     bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
-    // The lines after a line whose text must follow it, each behind a "\n", for the find text to be found in it.
+    // The lines after a line whose text must follow it, each after a "\n", for the find text to be found in it.
     std::int32_t furtherLines() const { return furtherLines_; }
     // What is to be put in for the match that was found last, whose text must still be there.
     std::string replacement() const;

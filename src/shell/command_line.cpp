@@ -42,7 +42,7 @@ class ArgumentReader {
     }
 
   private:
-    // One character, or a run of backslashes with the quote behind it; whether what follows is quoted.
+    // One character, or a run of backslashes with the quote after it; whether what follows is quoted.
     bool takePiece(bool quoted) {
         const std::size_t backslashes = std::min(rest_.find_first_not_of('\\'), rest_.size());
         const bool beforeQuote = rest_.substr(backslashes).starts_with('"');

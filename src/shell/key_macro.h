@@ -43,7 +43,7 @@ class KeyMacro {
   public:
     KeyMacro(MacroTarget& target, Notices& notices) : target_(target), notices_(notices) {}
 
-    // A new recording takes the place of the old one at its first step, or goes on behind it.
+    // A new recording takes the place of the old one at its first step, or goes on after it.
     void StartRecording(bool append);
     // Without any step recorded the old macro stays.
     void StopRecording();
@@ -67,7 +67,7 @@ class KeyMacro {
     bool Play();
     // Plays that many times at most, up to the first that fails.
     void PlayRepeated(std::int32_t count);
-    // Ends a playback behind its present step.
+    // Ends a playback after its present step.
     void stop() { isStopped_ = true; }
     // A search of the present step has found nothing: a repeated playback has done its work, and ends. Any playback
     // ends when the user has stopped the search.

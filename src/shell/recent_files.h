@@ -34,7 +34,7 @@ class RecentFiles {
 
     // What stands before "Exit" in the File menu, in order; a separator follows when it is not empty.
     std::vector<RecentFileRow> menuRows() const;
-    // The path behind a menu entry; empty for none.
+    // The path of a menu entry; empty for none.
     const std::string& path(CommandId id) const;
 
   private:

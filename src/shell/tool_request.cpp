@@ -45,7 +45,7 @@ struct Positioned {
     std::int32_t column = 0;
 };
 
-// They also put a colon behind. The one behind the letter of a drive belongs to the name.
+// Tools also put a colon after a position. One after the letter of a drive belongs to the name.
 Positioned PositionIn(std::string_view text) {
     if (text.starts_with(':')) return {};
     if (text.ends_with(':')) text.remove_suffix(1);

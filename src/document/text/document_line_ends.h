@@ -15,7 +15,7 @@ namespace vexa {
 LineEnd NewLineEnd(const TextDocument& document);
 // A line to be inserted, with that end.
 LinePtr NewLine(const TextDocument& document, std::string_view text);
-// What the file has behind a line of a text that goes as far as the last line. CR LF where ends are not kept.
+// What the file has after a line of a text that ends with the last line. CR LF where ends are not kept.
 LineEnd LineEndAt(const TextDocument& document, LineIndex index, LineIndex last);
 
 // Counts the ends of all lines anew.

@@ -279,7 +279,7 @@ BrowserOutcome HelpBrowser::run(const ShownTopic& from, const std::string& macro
     return BrowserOutcome::Nothing;
 }
 
-// The arguments: a file, empty for this one, with a window behind ">", and a context by its name, its hash or its
+// The arguments: a file, empty for this one, with a window after ">", and a context by its name, its hash or its
 // number.
 BrowserOutcome HelpBrowser::leadTo(const ShownTopic& from, const MacroCall& call, LinkAction action,
                                    ContextKind context) {

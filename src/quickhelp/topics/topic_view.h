@@ -44,7 +44,7 @@ std::optional<TextPosition> FindText(const Topic& topic, std::string_view text, 
 // The height at which a position's line begins, none where the region does not hold it.
 std::optional<int> TopOf(const LaidRegion& region, TextPosition position);
 // Where each page of a region begins, of a height that is above 0, and in the end the region's own. A line or a picture
-// is divided only if it is higher than a page. Nothing but 0 for an empty region; what lies behind 10,000 pages is left
+// is divided only if it is higher than a page. Nothing but 0 for an empty region; what lies after 10,000 pages is left
 // out.
 std::vector<int> PageTops(const LaidRegion& region, int height);
 // The paragraph that an offset leads to, for jumps into the middle of a topic.

@@ -15,7 +15,7 @@ namespace vexa {
 struct FoundLine {
     char* begin;
     char* end;
-    char* next;  // where the line behind it begins
+    char* next;  // where the line after it begins
     LineMatch match;
 
     std::string_view text() const { return {begin, static_cast<std::size_t>(end - begin)}; }

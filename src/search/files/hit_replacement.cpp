@@ -33,8 +33,8 @@ std::size_t HitReplacement::filesIn(const HitRows& rows) const {
     return files;
 }
 
-// The first row behind those that are about the same file. The last is done first, as replacements may have line ends,
-// which move the lines behind them.
+// The first row after those about the same file. The last is done first, as replacements may have line ends,
+// which move the lines after them.
 std::size_t HitReplacement::replaceInFile(std::size_t row, std::size_t end, const SearchOptions& options) {
     const std::string path = list_.pathOf(row);
     std::size_t next = row + 1;

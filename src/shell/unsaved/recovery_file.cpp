@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view kCtrlZ = "\x1A";
 
-// The checksum of the lines as a save writes them; of bytes, with a Ctrl-Z behind them.
+// The checksum of the lines as a save writes them; of bytes, with a Ctrl-Z after them.
 std::uint64_t ChecksumWhenSaved(const LineViews& lines, bool bytes) {
     Checksum checksum;
     const bool endsInCtrlZ = lines.back().ends_with(kCtrlZ);

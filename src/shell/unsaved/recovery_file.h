@@ -1,7 +1,7 @@
 // What a recovery file holds: the text of one document that has not been saved, and which file it belongs to.
 //
 // A head of fixed length, whose checksum counts all that follows it, then the document's path, then the lines, each
-// with LF behind it, or with its own end where the document keeps these. Each file tells all about itself, so no list
+// with LF after it, or with its own end where the document keeps these. Each file tells all about itself, so no list
 // of them can be out of step with what is there.
 #pragma once
 
@@ -32,7 +32,7 @@ struct RecoveryHead {
 
 // The beginning of a document's recovery file, before its lines: the head, without its checksum, and the path.
 std::string RecoveryBeginning(const TextDocument& document);
-// What it has behind a line of a text that goes as far as the last line.
+// What it has after a line of a text that ends with the last line.
 std::string_view RecoveredLineEnd(const TextDocument& document, LineIndex line, LineIndex last);
 // Puts the checksum into the head of a file that is all there.
 void SealRecovery(std::string& bytes, std::uint64_t checksum);

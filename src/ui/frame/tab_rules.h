@@ -8,7 +8,7 @@
 
 namespace vexa {
 
-// The windows in the order of their tabs, each known by an address. New ones stand behind the others.
+// The windows in the order of their tabs, each known by an address. New ones stand after the others.
 class TabOrder {
   public:
     using Key = const void*;

@@ -34,7 +34,7 @@ class TabStripCL : public WindowCL {
     explicit TabStripCL(TabHost& host) : host_(host) {}
 
     bool open(HWND parent);
-    // None is the active one for an index behind the last.
+    // None is the active one for an index after the last.
     void take(std::vector<TabLabel> labels, std::size_t active);
     // In pixels, at the resolution of the frame's monitor.
     int height() const { return height_; }
