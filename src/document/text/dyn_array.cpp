@@ -23,7 +23,7 @@ void Report(Fault fault) {
 
 // ---- GapVector ---------------------------------------------------------------------------------------------------
 
-void GapVector::moveGap(std::int32_t to) {
+void GapVector::moveGapTo(std::int32_t to) {
     const auto begin = items_.begin();
     if (to < gapStart_) {
         std::copy_backward(begin + to, begin + gapStart_, begin + gapStart_ + gapLength_);
@@ -40,10 +40,6 @@ void GapVector::widenGap(std::int32_t least) {
     gapLength_ += static_cast<std::int32_t>(wider);
 }
 
-void GapVector::reserve(std::int32_t count) {
-    if (gapLength_ < count) widenGap(count);
-}
-
 void GapVector::insert(std::int32_t i, TextLine* item) {
     reserve(1);
     moveGap(i);
@@ -58,8 +54,10 @@ TextLine* GapVector::remove(std::int32_t i) {
 
 void GapVector::append(std::int32_t count, TextLine* item) {
     reserve(count);
-    for (; count > 0; --count)
-        insert(size(), item);
+    moveGap(size());
+    std::fill_n(items_.begin() + gapStart_, count, item);
+    gapStart_ += count;
+    gapLength_ -= count;
 }
 
 // ---- DynArray ----------------------------------------------------------------------------------------------------
@@ -103,23 +101,16 @@ bool DynArray::makeRoom(std::int32_t i) {
 }
 
 // Makes slots below count real, as vacant ones.
-bool DynArray::reach(std::int32_t count) {
-    try {
-        if (count > slots_.size()) slots_.append(count - slots_.size(), &vacant_);
-        return true;
-    } catch (const std::bad_alloc&) {
-        Report(kNoMemory);
-        return false;
-    }
+bool DynArray::reach(std::int32_t count) try {
+    if (count > slots_.size()) slots_.append(count - slots_.size(), &vacant_);
+    return true;
+} catch (const std::bad_alloc&) {
+    Report(kNoMemory);
+    return false;
 }
 
 void DynArray::reserve(std::int32_t i) {
     slots_.reserve(std::max(i + 1 - slots_.size(), 1));
-}
-
-void DynArray::trim() {
-    while (slots_.size() > 0 && slots_[slots_.size() - 1] == &vacant_)
-        slots_.remove(slots_.size() - 1);
 }
 
 // A line that comes from the history may come from a time with other rules of colouring.

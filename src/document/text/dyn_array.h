@@ -25,12 +25,17 @@ class GapVector {
     void insert(std::int32_t i, TextLine* item);
     TextLine* remove(std::int32_t i);
     // Makes room for that many more. Throws std::bad_alloc and is then unchanged, as append is.
-    void reserve(std::int32_t count);
+    void reserve(std::int32_t count) {
+        if (gapLength_ < count) widenGap(count);
+    }
     void append(std::int32_t count, TextLine* item);
 
   private:
     std::size_t offset(std::int32_t i) const { return static_cast<std::size_t>(i < gapStart_ ? i : i + gapLength_); }
-    void moveGap(std::int32_t to);
+    void moveGap(std::int32_t to) {
+        if (to != gapStart_) moveGapTo(to);
+    }
+    void moveGapTo(std::int32_t to);
     void widenGap(std::int32_t least);
 
     std::vector<TextLine*> items_;
@@ -95,7 +100,10 @@ class DynArray {
     bool reach(std::int32_t count);
     LinePtr take(std::int32_t i);
     TextLine* keep(LinePtr line);
-    void trim();
+    void trim() {
+        while (slots_.size() > 0 && slots_[slots_.size() - 1] == &vacant_)
+            slots_.remove(slots_.size() - 1);
+    }
     void noteMovedFrom(std::int32_t i) { movedFrom_ = std::min(movedFrom_, i); }
 
     TextLine vacant_;

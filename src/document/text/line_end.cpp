@@ -15,12 +15,18 @@ std::string_view NameOf(LineEnd end) {
 }
 
 CutLine LineCutter::next() {
-    if (feed_ == nullptr || feed_ < rest_.data()) feed_ = rest_.data() + std::min(rest_.find('\n'), rest_.size());
-    const auto feed = static_cast<std::size_t>(feed_ - rest_.data());
+    const std::size_t feed = lengthBefore('\n', feed_);
+    const std::size_t carriageReturn = lengthBefore('\r', carriageReturn_);
+    if (feed < carriageReturn) return {feed, LineEnd::Lf};
+    if (feed == carriageReturn) return {feed, LineEnd::None};
     const bool isFeed = feed < rest_.size();
-    const std::size_t carriageReturn = rest_.substr(0, feed).find('\r');
-    if (carriageReturn == rest_.npos) return {feed, isFeed ? LineEnd::Lf : LineEnd::None};
     return {carriageReturn, isFeed && carriageReturn + 1 == feed ? LineEnd::CrLf : LineEnd::Cr};
+}
+
+// Up to the next such character, or to the bytes' end. It is looked for again only once the line before it is taken.
+std::size_t LineCutter::lengthBefore(char end, const char*& next) const {
+    if (next == nullptr || next < rest_.data()) next = rest_.data() + std::min(rest_.find(end), rest_.size());
+    return static_cast<std::size_t>(next - rest_.data());
 }
 
 std::string_view LineCutter::take(const CutLine& line) {

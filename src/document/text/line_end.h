@@ -13,6 +13,9 @@ enum class LineEnd : std::uint8_t { None, CrLf, Lf, Cr };
 inline constexpr std::size_t kLineEnds = 4;
 
 std::string_view BytesOf(LineEnd end);
+constexpr std::size_t LengthOf(LineEnd end) {
+    return end == LineEnd::CrLf ? 2 : end == LineEnd::None ? 0 : 1;
+}
 // For the status line: "CRLF".
 std::string_view NameOf(LineEnd end);
 
@@ -34,8 +37,11 @@ class LineCutter {
     std::string_view take(const CutLine& line);
 
   private:
+    std::size_t lengthBefore(char end, const char*& next) const;
+
     std::string_view rest_;
-    const char* feed_ = nullptr;  // the next LF; where the bytes end when there is none
+    const char* feed_ = nullptr;            // the next LF, as last looked for; where the bytes end when there is none
+    const char* carriageReturn_ = nullptr;  // the next CR likewise
 };
 
 // How the lines of a document that keeps their ends do end, as last looked at.

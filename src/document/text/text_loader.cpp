@@ -30,10 +30,10 @@ std::size_t SplitPoint(std::string_view text) {
 }  // namespace
 
 struct TextLoader::Cut {
-    std::size_t length;   // characters of the line
-    std::size_t lineEnd;  // bytes of the line end after them; 0 when it was not read or there is none
+    std::size_t length;  // characters of the line
+    LineEnd end;         // after them; none, too, when it was not read
     bool tooLong;
-    LineEnd end;  // where it is kept
+    std::size_t size() const { return length + LengthOf(end); }
 };
 
 bool TextLoader::read(File& file) {
@@ -73,9 +73,12 @@ bool TextLoader::readLines() try {
             document_.truncated_ = true;
             return true;
         }
-        const std::optional<Cut> cut = wholeCut();
-        if (!cut) return false;
-        storeCut(*cut);
+        const Cut cut = nextCut();
+        if (!mayGoOn(cut)) {
+            storeCut(cut);
+        } else if (!refill()) {
+            return false;
+        }
     }
 } catch (const std::bad_alloc&) {
     return false;
@@ -116,26 +119,21 @@ void TextLoader::noteRead(const char* begin) {
 }
 
 // Among bytes, a CR before the line end belongs to the line.
-void TextLoader::noteLineEnd(const Cut& cut) {
-    if (cut.lineEnd == 0) return;
-    const bool isCrLf = cut.lineEnd == 2 || (bytes_ && cut.length > 0 && next_[cut.length - 1] == '\r');
+void TextLoader::noteLineEnd(Cut cut) {
+    if (cut.end == LineEnd::None) return;
+    const bool isCrLf = cut.end == LineEnd::CrLf || (bytes_ && cut.length > 0 && next_[cut.length - 1] == '\r');
     (isCrLf ? document_.disk_.lineEnds.crLf : document_.disk_.lineEnds.lf) = true;
 }
 
 // What goes to the end of what has been read may go on after it, and a CR there may belong to an LF.
-std::optional<TextLoader::Cut> TextLoader::wholeCut() {
-    Cut cut = nextCut();
-    while (!cut.tooLong && cut.length + cut.lineEnd == available() && !endOfFile_) {
-        if (!refill()) return std::nullopt;
-        cut = nextCut();
-    }
-    return cut;
+bool TextLoader::mayGoOn(Cut cut) const {
+    return cut.size() == available() && !cut.tooLong && !endOfFile_;
 }
 
 TextLoader::Cut TextLoader::nextCut() {
     if (!rules_.keepsLineEnds) return limitedCut();
     const CutLine line = cutter_.next();
-    return {line.length, BytesOf(line.end).size(), false, line.end};
+    return {line.length, line.end, false};
 }
 
 TextLoader::Cut TextLoader::limitedCut() const {
@@ -145,43 +143,43 @@ TextLoader::Cut TextLoader::limitedCut() const {
     std::size_t length = feed ? static_cast<std::size_t>(feed - next_) : available();
     const bool crBefore = feed && !bytes_ && length > 0 && next_[length - 1] == '\r';
     if (crBefore) --length;
-    if (length >= limit) return {limit, 0, true, LineEnd::None};
-    const std::size_t lineEnd = feed ? (crBefore ? 2 : 1) : 0;
-    return {length, lineEnd, length + (feed ? 1 : 0) >= limit, LineEnd::None};
+    if (length >= limit) return {limit, LineEnd::None, true};
+    if (!feed) return {length, LineEnd::None, false};
+    return {length, crBefore ? LineEnd::CrLf : LineEnd::Lf, length + 1 >= limit};
 }
 
-void TextLoader::storeCut(const Cut& cut) {
+void TextLoader::storeCut(Cut cut) {
     noteLineEnd(cut);
     if (cut.tooLong) {
         storeSplit(cut);
         return;
     }
     char* text = next_;
-    next_ += cut.length + cut.lineEnd;
-    if (rules_.keepsLineEnds) cutter_.take({cut.length, cut.end});
+    next_ += cut.size();
     text[cut.length] = '\0';
-    store(text, cut.length, cut.end);
+    LinePtr line(arena_.makeLine(text, cut.length));
+    if (rules_.keepsLineEnds) {
+        cutter_.take({cut.length, cut.end});
+        line->setEnd(cut.end);
+        tally_.add(cut.end);
+    }
+    store(std::move(line));
 }
 
 // The first part is copied, as its last character has no line end after it that a NUL could replace. The rest is
 // moved up over a line end that was read with it.
-void TextLoader::storeSplit(const Cut& cut) {
+void TextLoader::storeSplit(Cut cut) {
     document_.linesWrapped_ = true;
     const std::size_t split = SplitPoint({next_, cut.length});
     char* copy = arena_.allocateText(split + 1);
     std::memcpy(copy, next_, split);
     copy[split] = '\0';
-    std::memmove(next_ + split + cut.lineEnd, next_ + split, cut.length - split);
-    next_ += split + cut.lineEnd;
-    store(copy, split, LineEnd::None);
+    std::memmove(next_ + split + LengthOf(cut.end), next_ + split, cut.length - split);
+    next_ += split + LengthOf(cut.end);
+    store(LinePtr(arena_.makeLine(copy, split)));
 }
 
-void TextLoader::store(const char* text, std::size_t length, LineEnd end) {
-    LinePtr line(arena_.makeLine(text, length));
-    if (end != LineEnd::None) {
-        line->setEnd(end);
-        tally_.add(end);
-    }
+void TextLoader::store(LinePtr line) {
     document_.lines().put(std::move(line), lines_++);
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 
 #include "base/checksum.h"
 #include "base/file.h"
@@ -11,6 +10,7 @@
 #include "document/text/file_rules.h"
 #include "document/text/line_arena.h"
 #include "document/text/line_end.h"
+#include "document/text/text_line.h"
 
 namespace vexa {
 
@@ -40,14 +40,14 @@ class TextLoader {
     bool fail(TextId why);
     bool readLines();
     bool refill();
-    std::optional<Cut> wholeCut();
+    bool mayGoOn(Cut cut) const;
     Cut nextCut();
     Cut limitedCut() const;
-    void noteLineEnd(const Cut& cut);
+    void noteLineEnd(Cut cut);
     void noteRead(const char* begin);
-    void storeCut(const Cut& cut);
-    void storeSplit(const Cut& cut);
-    void store(const char* text, std::size_t length, LineEnd end);
+    void storeCut(Cut cut);
+    void storeSplit(Cut cut);
+    void store(LinePtr line);
     std::size_t available() const { return static_cast<std::size_t>(end_ - next_); }
 
     TextDocument& document_;
