@@ -238,5 +238,42 @@ TEST(Columns, AreCountedCharacterByCharacter) {
     }
 }
 
+// What a document remembers of a long line says the same as the line's text does now.
+void ExpectColumnsOfText(const ViewStage& stage) {
+    const TextDocument& document = stage.document;
+    const std::string_view text = document.text(LineIndex(0));
+    for (std::int32_t i = 0; i < 40'000; i += 97) {
+        ASSERT_EQ(document.toDisplay(LineIndex(0), CharColumn(i)), ToDisplay(text, CharColumn(i), document.tabSize()));
+        ASSERT_EQ(document.toCharacter(LineIndex(0), DisplayColumn(i)),
+                  ToCharacter(text, DisplayColumn(i), document.tabSize()));
+        ASSERT_EQ(RenderRow(document, LineIndex(0), DisplayColumn(i), 40).cells,
+                  VisibleCells(text, document.tabSize(), DisplayColumn(i), 40));
+    }
+}
+
+TEST(Columns, OfALongLineFollowEveryChange) {
+    std::string text(20'000, 'a');
+    for (std::size_t i = 0; i < text.size(); i += 1 + i % 11)
+        text[i] = '\t';
+    void (*const changes[])(ViewStage&) = {
+        [](ViewStage&) {},
+        [](ViewStage& s) { s.document.current().replace(CharColumn(9), '\t'); },
+        [](ViewStage& s) { s.document.current().insert(CharColumn(4000), 'x'); },
+        [](ViewStage& s) { s.document.current().erase(CharColumn(0)); },
+        [](ViewStage& s) { s.document.current().append(std::string(5000, '\t')); },
+        [](ViewStage& s) { s.document.current().replaceRun(CharColumn(6), 7000, "\tb"); },
+        [](ViewStage& s) { s.options.TabSize = 3; },
+        [](ViewStage& s) { s.document.current().truncate(CharColumn(5000)); },
+        [](ViewStage& s) { Put(s, 0, std::string(9000, '\t')); },
+        [](ViewStage& s) { Put(s, 0, std::string(9000, 'c')); },
+    };
+    ViewStage stage;
+    Put(stage, 0, text);
+    for (const auto change : changes) {
+        change(stage);
+        ExpectColumnsOfText(stage);
+    }
+}
+
 }  // namespace
 }  // namespace vexa::test

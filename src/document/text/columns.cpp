@@ -27,9 +27,10 @@ std::int32_t BeforeTab(std::string_view text, std::int32_t most) {
 
 }  // namespace
 
-DisplayColumn ToDisplay(std::string_view text, CharColumn column, std::int32_t tabSize) {
-    std::int32_t display = 0;
-    std::int32_t left = column.value;
+DisplayColumn ToDisplay(std::string_view text, CharColumn column, std::int32_t tabSize, ColumnMark from) {
+    std::int32_t display = from.display.value;
+    std::int32_t left = column - from.character;
+    text.remove_prefix(static_cast<std::size_t>(from.character.value));
     while (left > 0 && !text.empty()) {
         const std::int32_t plain = BeforeTab(text, left);
         display += plain;
@@ -43,10 +44,11 @@ DisplayColumn ToDisplay(std::string_view text, CharColumn column, std::int32_t t
     return DisplayColumn(display + left);
 }
 
-CharColumn ToCharacter(std::string_view text, DisplayColumn column, std::int32_t tabSize) {
+CharColumn ToCharacter(std::string_view text, DisplayColumn column, std::int32_t tabSize, ColumnMark from) {
     const std::int32_t target = std::max(column.value, 0);
-    std::int32_t display = 0;
-    std::int32_t index = 0;
+    std::int32_t display = from.display.value;
+    std::int32_t index = from.character.value;
+    text.remove_prefix(static_cast<std::size_t>(index));
     while (display < target && !text.empty()) {
         const std::int32_t plain = BeforeTab(text, target - display);
         display += plain;

@@ -15,10 +15,17 @@ constexpr std::int32_t UsableTabSize(std::int32_t tabSize) {
     return std::clamp(tabSize, 1, 1000);
 }
 
+// A character of a line and the screen column at which it begins.
+struct ColumnMark {
+    CharColumn character;
+    DisplayColumn display;
+};
+
+// Columns are counted from a mark that is not after the one asked for: without another one, from the line's beginning.
 // The screen column of the character at a column.
-DisplayColumn ToDisplay(std::string_view text, CharColumn column, std::int32_t tabSize);
+DisplayColumn ToDisplay(std::string_view text, CharColumn column, std::int32_t tabSize, ColumnMark from = {});
 // The character that covers a screen column.
-CharColumn ToCharacter(std::string_view text, DisplayColumn column, std::int32_t tabSize);
+CharColumn ToCharacter(std::string_view text, DisplayColumn column, std::int32_t tabSize, ColumnMark from = {});
 // The first character that begins at or after a screen column.
 CharColumn FirstCharacterFrom(std::string_view text, DisplayColumn column, std::int32_t tabSize);
 

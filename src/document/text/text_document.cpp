@@ -177,11 +177,18 @@ DisplayColumn TextDocument::displayColumn() const {
 }
 
 DisplayColumn TextDocument::toDisplay(LineIndex index, CharColumn column) const {
-    return ToDisplay(text(index), column, tabSize());
+    const TextLine* shown = line(index);
+    return shown ? ToDisplay(shown->text(), column, tabSize(), columnMarks_.before(*shown, column, tabSize()))
+                 : DisplayColumn(column.value);
 }
 
 CharColumn TextDocument::toCharacter(LineIndex index, DisplayColumn column) const {
-    return ToCharacter(text(index), column, tabSize());
+    return ToCharacter(text(index), column, tabSize(), markBefore(index, column));
+}
+
+ColumnMark TextDocument::markBefore(LineIndex index, DisplayColumn column) const {
+    const TextLine* shown = line(index);
+    return shown ? columnMarks_.before(*shown, column, tabSize()) : ColumnMark();
 }
 
 }  // namespace vexa

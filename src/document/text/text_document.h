@@ -12,6 +12,7 @@
 #include "base/strings.h"
 #include "base/units.h"
 #include "document/text/bookmarks.h"
+#include "document/text/column_marks.h"
 #include "document/text/disk_state.h"
 #include "document/text/dyn_array.h"
 #include "document/text/file_rules.h"
@@ -129,6 +130,8 @@ class TextDocument {
     std::int32_t tabSize() const;
     DisplayColumn toDisplay(LineIndex line, CharColumn column) const;
     CharColumn toCharacter(LineIndex line, DisplayColumn column) const;
+    // From where the columns of a line may be counted up to this one.
+    ColumnMark markBefore(LineIndex line, DisplayColumn column) const;
 
     // ---- marking and history ----
 
@@ -171,6 +174,7 @@ class TextDocument {
     mutable LineStates lineStates_{lines_, rules_.limits};  // fills itself in when it is asked
     UndoHistory history_;
     MarkedArea marked_;
+    mutable ColumnMarks columnMarks_;  // fills itself in when it is asked
     Bookmarks bookmarks_;
     BackupState backup_;
     LineIndex currentLine_;

@@ -59,6 +59,7 @@ std::size_t TextLine::capacity() const {
 char* TextLine::makeRoom(std::size_t length) {
     effect.isCurrent = false;
     isChanged_ = 1;
+    isMeasured_ = 0;
     if (ownsText_ && length <= capacity()) return const_cast<char*>(text_);
     const std::size_t first = std::max<std::size_t>(length, length_) + kReserve;
     char* text = NewText(ownsText_ ? std::max(first, capacity() * 2) : first);

@@ -58,6 +58,10 @@ class TextLine {
     // Whether a file that keeps its line ends has anything of this line.
     bool hasContents() const { return length_ != 0 || end_ != 0; }
 
+    // Whether the text is still that of which somebody has kept the columns.
+    bool isMeasured() const { return isMeasured_ != 0; }
+    void setMeasured() const { isMeasured_ = 1; }
+
     // What syntax colouring keeps with a line; any change of the text makes it old.
     LineEffect effect;
 
@@ -74,6 +78,7 @@ class TextLine {
     std::uint32_t ownsText_ : 1 = 0;
     std::uint32_t recordInArena_ : 1 = 0;
     std::uint32_t isChanged_ : 1 = 1;
+    mutable std::uint32_t isMeasured_ : 1 = 0;
 };
 
 // Ends a line's life; the memory of a record in an arena stays with the arena.

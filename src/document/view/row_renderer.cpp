@@ -101,16 +101,19 @@ ViewRow Render(const TextDocument& document, LineIndex line, DisplayColumn left,
     RowColours colours(columns, cell(marked.begin), cell(marked.end));
     if (highlighting && document.tokenRules()) LayTokens(document, line, left, colours);
     colours.upTo(columns, ColourElement::DefaultText);
-    return {VisibleCells(document.text(line), document.tabSize(), left, columns), colours.take()};
+    return {VisibleCells(document.text(line), document.tabSize(), left, columns, document.markBefore(line, left)),
+            colours.take()};
 }
 
 }  // namespace
 
-std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns) {
+std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns,
+                         ColumnMark from) {
     std::string cells;
-    const CharColumn first = ToCharacter(text, left, tabSize);
+    const CharColumn first = ToCharacter(text, left, tabSize, from);
     const bool isTab = text.substr(std::min(static_cast<std::size_t>(first.value), text.size())).starts_with('\t');
-    DisplayColumn column = isTab ? ToDisplay(text, first, tabSize) : left;  // any other character takes one column
+    DisplayColumn column =
+        isTab ? ToDisplay(text, first, tabSize, from) : left;  // any other character takes one column
     const DisplayColumn right = left + columns;
     for (auto i = static_cast<std::size_t>(first.value); i < text.size() && column < right; ++i) {
         const DisplayColumn begin = std::max(column, left);

@@ -31,7 +31,9 @@ struct ViewRow {
 };
 
 // The characters of a text in the cells of a window that shows that many columns from left on, tabs as blanks.
-std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns);
+// Columns are counted from a mark at or before left.
+std::string VisibleCells(std::string_view text, std::int32_t tabSize, DisplayColumn left, std::int32_t columns,
+                         ColumnMark from = {});
 
 // Display columns from begin up to end; none when they are equal.
 struct ColumnSpan {
