@@ -68,13 +68,17 @@ const char* LineTokenizer::endOfNumber(const char* start) const {
     return p;
 }
 
+bool LineTokenizer::endsAtMarker(const char* at) const {
+    return rules_.anyMarkerMatches(at, begin_, end_);
+}
+
 // The first character is a part of the token whatever it is.
 template <ByteClass part>
 const char* LineTokenizer::endOfRun(const char* start) const {
     for (const char* p = start + 1;; ++p) {
         while (p != end_ && (rules_.classOf(*p) & (part | kMarkerStart)) == part)
             ++p;
-        if (p == end_ || !(rules_.classOf(*p) & part) || rules_.anyMarkerMatches(p, begin_, end_)) return p;
+        if (p == end_ || !(rules_.classOf(*p) & part) || endsAtMarker(p)) return p;
     }
 }
 

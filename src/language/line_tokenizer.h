@@ -63,6 +63,7 @@ class LineTokenizer {
     const char* endOfString(const char* quote) const;
     const char* endOfPreprocessor(const char* start) const;
     const char* endOfNumber(const char* start) const;
+    bool endsAtMarker(const char* at) const;
     template <ByteClass part>
     const char* endOfRun(const char* start) const;
 
