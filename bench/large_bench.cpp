@@ -51,7 +51,7 @@ void TypeInLongLine(benchmark::State& state) {
         session.paint();
     }
 }
-BENCHMARK(TypeInLongLine)->Name("type_painted")->Arg(100)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(TypeInLongLine)->Name("type_painted/vexa")->Arg(100)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
 
 struct ThreeMillionLines {
     ThreeMillionLines() {
@@ -69,7 +69,7 @@ void LoadManyLines(benchmark::State& state) {
     for (auto _ : state)
         LargeSession("MANY.TXT");
 }
-BENCHMARK(LoadManyLines)->Name("load/3000000_lines")->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadManyLines)->Name("load/3000000_lines/vexa")->Unit(benchmark::kMillisecond);
 
 void KeyInManyLines(benchmark::State& state, KeyEvent key) {
     const ThreeMillionLines text;
@@ -94,9 +94,9 @@ void Register(const char* name, const KeyEvent& key) {
 
 int main(int argc, char** argv) {
     using namespace vexa;
-    bench::Register("page_painted/3000000_lines", {.key = kKeyPageDown});
-    bench::Register("end_painted/3000000_lines", {.key = kKeyEnd, .control = true});
-    bench::Register("enter_painted/3000000_lines", {.key = kKeyEnter});
+    bench::Register("page_painted/3000000_lines/vexa", {.key = kKeyPageDown});
+    bench::Register("end_painted/3000000_lines/vexa", {.key = kKeyEnd, .control = true});
+    bench::Register("enter_painted/3000000_lines/vexa", {.key = kKeyEnter});
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

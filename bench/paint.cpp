@@ -1,22 +1,30 @@
-// Measures how long a key takes until its text is painted, in the editor and in Wine's notepad, and scrolling by lines.
+// Measures how long a key takes until its text is painted.
 //
-// usage: paint VEXA.EXE TEXT.FILE
+// usage: paint text VEXA.EXE FILE          keys and scrolling by lines, in the editor and in Wine's notepad
+//        paint long_line VEXA.EXE FILE     keys in a very long line
+//        paint many_lines VEXA.EXE FILE    keys in a file of very many lines
+//
+// The editor is ended without being closed, so its folder must not be one that it was measured in before: there it
+// would offer what was typed.
 //
 // Each key is sent to the window, which is then made to paint at once; the clock runs from before the key to the end of
-// the painting. Prints lines "name milliseconds" of the median, the 95th percentile and the longest.
+// the painting. Prints lines "name milliseconds" of the median, the 95th percentile and the longest. Fails when a
+// character that was typed does not move the caret: it was not taken.
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
 
 constexpr int kKeys = 1000;
 constexpr int kKeysInALine = 50;
-constexpr DWORD kPatience = 20000;  // milliseconds
+constexpr int kLargeKeys = 200;
+constexpr DWORD kPatience = 60000;  // milliseconds
 
 struct Program {
     const char* name;
@@ -67,6 +75,34 @@ double TimeUntilPainted(HWND text, Act act) {
     return Milliseconds() - start;
 }
 
+void Key(HWND text, WPARAM key) {
+    SendMessageA(text, WM_KEYDOWN, key, 1);
+}
+
+// As a keyboard does it: a key that types nothing has the character after it dropped, up to the next key.
+void Type(HWND text, char character) {
+    Key(text, LOBYTE(VkKeyScanA(character)));
+    SendMessageA(text, WM_CHAR, static_cast<unsigned char>(character), 1);
+}
+
+RECT CaretOf(HWND text) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(text, nullptr), &info);
+    return info.rcCaret;
+}
+
+double TimeTyping(HWND text, char character) {
+    const RECT before = CaretOf(text);
+    const double time = TimeUntilPainted(text, [&] { Type(text, character); });
+    const RECT after = CaretOf(text);
+    if (EqualRect(&before, &after)) {
+        std::fprintf(stderr, "The character '%c' was not taken.\n", character);
+        std::exit(EXIT_FAILURE);
+    }
+    return time;
+}
+
 void Print(const std::string& name, std::vector<double> times) {
     std::sort(times.begin(), times.end());
     std::printf("paint/%s/median %.3f\n", name.c_str(), times[times.size() / 2]);
@@ -78,12 +114,10 @@ void MeasureKeys(const Program& program, HWND text) {
     std::vector<double> times;
     for (int i = 0; i < kKeys; ++i) {
         if (i % kKeysInALine == 0) {
-            SendMessageA(text, WM_KEYDOWN, VK_RETURN, 1);
-            SendMessageA(text, WM_CHAR, '\r', 1);
+            Type(text, '\r');
             RedrawWindow(text, nullptr, nullptr, RDW_UPDATENOW);
         }
-        times.push_back(
-            TimeUntilPainted(text, [&] { SendMessageA(text, WM_CHAR, static_cast<WPARAM>('a' + i % 26), 1); }));
+        times.push_back(TimeTyping(text, static_cast<char>('a' + i % 26)));
     }
     Print(std::string("key/") + program.name, times);
 }
@@ -98,14 +132,52 @@ void MeasureScrolling(const Program& program, HWND text) {
 
 // A comment that is opened on the first line takes in all text up to where the next one ends, and gives it back.
 void MeasureComment(HWND text) {
-    const auto key = [text](WPARAM character) { SendMessageA(text, WM_CHAR, character, 1); };
-    key('/');
-    std::printf("paint/comment_opened/vexa %.3f\n", TimeUntilPainted(text, [&] { key('*'); }));
-    std::printf("paint/comment_removed/vexa %.3f\n",
-                TimeUntilPainted(text, [&] { SendMessageA(text, WM_KEYDOWN, VK_BACK, 1); }));
+    Type(text, '/');
+    std::printf("paint/comment_opened/vexa %.3f\n", TimeTyping(text, '*'));
+    std::printf("paint/comment_removed/vexa %.3f\n", TimeUntilPainted(text, [&] { Key(text, VK_BACK); }));
 }
 
-bool Measure(const Program& program, std::string line) {
+void MeasureText(const Program& program, HWND text) {
+    if (&program == &kEditor) MeasureComment(text);
+    MeasureKeys(program, text);
+    MeasureScrolling(program, text);
+}
+
+void RepeatKey(const std::string& name, HWND text, WPARAM key) {
+    std::vector<double> times;
+    for (int i = 0; i < kLargeKeys; ++i)
+        times.push_back(TimeUntilPainted(text, [&] { Key(text, key); }));
+    Print(name + "/vexa", times);
+}
+
+void RepeatCharacter(const std::string& name, HWND text) {
+    std::vector<double> times;
+    for (int i = 0; i < kLargeKeys; ++i)
+        times.push_back(TimeTyping(text, 'x'));
+    Print(name + "/vexa", times);
+}
+
+void MeasureLongLine(const Program&, HWND text) {
+    RepeatCharacter("long_line/type_at_start", text);
+    Key(text, VK_END);
+    RepeatCharacter("long_line/type_at_end", text);
+    RepeatKey("long_line/left", text, VK_LEFT);
+    RepeatKey("long_line/backspace", text, VK_BACK);
+}
+
+// A third End goes to the end of the text.
+void MeasureManyLines(const Program&, HWND text) {
+    RepeatKey("many_lines/page_down", text, VK_NEXT);
+    RepeatKey("many_lines/enter", text, VK_RETURN);
+    for (int i = 0; i < 3; ++i)
+        Key(text, VK_END);
+    RepeatCharacter("many_lines/type_at_end", text);
+    RepeatKey("many_lines/page_up", text, VK_PRIOR);
+    RepeatKey("many_lines/enter_near_end", text, VK_RETURN);
+}
+
+bool Measure(const Program& program, const char* executable, const char* file, void (*work)(const Program&, HWND)) {
+    std::string line = std::string("\"") + executable + "\" \"" + file + "\"";
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
@@ -115,9 +187,7 @@ bool Measure(const Program& program, std::string line) {
     if (text) {
         WaitForInputIdle(process.hProcess, kPatience);
         RedrawWindow(text, nullptr, nullptr, RDW_UPDATENOW);
-        if (&program == &kEditor) MeasureComment(text);
-        MeasureKeys(program, text);
-        MeasureScrolling(program, text);
+        work(program, text);
     }
     TerminateProcess(process.hProcess, 0);
     CloseHandle(process.hThread);
@@ -128,9 +198,10 @@ bool Measure(const Program& program, std::string line) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return EXIT_FAILURE;
-    const std::string file = std::string(" \"") + argv[2] + "\"";
+    if (argc != 4) return EXIT_FAILURE;
+    const std::string_view what = argv[1];
+    const auto work = what == "text" ? MeasureText : what == "long_line" ? MeasureLongLine : MeasureManyLines;
     const bool measured =
-        Measure(kEditor, std::string("\"") + argv[1] + "\"" + file) && Measure(kNotepad, "notepad.exe" + file);
+        Measure(kEditor, argv[2], argv[3], work) && (what != "text" || Measure(kNotepad, "notepad.exe", argv[3], work));
     return measured ? EXIT_SUCCESS : EXIT_FAILURE;
 }

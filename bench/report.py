@@ -5,6 +5,7 @@ usage: report.py FOLDER    holds *.json of Google Benchmark, and *.txt with line
 """
 
 import json
+import re
 import sys
 from collections import defaultdict
 from pathlib import Path
@@ -18,10 +19,15 @@ BARS = [
     ("load/C/vexa", "load/C/lines", 2),
     ("load/C/vexa_kept", "load/C/vexa", 1.1),
     ("load_warm/C/vexa_kept", "load_warm/C/vexa", 1.1),
-    ("type_painted/1000000", 16e6, 1),
-    ("page_painted/3000000_lines", 16e6, 1),
-    ("end_painted/3000000_lines", 16e6, 1),
-    ("enter_painted/3000000_lines", 16e6, 1),
+    ("type_painted/1000000/vexa", 16e6, 1),
+    ("page_painted/3000000_lines/vexa", 16e6, 1),
+    ("end_painted/3000000_lines/vexa", 16e6, 1),
+    ("enter_painted/3000000_lines/vexa", 16e6, 1),
+    ("paint/long_line/type_at_start/vexa/percentile_95", 16, 1),
+    ("paint/long_line/type_at_end/vexa/percentile_95", 16, 1),
+    ("paint/many_lines/page_down/vexa/percentile_95", 16, 1),
+    ("paint/many_lines/page_up/vexa/percentile_95", 16, 1),
+    ("paint/many_lines/type_at_end/vexa/percentile_95", 16, 1),
     ("load/WIDE/vexa", "load/WIDE/qscintilla", 1),
     ("load/WIDE/vexa", "load/WIDE/lines", 2),
     ("load_warm/C/vexa", "load_warm/C/lines", 2),
@@ -104,12 +110,13 @@ def read_figures(folder):
         for run in json.loads(path.read_text())["benchmarks"]:
             if run.get("run_type") == "aggregate" or run.get("error_occurred"):
                 continue
-            clocked = run["name"].removesuffix("/real_time").removesuffix("/manual_time")
+            timed = re.sub(r"/iterations:\d+", "", run["name"])
+            clocked = timed.removesuffix("/real_time").removesuffix("/manual_time")
             name = figure_name(clocked)
             if "items_per_second" in run:
                 figures[name] = 1e9 / run["items_per_second"]
             else:
-                figures[name] = run["cpu_time" if clocked == run["name"] else "real_time"] * UNITS[run["time_unit"]]
+                figures[name] = run["cpu_time" if clocked == timed else "real_time"] * UNITS[run["time_unit"]]
             for counter in ("bytes_step", "bytes_line", "ns_hit"):
                 if counter in run:
                     figures[f"{counter}/{name}"] = run[counter]
