@@ -16,15 +16,10 @@ LineState StateAfter(const TokenRules& rules, std::string_view line, LineState s
 
 LineState LineEffect::after(const TokenRules& rules, std::string_view line, LineState start) {
     if (!isCurrent) *this = {.isCurrent = true};
-    if (start == LineState::Outside) {
-        if (afterOutside == LineState::Unknown) afterOutside = StateAfter(rules, line, start);
-        return afterOutside;
-    }
-    if (inside != start) {
-        inside = start;
-        afterInside = StateAfter(rules, line, start);
-    }
-    return afterInside;
+    if (const LineState end = known(start); end != LineState::Unknown) return end;
+    if (start == LineState::Outside) return afterOutside = StateAfter(rules, line, start);
+    inside = start;
+    return afterInside = StateAfter(rules, line, start);
 }
 
 bool LineEffect::refresh(const TokenRules& rules, std::string_view line) {

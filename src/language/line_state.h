@@ -53,6 +53,11 @@ struct LineEffect {
     LineState afterInside = LineState::Unknown;
     bool isCurrent = false;  // false: the text has changed since, and the rest is what the old text did
 
+    // Unknown when it has to be found out.
+    LineState known(LineState start) const {
+        if (start == LineState::Outside) return isCurrent ? afterOutside : LineState::Unknown;
+        return isCurrent && inside == start ? afterInside : LineState::Unknown;
+    }
     LineState after(const TokenRules& rules, std::string_view line, LineState start);
     // Takes in a changed text. True when, as far as anybody has asked, it does something else than the old one, or
     // nobody has asked.

@@ -46,7 +46,9 @@ std::string_view LineStates::colouredText(const TextLine& line) const {
 // A vacant slot is an empty line.
 LineState LineStates::after(std::int32_t index, LineState start) const {
     TextLine* line = lines_.occupied(index);
-    return line ? line->effect.after(*rules_, colouredText(*line), start) : StateAfter(*rules_, {}, start);
+    if (line == nullptr) return StateAfter(*rules_, {}, start);
+    const LineState known = line->effect.known(start);
+    return known != LineState::Unknown ? known : line->effect.after(*rules_, colouredText(*line), start);
 }
 
 void LineStates::addCheckpoint() {
