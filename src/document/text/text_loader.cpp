@@ -180,7 +180,7 @@ void TextLoader::storeSplit(Cut cut) {
 }
 
 void TextLoader::store(LinePtr line) {
-    document_.lines().put(std::move(line), lines_++);
+    if (!document_.lines().put(std::move(line), lines_++)) throw std::bad_alloc();
 }
 
 }  // namespace vexa
