@@ -111,7 +111,7 @@ void CommentsOfWholeText(benchmark::State& state) {
         state.ResumeTiming();
         benchmark::DoNotOptimize(session.document.startState(last));
     }
-    CountLines(state, static_cast<std::size_t>(last));
+    CountLines(state, static_cast<std::size_t>(last.value));
 }
 BENCHMARK(CommentsOfWholeText)->Name("comments/C/vexa")->Unit(benchmark::kMillisecond);
 
