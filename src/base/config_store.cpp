@@ -8,9 +8,16 @@ namespace vexa {
 
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr std::size_t kPathLimit = 255;
 constexpr std::size_t kGuardAndTerminator = 3;
 constexpr const char* kNoValue = "\n";  // what no value of the file can be
+
+// A value with a line end in it would put lines of its own into the file.
+std::string FirstLineOf(const std::string& value) {
+    return value.substr(0, value.find_first_of("\r\n\0"sv));
+}
 
 // Readers of a settings file take blanks around a value and one pair of quotes off; a further pair saves the text's
 // own.
@@ -29,11 +36,12 @@ std::string SettingsFileOf(const std::string& executable) {
 ConfigStore::ConfigStore(const std::string& settingsFile)
     : path_(settingsFile.substr(0, kPathLimit)), isReadable_(platform::ReadSetting(path_, "", "", "", 1).has_value()) {}
 
+// What is read can be written: it ends where that would end, whether the system goes on after a CR or a byte 0 or not.
 std::string ConfigStore::ReadString(const std::string& section, const std::string& key, const std::string& fallback,
                                     std::size_t size) const {
     const auto value = isReadable_ ? platform::ReadSetting(path_, section, key, fallback, size) : std::nullopt;
     if (!value) unreadSections_.push_back(section);
-    return value.value_or(fallback);
+    return FirstLineOf(value.value_or(fallback));
 }
 
 std::int32_t ConfigStore::ReadInt(const std::string& section, const std::string& key, std::int32_t fallback) const {
@@ -42,12 +50,10 @@ std::int32_t ConfigStore::ReadInt(const std::string& section, const std::string&
     return value.value_or(fallback);
 }
 
-// A value with a line end in it would put lines of its own into the file, so it ends there. Of two for one key the last
-// counts.
+// Of two values for one key the last counts.
 void ConfigStore::WriteString(const std::string& section, const std::string& key, const std::string& value) {
-    using namespace std::string_view_literals;
     const Batch batch(*this);
-    const std::string kept = value.substr(0, value.find_first_of("\r\n\0"sv));
+    const std::string kept = FirstLineOf(value);
     for (platform::Setting& other : collected_) {
         if (other.key == key && other.section == section) {
             other.value = kept;

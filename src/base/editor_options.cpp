@@ -57,8 +57,8 @@ void EditorOptions::Load(const ConfigStore& store) {
         else if (const auto* number = std::get_if<std::int32_t EditorOptions::*>(&option.member))
             this->** number = ReadValue(store, option.key, defaults.**number);
     }
-    Filter1 = store.ReadString(kOptionsSection, "Filter1", "", kFilterLimit + 1);
-    Filter2 = store.ReadString(kOptionsSection, "Filter2", "", kFilterLimit + 1);
+    Filter1 = store.ReadGuarded(kOptionsSection, "Filter1", "", kFilterLimit).substr(0, kFilterLimit);
+    Filter2 = store.ReadGuarded(kOptionsSection, "Filter2", "", kFilterLimit).substr(0, kFilterLimit);
     LastDirectoryUsed = store.ReadString(kHistorySection, kLastDirectoryKey, "", kLastDirectoryLimit + 1);
     habits.Load(store);
 }
@@ -68,8 +68,8 @@ void EditorOptions::Save(ConfigStore& store) {
         const auto write = [&](auto member) { store.WriteInt(kOptionsSection, option.key, this->*member); };
         std::visit(write, option.member);
     }
-    store.WriteString(kOptionsSection, "Filter1", Filter1);
-    store.WriteString(kOptionsSection, "Filter2", Filter2);
+    store.WriteGuarded(kOptionsSection, "Filter1", Filter1);
+    store.WriteGuarded(kOptionsSection, "Filter2", Filter2);
     // A directory that does not fit is not noted: cut short, its name would be that of another.
     if (std::string current = platform::CurrentDirectory(); current.size() <= kLastDirectoryLimit)
         LastDirectoryUsed = std::move(current);

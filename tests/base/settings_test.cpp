@@ -111,6 +111,8 @@ TEST_F(Settings, AMissingFileIsMadeAndAValueStaysOneLine) {
     store.WriteString("Main", "key", std::string("a\0b", 3));
     EXPECT_EQ(text("key"), "a");
     EXPECT_EQ(disk.get("VEXA.INI").find('\0'), std::string::npos);
+    disk.put("VEXA.INI", std::string("[Main]\r\nkey=c\0d\re\r\n", 20));
+    EXPECT_EQ(text("key"), "c");
     store.WriteString("Main", "key", "");
     EXPECT_EQ(text("key"), "");
     EXPECT_EQ(disk.count(), 1u) << "no file beside the settings file is left behind";
