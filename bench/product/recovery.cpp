@@ -4,8 +4,7 @@
 // than the 2 ms that a key may wait.
 //
 // usage: recovery BUILD FOLDER [ROOT]    FOLDER is a path as the editor has it, for the recovery files; on this
-// machine,
-//        in the folder ROOT as C:
+//        machine, in the folder ROOT as C:
 #include <algorithm>
 #include <chrono>
 #include <cstdio>

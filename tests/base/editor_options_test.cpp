@@ -71,7 +71,7 @@ TEST_F(Options, EveryFieldSurvivesARun) {
     options.WrapColumn = 72;
     options.TabSize = 8;
     options.BackupInterval = 15;
-    options.Filter1 = "*.c;*.h";
+    options.Filter1 = " \"*.c\"";
     options.Filter2 = "*.txt";
     options.Save(store);
     const EditorOptions again = loaded();
@@ -79,7 +79,7 @@ TEST_F(Options, EveryFieldSurvivesARun) {
     EXPECT_EQ(again.WrapColumn, 72);
     EXPECT_EQ(again.TabSize, 8);
     EXPECT_EQ(again.BackupInterval, 15);
-    EXPECT_EQ(again.Filter1, "*.c;*.h");
+    EXPECT_EQ(again.Filter1, " \"*.c\"");
     EXPECT_EQ(again.Filter2, "*.txt");
     EXPECT_EQ(again.LastDirectoryUsed, options.LastDirectoryUsed);
 }

@@ -31,7 +31,7 @@ std::size_t LineCutter::lengthBefore(char end, const char*& next) const {
 
 std::string_view LineCutter::take(const CutLine& line) {
     const std::string_view text = rest_.substr(0, line.length);
-    rest_.remove_prefix(line.length + BytesOf(line.end).size());
+    rest_.remove_prefix(line.length + LengthOf(line.end));
     return text;
 }
 

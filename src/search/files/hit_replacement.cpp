@@ -20,26 +20,30 @@ std::string HitReplacement::replace(const HitRows& rows, const std::string& text
     return told;
 }
 
-// The rows about one file stand together.
+// The first row after those that are about the same file; they stand together.
+std::size_t HitReplacement::endOfFile(std::size_t row, std::size_t end) const {
+    const std::string path = list_.pathOf(row);
+    do
+        ++row;
+    while (row < end && list_.hitOf(row) && list_.pathOf(row) == path);
+    return row;
+}
+
 std::size_t HitReplacement::filesIn(const HitRows& rows) const {
+    const std::size_t end = rows.first + rows.count;
     std::size_t files = 0;
-    std::string last;
-    for (std::size_t row = rows.first; row < rows.first + rows.count && files <= kMostFiles; ++row) {
-        if (!list_.hitOf(row)) continue;
-        std::string path = list_.pathOf(row);
-        if (path != last) ++files;
-        last = std::move(path);
+    for (std::size_t row = rows.first; row < end && files <= kMostFiles;) {
+        const bool isHit = list_.hitOf(row) != nullptr;
+        if (isHit) ++files;
+        row = isHit ? endOfFile(row, end) : row + 1;
     }
     return files;
 }
 
-// The first row after those about the same file. The last is done first, as replacements may have line ends,
-// which move the lines after them.
+// Gives the row after those of the file. The last is done first, as replacements may have line ends, which move the
+// lines after them.
 std::size_t HitReplacement::replaceInFile(std::size_t row, std::size_t end, const SearchOptions& options) {
-    const std::string path = list_.pathOf(row);
-    std::size_t next = row + 1;
-    while (next < end && list_.hitOf(next) && list_.pathOf(next) == path)
-        ++next;
+    const std::size_t next = endOfFile(row, end);
     EditView* const view = list_.open(row);
     if (!view) {
         passedOver_ += static_cast<std::int32_t>(next - row);

@@ -26,6 +26,7 @@ class HitReplacement {
     std::string replace(const HitRows& rows, const std::string& text);
 
   private:
+    std::size_t endOfFile(std::size_t row, std::size_t end) const;
     std::size_t filesIn(const HitRows& rows) const;
     std::size_t replaceInFile(std::size_t row, std::size_t end, const SearchOptions& options);
     bool replaceInLine(EditView& view, LineSearch& search, const HitList::Hit& hit);
