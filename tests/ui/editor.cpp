@@ -266,8 +266,7 @@ void Editor::settle() const {
 void Editor::dragWithAlt(POINT from, POINT to) const {
     const DWORD thread = GetWindowThreadProcessId(frame_, nullptr);
     BYTE keys[256];
-    settle();
-    moveMouse(from, 0);
+    rest(from);
     AttachThreadInput(GetCurrentThreadId(), thread, TRUE);
     GetKeyboardState(keys);
     keys[VK_MENU] = 0x80;
@@ -277,7 +276,7 @@ void Editor::dragWithAlt(POINT from, POINT to) const {
     keys[VK_MENU] = 0;
     SetKeyboardState(keys);
     AttachThreadInput(GetCurrentThreadId(), thread, FALSE);
-    moveMouse(to, 0);
+    rest(to);
     moveMouse(to, MOUSEEVENTF_LEFTUP);
 }
 
@@ -296,11 +295,27 @@ void Editor::moveMouse(POINT place, DWORD flags, DWORD time) const {
 
 bool Editor::pointUntil(POINT place, const std::function<bool()>& condition) const {
     return WaitUntil([&] {
-        POINT now{};
-        GetCursorPos(&now);
-        ScreenToClient(activePane(), &now);
-        if (now.x != place.x || now.y != place.y) moveMouse(place, 0);
+        if (!isAt(place)) moveMouse(place, 0);
         return condition();
+    });
+}
+
+bool Editor::isAt(POINT place) const {
+    POINT now{};
+    GetCursorPos(&now);
+    ScreenToClient(activePane(), &now);
+    return now.x == place.x && now.y == place.y;
+}
+
+void Editor::rest(POINT place) const {
+    constexpr int kLooks = 3;
+    int looks = 0;
+    settle();
+    moveMouse(place, 0);
+    pointUntil(place, [&] {
+        AwaitDisplaysNews();
+        looks = isAt(place) ? looks + 1 : 0;
+        return looks == kLooks;
     });
 }
 
@@ -312,8 +327,7 @@ void Editor::click(POINT place) const {
 }
 
 void Editor::clickTimes(POINT place, int times) const {
-    settle();
-    moveMouse(place, 0);
+    rest(place);
     const DWORD now = GetTickCount();
     for (int i = 0; i < times; ++i) {
         moveMouse(place, MOUSEEVENTF_LEFTDOWN, now);
@@ -330,17 +344,17 @@ void Editor::tripleClick(POINT place) const {
 }
 
 void Editor::rightClick(POINT place) const {
-    settle();
+    rest(place);
     moveMouse(place, MOUSEEVENTF_RIGHTDOWN);
     moveMouse(place, MOUSEEVENTF_RIGHTUP);
 }
 
 bool Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& condition) const {
-    settle();
-    moveMouse(places.front(), 0);
+    rest(places.front());
     moveMouse(places.front(), MOUSEEVENTF_LEFTDOWN);
     for (const POINT place : places)
         moveMouse(place, 0);
+    rest(places.back());
     const bool holds = !condition || pointUntil(places.back(), condition);
     moveMouse(places.back(), MOUSEEVENTF_LEFTUP);
     return holds;

@@ -94,8 +94,7 @@ class Editor {
     void doubleClick(POINT place) const;
     void tripleClick(POINT place) const;
     void rightClick(POINT place) const;
-    // Moves the mouse to a place of the active pane, and back there while it waits until the condition holds: late news
-    // of where the display's mouse was before makes it jump.
+    // Moves the mouse to a place of the active pane, and back there while it waits until the condition holds.
     bool pointUntil(POINT place, const std::function<bool()>& condition) const;
     // The button is held at the last place until the condition holds; false when it never does.
     bool drag(const std::vector<POINT>& places, const std::function<bool()>& condition = nullptr) const;
@@ -122,6 +121,9 @@ class Editor {
     // Waits, before the mouse is first used, until the active pane has stood still for some looks: the first layout may
     // come late.
     void settle() const;
+    // Moves the mouse to a place of the active pane where it stays.
+    void rest(POINT place) const;
+    bool isAt(POINT place) const;
     // The window that has caught the mouse; null when none has.
     HWND capture() const;
     // A place of the active pane; the flags say which button goes up or down there, and when, for none now.

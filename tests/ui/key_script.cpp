@@ -96,20 +96,6 @@ void PressChord(KeyQueue& queue, std::string_view chord) {
         queue.release(key);
 }
 
-// Whenever a window gets the focus or the mouse, Wine takes the keys' state from the display, which knows nothing of
-// keys that are pressed here: Shift, Ctrl or Alt would go up in the middle of a chord. What there is to take must have
-// been taken before, so the window in front and the desktop have to look at the display's news time and again.
-void AwaitDisplaysNews() {
-    constexpr int kRounds = 6;
-    const HDC screen = GetDC(nullptr);
-    for (int i = 0; i < kRounds; ++i) {
-        for (const HWND window : {GetForegroundWindow(), GetDesktopWindow()})
-            SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, nullptr);
-        GetPixel(screen, 0, 0);  // answered by the display after what it was asked before
-    }
-    ReleaseDC(nullptr, screen);
-}
-
 }  // namespace
 
 INPUT KeyInput(WORD key, DWORD flags) {
