@@ -66,13 +66,6 @@ function(vexa_small name)
   endif()
 endfunction()
 
-# The same for single files of a library that is fast elsewhere.
-function(vexa_small_sources)
-  if(WIN32)
-    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "${vexa_small_options}")
-  endif()
-endfunction()
-
 # Makes the program's unwind table smaller once it is linked. Its symbols, which would move, are left out.
 function(vexa_share_unwind_heads name)
   if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
@@ -83,9 +76,13 @@ function(vexa_share_unwind_heads name)
   endif()
 endfunction()
 
-# One library a folder of src/. The libraries named after DEPENDS are the folders below it, the only ones it may include.
+# One library a folder of src/; the sources after SMALL are compiled in the fewest bytes. The libraries named after DEPENDS
+# are the folders below it, the only ones it may include.
 function(vexa_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
-  add_library(${name} STATIC ${ARG_SOURCES})
+  cmake_parse_arguments(ARG "" "" "SOURCES;SMALL;DEPENDS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES} ${ARG_SMALL})
+  if(WIN32 AND ARG_SMALL)
+    set_source_files_properties(${ARG_SMALL} PROPERTIES COMPILE_OPTIONS "${vexa_small_options}")
+  endif()
   target_link_libraries(${name} PUBLIC vexa_compile ${ARG_DEPENDS})
 endfunction()
