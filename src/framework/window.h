@@ -117,7 +117,7 @@ class WindowCL {
 
     virtual bool onMousePress(const MouseButtonMessage& /*press*/) { return false; }
     virtual bool onMouseMove(POINT /*place*/) { return false; }
-    virtual bool onMouseRelease() { return false; }
+    virtual bool onMouseRelease(POINT /*place*/) { return false; }  // after a move to that place
     virtual bool onCaptureLost() { return false; }
     virtual bool onWheel(const WheelMessage& /*turn*/) { return false; }
     virtual bool onContextMenu(std::optional<POINT> /*screenPlace*/) { return false; }

@@ -132,7 +132,12 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_LBUTTONDOWN, [](WindowCL& w, Message& m) { return w.onMousePress(ReadButton(m)); }},
     {WM_LBUTTONDBLCLK, [](WindowCL& w, Message& m) { return w.onMousePress(ReadButton(m)); }},
     {WM_MOUSEMOVE, [](WindowCL& w, Message& m) { return w.onMouseMove(ReadPlace(m)); }},
-    {WM_LBUTTONUP, [](WindowCL& w, Message&) { return w.onMouseRelease(); }},
+    {WM_LBUTTONUP,
+     [](WindowCL& w, Message& m) {
+         // A quick mouse is let go where no move has told of.
+         w.onMouseMove(ReadPlace(m));
+         return w.onMouseRelease(ReadPlace(m));
+     }},
     {WM_CAPTURECHANGED, [](WindowCL& w, Message&) { return w.onCaptureLost(); }},
     {WM_MOUSEWHEEL, [](WindowCL& w, Message& m) { return w.onWheel(ReadWheel(m, WheelAxis::Vertical)); }},
     {kHorizontalWheelMessage, [](WindowCL& w, Message& m) { return w.onWheel(ReadWheel(m, WheelAxis::Horizontal)); }},

@@ -137,6 +137,16 @@ bool Drag(Stage& stage, StepWords words) {
     return true;
 }
 
+// The release alone tells where the mouse went to.
+bool FlickMouse(Stage& stage, StepWords words) {
+    const auto place = [&words, &stage] {
+        const POINT pixel = words.pixel(stage);
+        return MAKELPARAM(pixel.x, pixel.y);
+    };
+    PostMessageA(stage.editor->activePane(), WM_LBUTTONDOWN, MK_LBUTTON, place());
+    return PostMessageA(stage.editor->activePane(), WM_LBUTTONUP, 0, place());
+}
+
 bool DragWithAlt(Stage& stage, StepWords words) {
     const POINT from = words.pixel(stage);
     stage.editor->dragWithAlt(from, words.pixel(stage));
@@ -205,6 +215,7 @@ const std::map<std::string, Run> kSteps = {
     {"mouse-triple", [](Stage& s, StepWords w) { return s.editor->tripleClick(w.pixel(s)), true; }},
     {"mouse-right", [](Stage& s, StepWords w) { return s.editor->rightClick(w.pixel(s)), true; }},
     {"mouse-drag", &Drag},
+    {"mouse-flick", &FlickMouse},
     {"mouse-column", &DragWithAlt},
     {"wheel", &TurnWheel},
     {"scroll", &Scroll},

@@ -203,7 +203,7 @@ bool PaneWindowCL::onTimer(UINT_PTR /*timer*/) {
     return true;
 }
 
-bool PaneWindowCL::onMouseRelease() {
+bool PaneWindowCL::onMouseRelease(POINT /*place*/) {
     endDrag();
     return true;
 }

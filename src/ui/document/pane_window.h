@@ -48,7 +48,7 @@ class PaneWindowCL : public RowPane {
     bool onSystemCharacter(unsigned char character) override;
     bool onMousePress(const MouseButtonMessage& press) override;
     bool onMouseMove(POINT place) override;
-    bool onMouseRelease() override;
+    bool onMouseRelease(POINT place) override;
     bool onCaptureLost() override;
     bool onTimer(UINT_PTR timer) override;
     bool onContextMenu(std::optional<POINT> screenPlace) override;

@@ -154,7 +154,7 @@ bool TabStripCL::onMouseMove(POINT place) {
     return true;
 }
 
-bool TabStripCL::onMouseRelease() {
+bool TabStripCL::onMouseRelease(POINT /*place*/) {
     if (dragged_) ReleaseCapture();
     return true;
 }

@@ -49,7 +49,7 @@ class TabStripCL : public WindowCL {
     bool onEraseBackground(HDC /*dc*/) override { return true; }
     bool onMousePress(const MouseButtonMessage& press) override;
     bool onMouseMove(POINT place) override;
-    bool onMouseRelease() override;
+    bool onMouseRelease(POINT place) override;
     bool onCaptureLost() override;
     bool onWheel(const WheelMessage& turn) override;
     bool onContextMenu(std::optional<POINT> screenPlace) override;

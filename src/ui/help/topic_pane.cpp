@@ -325,12 +325,9 @@ bool TopicPane::onMouseMove(POINT place) {
     return isSelecting_;
 }
 
-bool TopicPane::onMouseRelease() {
+bool TopicPane::onMouseRelease(POINT place) {
     if (!isSelecting_) return false;
     ReleaseCapture();
-    POINT place{};
-    GetCursorPos(&place);
-    ScreenToClient(window(), &place);
     const std::optional<int> pressed = std::exchange(pressedLink_, std::nullopt);
     const bool isClick = pressed && linkAt(place) == pressed && anchor_ == caret_;
     if (isClick) followLink(*pressed);

@@ -61,7 +61,7 @@ class TopicPane : public WindowCL {
     bool onSystemCharacter(unsigned char character) override { return host_.useMnemonic(character); }
     bool onMousePress(const MouseButtonMessage& press) override;
     bool onMouseMove(POINT place) override;
-    bool onMouseRelease() override;
+    bool onMouseRelease(POINT place) override;
     bool onCaptureLost() override;
     bool onWheel(const WheelMessage& turn) override;
     bool onScroll(int bar, UINT request) override;

@@ -122,7 +122,7 @@ bool ListPane::onMouseMove(POINT place) {
     return true;
 }
 
-bool ListPane::onMouseRelease() {
+bool ListPane::onMouseRelease(POINT /*place*/) {
     if (GetCapture() == window()) ReleaseCapture();
     return true;
 }

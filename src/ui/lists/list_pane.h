@@ -28,7 +28,7 @@ class ListPane : public RowPane {
     bool onKey(const KeyMessage& key) override;
     bool onMousePress(const MouseButtonMessage& press) override;
     bool onMouseMove(POINT place) override;
-    bool onMouseRelease() override;
+    bool onMouseRelease(POINT place) override;
     bool onContextMenu(std::optional<POINT> screenPosition) override;
 
   private:
