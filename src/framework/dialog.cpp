@@ -123,6 +123,16 @@ INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM lParam) {
 void DialogFrameCL::open() {
     placeAtOpening();
     onOpen();
+    unmarkOtherCombos();
+}
+
+// The system marks the text of each combo box that is filled, and shows that also where the focus is not.
+void DialogFrameCL::unmarkOtherCombos() {
+    const HWND chosen = GetFocus();
+    const HWND focus = IsChild(window_, chosen) ? chosen : GetNextDlgTabItem(window_, nullptr, FALSE);
+    for (HWND child = GetWindow(window_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (child != focus && !IsChild(child, focus)) SendMessageA(child, CB_SETEDITSEL, 0, 0);
+    }
 }
 
 void DialogFrameCL::command(int id, UINT notification) {

@@ -80,6 +80,7 @@ class DialogFrameCL {
     void open();
     void command(int id, UINT notification);
     void placeAtOpening();
+    void unmarkOtherCombos();
     void keepPlace();
 
     const int resource_;

@@ -155,6 +155,8 @@ const std::map<std::string, Run> kSteps = {
     {"enabled", [](Stage& s, StepWords w) -> bool { return IsWindowEnabled(w.control(s)); }},
     {"disabled", [](Stage& s, StepWords w) { return !IsWindowEnabled(w.control(s)); }},
     {"focused", &HasFocus},
+    {"marked", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), CB_GETEDITSEL, 0, 0) != 0; }},
+    {"unmarked", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), CB_GETEDITSEL, 0, 0) == 0; }},
     {"rows", [](Stage& s, StepWords w) { return RowsOf(w.control(s)) == w.number(); }},
     {"row", &HasRow},
     {"chosen", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), LB_GETCURSEL, 0, 0) == w.number(); }},
