@@ -1,4 +1,8 @@
 // What the steps of a case do.
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -97,6 +101,21 @@ bool PressTab(Stage& stage, StepWords words) {
     PostMessageA(stage.tabs(), isMiddle ? WM_MBUTTONDOWN : WM_LBUTTONDOWN, MK_LBUTTON, from);
     PostMessageA(stage.tabs(), WM_MOUSEMOVE, MK_LBUTTON, to);
     return PostMessageA(stage.tabs(), isMiddle ? WM_MBUTTONUP : WM_LBUTTONUP, 0, to);
+}
+
+bool IsTipShown(const std::string& text) {
+    HWND tip = nullptr;
+    while ((tip = FindWindowExA(nullptr, tip, TOOLTIPS_CLASSA, nullptr)) != nullptr) {
+        if (IsWindowVisible(tip) && TextOf(tip) == text) return true;
+    }
+    return false;
+}
+
+// The mouse stands still where it has come to at once.
+bool PointToTab(Stage& stage, StepWords words) {
+    POINT tab{words.number(), 8};
+    MapWindowPoints(stage.tabs(), stage.editor->activePane(), &tab, 1);
+    return stage.editor->pointUntil(tab, [&] { return IsTipShown(words.rest()); });
 }
 
 bool AskForTitleMenu(Stage& stage, StepWords) {
@@ -206,6 +225,7 @@ const std::map<std::string, Run> kSteps = {
     {"command", &Command},
     {"click-pane", &PressPane},
     {"press-tab", &PressTab},
+    {"point-to-tab", &PointToTab},
     {"title-menu", &AskForTitleMenu},
     {"click", [](Stage& s, StepWords w) -> bool { return PostMessageA(w.control(s), BM_CLICK, 0, 0); }},
     {"click-label", &ClickLabel},

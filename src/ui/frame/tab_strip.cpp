@@ -203,6 +203,9 @@ void TabStripCL::showTipOf(std::optional<std::size_t> index) {
     tool.rect = {left, 0, right, clientArea().bottom};
     tool.lpszText = labels_[*index].tip.data();
     SendMessageA(tip_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    // The tip hears by itself of later moves alone, and the mouse may stand still from now on.
+    MSG move{window(), WM_MOUSEMOVE, 0, MAKELPARAM(left, 0), 0, {}};
+    SendMessageA(tip_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&move));
 }
 
 }  // namespace vexa
