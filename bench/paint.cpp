@@ -3,6 +3,8 @@
 // usage: paint text VEXA.EXE FILE          keys and scrolling by lines, in the editor and in Wine's notepad
 //        paint long_line VEXA.EXE FILE     keys in a very long line
 //        paint many_lines VEXA.EXE FILE    keys in a file of very many lines
+//        paint hits VEXA.EXE FILE          keys in the lists of searches in files; beside FILE are the folders 10, 1000
+//                                          and 100000, with as many lines that have the word "needle"
 //
 // The editor is ended without being closed, so its folder must not be one that it was measured in before: there it
 // would offer what was typed.
@@ -19,11 +21,15 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/command_id.h"
+#include "ui/resources/dialog_controls.h"
+
 namespace {
 
 constexpr int kKeys = 1000;
 constexpr int kKeysInALine = 50;
 constexpr int kLargeKeys = 200;
+constexpr int kListTurns = 60;
 constexpr DWORD kPatience = 60000;  // milliseconds
 
 struct Program {
@@ -47,15 +53,28 @@ BOOL CALLBACK Look(HWND child, LPARAM parameter) {
     return search.found == nullptr;
 }
 
-HWND FindTextWindow(const Program& program) {
+HWND FindInside(HWND parent, const char* className) {
+    Search search = {className, nullptr};
+    if (parent) EnumChildWindows(parent, &Look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+template <class Condition>
+bool WaitUntil(Condition condition) {
     for (DWORD waited = 0; waited < kPatience; waited += 50) {
-        Search search = {program.textClass, nullptr};
-        const HWND frame = FindWindowA(program.frameClass, nullptr);
-        if (frame) EnumChildWindows(frame, &Look, reinterpret_cast<LPARAM>(&search));
-        if (search.found && IsWindowVisible(search.found)) return search.found;
+        if (condition()) return true;
         Sleep(50);
     }
-    return nullptr;
+    return false;
+}
+
+HWND FindTextWindow(const Program& program) {
+    HWND found = nullptr;
+    const auto isThere = [&] {
+        found = FindInside(FindWindowA(program.frameClass, nullptr), program.textClass);
+        return found && IsWindowVisible(found);
+    };
+    return WaitUntil(isThere) ? found : nullptr;
 }
 
 double Milliseconds() {
@@ -70,7 +89,7 @@ template <class Act>
 double TimeUntilPainted(HWND text, Act act) {
     const double start = Milliseconds();
     act();
-    RedrawWindow(text, nullptr, nullptr, RDW_UPDATENOW);
+    RedrawWindow(text, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     SendMessageA(text, WM_NULL, 0, 0);  // answered when a painting that had begun by itself is over
     return Milliseconds() - start;
 }
@@ -176,6 +195,61 @@ void MeasureManyLines(const Program&, HWND text) {
     RepeatKey("many_lines/enter_near_end", text, VK_RETURN);
 }
 
+// ---- lists of hits -----------------------------------------------------------------------------------------------
+
+std::string TextOf(HWND window) {
+    char text[500] = "";
+    SendMessageA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+void Command(HWND window, vexa::CommandId command) {
+    SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
+}
+
+void SearchFolder(HWND frame, const std::string& hits) {
+    HWND dialog = nullptr;
+    PostMessageA(frame, WM_COMMAND, static_cast<WPARAM>(vexa::CommandId::FindInFiles), 0);
+    WaitUntil([&] { return (dialog = FindWindowA("#32770", "Find in Files")) != nullptr; });
+    const HWND folder = GetDlgItem(dialog, IDC_SEARCHED_FOLDER);
+    static const std::string beside = TextOf(folder);
+    SendMessageA(folder, WM_SETTEXT, 0, reinterpret_cast<LPARAM>((beside + "\\" + hits).c_str()));
+    SetDlgItemTextA(dialog, IDC_FIND_TEXT, "needle");
+    SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+    const HWND status = FindInside(FindInside(frame, "StatusBarCL"), "CtrlWindowCL");
+    const std::string end = "completed. " + hits + " lines";
+    if (WaitUntil([&] { return TextOf(status).find(end) != std::string::npos; })) return;
+    std::fprintf(stderr, "%s hits were not found: %s\n", hits.c_str(), TextOf(status).c_str());
+    std::exit(EXIT_FAILURE);
+}
+
+// In turns with a preparation that is not measured.
+template <class Prepare, class Act>
+void MeasureTurns(const std::string& name, HWND window, Prepare prepare, Act act) {
+    std::vector<double> times;
+    for (int i = 0; i < kListTurns; ++i) {
+        TimeUntilPainted(window, prepare);
+        times.push_back(TimeUntilPainted(window, act));
+    }
+    Print("hits/" + name, times);
+}
+
+void MeasureList(HWND frame, const std::string& hits) {
+    SearchFolder(frame, hits);
+    const HWND list = FindInside(frame, "ListPaneCL");
+    const auto home = [&] { Key(list, VK_HOME); };
+    const auto end = [&] { Key(list, VK_END); };
+    MeasureTurns("end/" + hits, frame, home, end);
+    MeasureTurns("page_up/" + hits, frame, end, [&] { Key(list, VK_PRIOR); });
+    MeasureTurns("open_last/" + hits, frame, end, [&] { Command(frame, vexa::CommandId::PreviousError); });
+    MeasureTurns("open_first/" + hits, frame, home, [&] { Command(frame, vexa::CommandId::NextError); });
+}
+
+void MeasureHits(const Program&, HWND text) {
+    for (const char* hits : {"10", "1000", "100000"})
+        MeasureList(GetAncestor(text, GA_ROOT), hits);
+}
+
 bool Measure(const Program& program, const char* executable, const char* file, void (*work)(const Program&, HWND)) {
     std::string line = std::string("\"") + executable + "\" \"" + file + "\"";
     STARTUPINFOA startup{};
@@ -200,7 +274,10 @@ bool Measure(const Program& program, const char* executable, const char* file, v
 int main(int argc, char** argv) {
     if (argc != 4) return EXIT_FAILURE;
     const std::string_view what = argv[1];
-    const auto work = what == "text" ? MeasureText : what == "long_line" ? MeasureLongLine : MeasureManyLines;
+    const auto work = what == "text"        ? MeasureText
+                      : what == "long_line" ? MeasureLongLine
+                      : what == "hits"      ? MeasureHits
+                                            : MeasureManyLines;
     const bool measured =
         Measure(kEditor, argv[2], argv[3], work) && (what != "text" || Measure(kNotepad, "notepad.exe", argv[3], work));
     return measured ? EXIT_SUCCESS : EXIT_FAILURE;
