@@ -42,6 +42,9 @@ std::string FillText(std::string_view format, std::initializer_list<std::string_
         if (next == "%s" || next == "%d") {
             if (argument != arguments.end()) filled += *argument++;
             ++i;
+        } else if (next == "%p") {
+            if (argument == arguments.begin() || argument[-1] != "1") filled += 's';
+            ++i;
         } else if (next == "%%") {
             filled += next;
             ++i;

@@ -26,8 +26,9 @@ enum class TextId : std::uint16_t {
 // The text of a row, with a NUL behind it; empty for a number that no row has.
 std::string_view LoadText(TextId id);
 
-// The format with each "%s" or "%d", in turn, replaced by the next argument, as it is. A placeholder without an
-// argument stays empty; "%%" and any other character stay as they are.
+// The format with each "%s" or "%d", in turn, replaced by the next argument, as it is, and each "%p" by the
+// "s" of a plural, unless the argument before it is "1". A placeholder without an argument stays empty; "%%" and any
+// other character stay as they are.
 std::string FillText(std::string_view format, std::initializer_list<std::string_view> arguments);
 
 // LoadText and FillText in one.

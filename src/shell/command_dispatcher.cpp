@@ -6,7 +6,7 @@ namespace vexa {
 namespace {
 
 bool AsksForFile(CommandNeed need) {
-    return need == CommandNeed::Document || need == CommandNeed::EditArea;
+    return need >= CommandNeed::AnyDocument;
 }
 
 }  // namespace

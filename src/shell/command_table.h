@@ -13,9 +13,10 @@ namespace vexa {
 // What must be there before a command can run.
 enum class CommandNeed : std::uint8_t {
     Nothing,
-    Window,    // some window inside the frame
-    Document,  // the active window shows a document
-    EditArea,  // the active window takes editing commands or can be searched: a document, or a list of output lines
+    Window,       // some window inside the frame
+    AnyDocument,  // some window that shows a document
+    Document,     // the active window shows a document
+    EditArea,     // the active window takes editing commands or can be searched: a document, or a list of output lines
 };
 
 // How a command that runs while a macro is recorded becomes a step of it.

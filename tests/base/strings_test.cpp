@@ -19,6 +19,7 @@ TEST(Strings, PlacesAreFilledInTurn) {
     EXPECT_EQ(FillText("%s%s", {"%s", "2"}), "%s2") << "what fills a place is not filled again";
     EXPECT_EQ(FillText("%s-%s", {"1"}), "1-");
     EXPECT_EQ(FillText("none", {"1", "2"}), "none");
+    EXPECT_EQ(FillText("%d line%p of %d file%p", {"1", "11"}), "1 line of 11 files");
     EXPECT_EQ(FillText("100%% %x %%s 5%", {"z"}), "100%% %x %%s 5%");
     EXPECT_EQ(FillText(TextId::UnexpectedError, {"VEXA", "12"}), "Unexpected Vexa error at File: VEXA Line: 12");
 }

@@ -55,6 +55,7 @@ FrameCommands::FrameCommands(OpenDocuments& documents, Application& application,
 
 bool FrameCommands::isMet(CommandNeed need) const {
     if (need == CommandNeed::Window) return !documents_.frame().children().empty();
+    if (need == CommandNeed::AnyDocument) return !documents_.openDocuments().empty();
     return documents_.active() || (need == CommandNeed::EditArea && documents_.activeList());
 }
 
