@@ -1,6 +1,7 @@
 #include "framework/mdi_frame.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/drawing_pause.h"
 
@@ -93,6 +94,12 @@ bool MDIframeCL::openAs(MDIchildCL& child, const WindowClass& windowClass, const
     if (!child.open(windowClass, title)) return false;
     SendMessageA(client_, WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(child.window()), 0);
     return true;
+}
+
+void MDIframeCL::moveChild(std::size_t from, std::size_t to) {
+    auto moved = std::move(children_[from]);
+    children_.erase(children_.begin() + static_cast<std::ptrdiff_t>(from));
+    children_.insert(children_.begin() + static_cast<std::ptrdiff_t>(to), std::move(moved));
 }
 
 std::vector<MDIchildCL*> MDIframeCL::childrenByUse() const {

@@ -14,7 +14,7 @@ enum class ChildShow { Normal, Minimised, Maximised, Tiled };
 
 enum class Arrangement { Cascade, Tile, TileVertically, TileHorizontally, Icons };
 
-// Owns its child windows. They keep the order in which they were opened.
+// Owns its child windows, in the order in which they were opened and then moved.
 class MDIframeCL : public AppFrameCL {
   public:
     bool translate(MSG& message) override;
@@ -30,6 +30,8 @@ class MDIframeCL : public AppFrameCL {
     // Opens the child's window and takes the child over. False, and the child is gone, when the system refuses.
     bool adopt(std::unique_ptr<MDIchildCL> child, const WindowClass& windowClass, const std::string& title,
                ChildShow show);
+    // Gives a child another one's position among the children.
+    void moveChild(std::size_t from, std::size_t to);
     // The children, the one used last first.
     std::vector<MDIchildCL*> childrenByUse() const;
     // Asks each child whether it may be closed, up to the first that refuses; all stay open.

@@ -1,5 +1,8 @@
 #include "ui/frame/document_tabs.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "ui/frame/open_documents.h"
 
 namespace vexa {
@@ -15,30 +18,27 @@ TabLabel LabelOf(MDIchildCL& child) {
 
 }  // namespace
 
-MDIchildCL* DocumentTabs::childOf(TabOrder::Key key) const {
+const MDIchildCL* DocumentTabs::childOf(UseOrder::Key key) const {
     for (const auto& child : frame_.children()) {
         if (child.get() == key) return child.get();
     }
     return nullptr;
 }
 
-MDIchildCL* DocumentTabs::childAt(std::size_t index) const {
-    return index < order_.keys().size() ? childOf(order_.keys()[index]) : nullptr;
-}
-
 void DocumentTabs::refresh() {
-    std::vector<TabOrder::Key> open;
-    for (const auto& child : frame_.children())
+    const MDIchildCL* active = frame_.activeChild();
+    std::size_t activeIndex = frame_.children().size();
+    std::vector<UseOrder::Key> open;
+    std::vector<TabLabel> labels;
+    for (const auto& child : frame_.children()) {
+        if (child.get() == active) activeIndex = open.size();
         open.push_back(child.get());
-    order_.take(open);
+        labels.push_back(LabelOf(*child));
+    }
     uses_.take(open);
     if (GetKeyState(VK_CONTROL) >= 0) uses_.endWalk();  // also when another program has seen the key go up
-    const MDIchildCL* active = frame_.activeChild();
     uses_.use(active);
-    std::vector<TabLabel> labels;
-    for (const TabOrder::Key key : order_.keys())
-        labels.push_back(LabelOf(*childOf(key)));
-    strip_.take(std::move(labels), order_.indexOf(active).value_or(open.size()));
+    strip_.take(std::move(labels), activeIndex);
 }
 
 bool DocumentTabs::useMessage(const MSG& message) {
@@ -58,16 +58,16 @@ bool DocumentTabs::useKey(const MSG& message) {
 }
 
 void DocumentTabs::chooseTab(std::size_t index) {
-    if (const MDIchildCL* child = childAt(index)) frame_.activate(*child);
+    if (index < frame_.children().size()) frame_.activate(*frame_.children()[index]);
 }
 
 // The window asks about changes that are not saved.
 void DocumentTabs::closeTab(std::size_t index) {
-    if (const MDIchildCL* child = childAt(index)) PostMessageA(child->window(), WM_CLOSE, 0, 0);
+    if (index < frame_.children().size()) PostMessageA(frame_.children()[index]->window(), WM_CLOSE, 0, 0);
 }
 
 void DocumentTabs::moveTab(std::size_t from, std::size_t to) {
-    order_.move(from, to);
+    if (std::max(from, to) < frame_.children().size()) frame_.moveChild(from, to);
     refresh();
 }
 

@@ -1,4 +1,5 @@
-// The tabs of the windows inside the frame: which there are, and what the user does with them.
+// The tabs of the windows inside the frame: which there are, and what the user does with them. Their order is that of
+// the frame's windows.
 #pragma once
 
 #include <vector>
@@ -26,8 +27,7 @@ class DocumentTabs : private TabHost {
 
   private:
     bool useKey(const MSG& message);
-    MDIchildCL* childAt(std::size_t index) const;
-    MDIchildCL* childOf(TabOrder::Key key) const;
+    const MDIchildCL* childOf(UseOrder::Key key) const;
     void chooseTab(std::size_t index) override;
     void closeTab(std::size_t index) override;
     void moveTab(std::size_t from, std::size_t to) override;
@@ -35,7 +35,6 @@ class DocumentTabs : private TabHost {
 
     MDIframeCL& frame_;
     TabStripCL strip_;
-    TabOrder order_;
     UseOrder uses_;
 };
 

@@ -25,24 +25,7 @@ void Move(Keys& keys, std::size_t from, std::size_t to) {
 
 }  // namespace
 
-// ---- order -------------------------------------------------------------------------------------------------------
-
-void TabOrder::take(std::span<const Key> open) {
-    Forget(keys_, open);
-    for (const void* key : open) {
-        if (!Has(keys_, key)) keys_.push_back(key);
-    }
-}
-
-void TabOrder::move(std::size_t from, std::size_t to) {
-    Move(keys_, from, to);
-}
-
-std::optional<std::size_t> TabOrder::indexOf(Key key) const {
-    const auto found = std::ranges::find(keys_, key);
-    if (found == keys_.end()) return std::nullopt;
-    return static_cast<std::size_t>(found - keys_.begin());
-}
+// ---- last use ----------------------------------------------------------------------------------------------------
 
 void UseOrder::take(std::span<const Key> open) {
     const Keys before = keys_;

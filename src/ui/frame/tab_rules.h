@@ -1,4 +1,4 @@
-// Tabs of windows in a strip: their order, where each lies, and which window was used before which.
+// Tabs of windows in a strip: where each lies, and which window was used before which.
 #pragma once
 
 #include <cstddef>
@@ -8,25 +8,8 @@
 
 namespace vexa {
 
-// The windows in the order of their tabs, each known by an address. New ones stand after the others.
-class TabOrder {
-  public:
-    using Key = const void*;
-
-    // The windows that are open now, in the order in which they were opened.
-    void take(std::span<const Key> open);
-    // Moves a tab to another one's position.
-    void move(std::size_t from, std::size_t to);
-    const std::vector<Key>& keys() const { return keys_; }
-    // None when there is no such tab.
-    std::optional<std::size_t> indexOf(Key key) const;
-
-  private:
-    std::vector<Key> keys_;
-};
-
-// The windows by their last use. A walk goes on from one to the next, and only the window at which it ends counts as
-// used.
+// The windows by their last use, each known by an address. A walk goes on from one to the next, and only the window at
+// which it ends counts as used.
 class UseOrder {
   public:
     using Key = const void*;

@@ -24,27 +24,6 @@ std::string LettersOf(const std::vector<const void*>& windows) {
     return letters;
 }
 
-TEST(TabOrder, FollowsTheWindowsAndKeepsWhatWasMoved) {
-    struct Case {
-        const char* open;  // the windows then, in the order in which they were opened
-        int from;          // what is moved afterwards; none below 0
-        int to;
-        const char* order;
-    };
-    const Case cases[] = {
-        {"abc", -1, -1, "abc"}, {"abc", 0, 2, "bca"}, {"abcd", -1, -1, "bcad"}, {"acd", -1, -1, "cad"},
-        {"acd", 2, 0, "dca"},   {"", -1, -1, ""},     {"ef", -1, -1, "ef"},
-    };
-    TabOrder order;
-    for (const Case& c : cases) {
-        order.take(WindowsOf(c.open));
-        if (c.from >= 0) order.move(static_cast<std::size_t>(c.from), static_cast<std::size_t>(c.to));
-        EXPECT_EQ(LettersOf(order.keys()), c.order) << c.open;
-    }
-    EXPECT_EQ(order.indexOf(kWindows + 5), 1u);
-    EXPECT_EQ(order.indexOf(kWindows), std::nullopt);
-}
-
 // A letter is used; ">" and "<" go on to the next and the one before, "." ends the walk; "-" closes the letter behind,
 // "+" opens it.
 TEST(UseOrder, WalksFromTheWindowUsedLastAndOnlyItsEndCounts) {
