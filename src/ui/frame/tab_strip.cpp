@@ -26,6 +26,17 @@ void FillStrip(HDC dc, int left, int top, int right, int bottom, int colour) {
     FillColour(dc, {left, top, right, bottom}, GetSysColor(colour));
 }
 
+struct TabColours {
+    int ground;
+    int text;
+};
+
+// Where windows and buttons have one colour, as in schemes of high contrast, the active tab would not stand out.
+TabColours ActiveTabColours() {
+    const bool standsOut = GetSysColor(COLOR_WINDOW) != GetSysColor(COLOR_BTNFACE);
+    return standsOut ? TabColours{COLOR_WINDOW, COLOR_WINDOWTEXT} : TabColours{COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT};
+}
+
 // What other programs can read of the tabs.
 std::string NamesOf(const std::vector<TabLabel>& labels) {
     std::string names;
@@ -120,12 +131,13 @@ void TabStripCL::drawTab(HDC dc, std::size_t index, int bottom) const {
     const int dpi = DpiOf(window());
     const auto [left, right] = layout_.spanOf(index);
     const bool isActive = index == active_;
+    const TabColours colours = isActive ? ActiveTabColours() : TabColours{COLOR_BTNFACE, COLOR_BTNTEXT};
     if (isActive) {
-        FillStrip(dc, left, 0, right, bottom, COLOR_WINDOW);
+        FillStrip(dc, left, 0, right, bottom, colours.ground);
         FillStrip(dc, left, 0, right, Scaled(kMark, dpi), COLOR_HIGHLIGHT);
     }
     FillStrip(dc, right - 1, 0, right, bottom, COLOR_BTNSHADOW);
-    SetTextColor(dc, GetSysColor(isActive ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));
+    SetTextColor(dc, GetSysColor(colours.text));
     const int margin = Scaled(kTextMargin, dpi);
     RECT area{left + margin, Scaled(kMark, dpi), right - margin, bottom};
     const std::string& text = labels_[index].text;
