@@ -77,10 +77,6 @@ bool File::flush() {
     return !Refused(writing_, FileStep::Flush) && platform::FlushFile(handle_);
 }
 
-std::unique_ptr<platform::BackgroundFlush> File::flushAside() {
-    return Refused(writing_, FileStep::Flush) ? nullptr : std::make_unique<platform::BackgroundFlush>(handle_);
-}
-
 std::optional<std::uint64_t> File::size() {
     return platform::FileSize(handle_);
 }

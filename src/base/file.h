@@ -1,7 +1,6 @@
 // An open file that closes itself, over the platform's file functions.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,9 +29,6 @@ class File {
     bool seek(std::uint64_t offset);
     bool endHere();
     bool flush();
-    // As flush(), while the program goes on; none when it could not be begun. It must end before the file is used
-    // again.
-    std::unique_ptr<platform::BackgroundFlush> flushAside();
     std::optional<std::uint64_t> size();
     // True when everything written has been taken; the file is closed in every case. True for a closed file.
     bool close();

@@ -7,6 +7,7 @@
 // No function throws; failures are values, and what a failure leaves behind is said at each.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -45,22 +46,6 @@ bool FlushFile(FileHandle file);
 std::optional<std::uint64_t> FileSize(FileHandle file);
 // Closes in every case; false if the operating system reports that something written was lost.
 bool CloseFile(FileHandle file);
-
-// The same while the program goes on, in a thread of the system where there are such. The file stays open and is not
-// used until the flush has ended; the destructor waits for that.
-class BackgroundFlush {
-  public:
-    explicit BackgroundFlush(FileHandle file);
-    ~BackgroundFlush();
-    BackgroundFlush(const BackgroundFlush&) = delete;
-    BackgroundFlush& operator=(const BackgroundFlush&) = delete;
-    // None while it goes on; then whether all has reached the device.
-    std::optional<bool> result() const;
-
-  private:
-    [[maybe_unused]] std::intptr_t thread_ = 0;  // the host needs none
-    bool done_ = false;
-};
 
 // Tells whether a file has been written since.
 struct FileStamp {
@@ -254,6 +239,31 @@ void CloseProcess(ProcessHandle process);
 // A character, given by its Unicode number, in the ANSI code page, which takes several bytes for one in some countries;
 // empty when it lacks it. The host's code page holds the first 256.
 std::string AnsiCharacter(char32_t character);
+
+// ---- threads -----------------------------------------------------------------------------------------------------
+
+// Something that is done while the program goes on, in a thread of the system. Where there can be no thread it is done
+// before the constructor returns.
+class BackgroundWork {
+  public:
+    using Function = void (*)(void* context) noexcept;
+
+    BackgroundWork(Function function, void* context);
+    // Waits for its end.
+    ~BackgroundWork();
+    BackgroundWork(const BackgroundWork&) = delete;
+    BackgroundWork& operator=(const BackgroundWork&) = delete;
+    // Does not ask the system, which may be busy with the work.
+    bool hasEnded();
+
+  private:
+    struct Thread;
+    void run();
+
+    const Function function_;
+    void* const context_;
+    std::atomic<bool> hasEnded_ = false;
+};
 
 // ---- the rest ----------------------------------------------------------------------------------------------------
 

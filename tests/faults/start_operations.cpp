@@ -10,8 +10,8 @@
 #include "shell/recent_files.h"
 #include "shell/session_documents.h"
 #include "shell/startup_files.h"
+#include "shell/unsaved/recovery_disk.h"
 #include "shell/unsaved/recovery_file.h"
-#include "shell/unsaved/recovery_job.h"
 #include "shell/unsaved/recovery_keeper.h"
 #include "shell/unsaved/recovery_offer.h"
 
@@ -54,9 +54,7 @@ void WriteRecoveryFile(FaultScene& scene, const std::string& file, const std::st
     EditView view(document, scene.options, scene.notices);
     for (const char c : typed)
         view.key(KeyEvent{.character = static_cast<unsigned char>(c)});
-    RecoveryJob job(document, scene.disk.path("vbackup\\" + file));
-    while (job.step() != RecoveryJob::State::Written) {
-    }
+    WriteRecoveryFile(scene, document, file);
 }
 
 class NoHost : public RecoveryHost {
@@ -66,6 +64,16 @@ class NoHost : public RecoveryHost {
 };
 
 }  // namespace
+
+bool WriteRecoveryFile(FaultScene& scene, TextDocument& document, const std::string& file) {
+    RecoveryNames names(scene.disk.path("vbackup"));
+    RecoveryDisk disk(names);
+    RecoveryCopy copy(document);
+    while (!copy.step()) {
+    }
+    disk.write({scene.disk.path("vbackup\\" + file), copy.take(), &document});
+    return disk.takeEnded().value().isDone;
+}
 
 void KeepFirstUnsaved(FaultScene& scene) {
     const Unsaved frame(scene);

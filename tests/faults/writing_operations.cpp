@@ -27,7 +27,6 @@
 #include "shell/hand_off.h"
 #include "shell/session_documents.h"
 #include "shell/startup_files.h"
-#include "shell/unsaved/recovery_job.h"
 
 namespace vexa::test {
 
@@ -117,13 +116,7 @@ void KeepUnsaved(FaultScene& scene) {
     TextDocument document(scene.options, scene.notices);
     document.newEmpty();
     Type(scene, document);
-    scene.attempt([&] {
-        RecoveryJob job(document, scene.disk.path("vbackup\\A.TXT"));
-        RecoveryJob::State state = RecoveryJob::State::Working;
-        while (state == RecoveryJob::State::Working || state == RecoveryJob::State::Waiting)
-            state = job.step();
-        return state == RecoveryJob::State::Written;
-    });
+    scene.attempt([&] { return WriteRecoveryFile(scene, document, "A.TXT"); });
 }
 
 // ---- files of the program's own formats -----------------------------------------------------------------------------

@@ -15,6 +15,10 @@
 #include "shell/unsaved/recovery_offer.h"
 #include "support/script.h"
 
+#ifndef _WIN32
+#include "base/platform/host/background.h"
+#endif
+
 namespace vexa::test {
 namespace {
 
@@ -227,14 +231,21 @@ Told OtherRun(DocumentStage& stage, Words) {
     return {};
 }
 
-// The longest that a key can have to wait is a part of the work; a part copies or writes no more than this.
-Told PartsWhileTyping(DocumentStage& stage, Words) {
+// The longest that a key can have to wait is a part of the work; a part copies no more than this. What the disk has
+// then is not waited for.
+Told CopyWhileTyping(DocumentStage& stage, Words) {
     g_ticks += RecoveryKeeper::kPause;
     int parts = 0;
     while (stage.keeper->work() == RecoveryKeeper::Work::More)
-        if (++parts % 20 == 0 && parts < 100) stage.type("2");
-    PassTime(stage, RecoveryKeeper::kPause);
-    return parts > 90 ? Told("about 3 MB, copied and written") : Told(parts);
+        if (++parts % 20 == 0) stage.type("2");
+    return parts > 45 ? Told("about 3 MB") : Told(parts);
+}
+
+Told HoldDisk([[maybe_unused]] bool isHeld) {
+#ifndef _WIN32
+    platform::host::HoldBackground(isHeld);
+#endif
+    return {};
 }
 
 LineViews Cut(std::string_view text) {
@@ -317,7 +328,14 @@ const Verbs<DocumentStage> kVerbs = {
     // recovery
     {"pass", [](DocumentStage& s, Words w) { return PassTime(s, static_cast<std::uint32_t>(w.number())); }},
     {"longest-behind", &LongestBehind},
-    {"parts-while-typing", &PartsWhileTyping},
+    {"copy-while-typing", &CopyWhileTyping},
+    {"begin-copy",
+     [](DocumentStage& s, Words w) {
+         g_ticks += static_cast<std::uint32_t>(w.number());
+         return Told(s.keeper->work() == RecoveryKeeper::Work::More);
+     }},
+    {"hold-disk", [](DocumentStage&, Words) { return HoldDisk(true); }},
+    {"release-disk", [](DocumentStage&, Words) { return HoldDisk(false); }},
     {"keep", [](DocumentStage& s, Words) { return s.keeper->writeAll(), Told(); }},
     {"kept", [](DocumentStage& s, Words) { return Told(platform::FindFiles(s.directory + "\\*.vxr").size()); }},
     {"forget-document", &Forget},

@@ -56,6 +56,7 @@ bool UnifyLineEnds::change() {
     }
     oldEnds_ = std::move(old);
     oldStyle_ = std::exchange(document().lineEndStyle(), LineEndStyle{end_, false});
+    lines.noteAllChanged();
     return true;
 }
 
@@ -66,6 +67,7 @@ void UnifyLineEnds::takeBack() {
         ++i;
     }
     document().lineEndStyle() = oldStyle_;
+    document().lines().noteAllChanged();
 }
 
 }  // namespace vexa

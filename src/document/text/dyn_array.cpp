@@ -102,7 +102,9 @@ bool DynArray::makeRoom(std::int32_t i) {
 
 // Makes slots below count real, as vacant ones.
 bool DynArray::reach(std::int32_t count) try {
-    if (count > slots_.size()) slots_.append(count - slots_.size(), &vacant_);
+    if (count <= slots_.size()) return true;
+    unchanged_.keep(slots_.size(), 0);
+    slots_.append(count - slots_.size(), &vacant_);
     return true;
 } catch (const std::bad_alloc&) {
     Report(kNoMemory);
@@ -128,6 +130,7 @@ bool DynArray::put(LinePtr line, std::int32_t i) {
     }
     if (!reach(i + 1)) return false;
     noteMovedFrom(i);
+    noteChanged(i);
     TextLine* const old = occupied(i);
     slots_[i] = keep(std::move(line));
     if (old) LineDeleter()(old);
@@ -159,6 +162,7 @@ bool DynArray::insertAt(LinePtr line, std::int32_t i) {
     if (last + 1 >= capacity_ && !makeRoom(last + 1)) return false;
     if (i >= slots_.size()) return put(std::move(line), i);
     noteMovedFrom(i);
+    unchanged_.keep(i, slots_.size() - i);
     slots_.insert(i, keep(std::move(line)));
     return true;
 }
@@ -166,9 +170,17 @@ bool DynArray::insertAt(LinePtr line, std::int32_t i) {
 LinePtr DynArray::take(std::int32_t i) {
     TextLine* const line = occupied(i);
     noteMovedFrom(i);
+    noteChanged(i);
     if (i < slots_.size()) slots_.remove(i);
     trim();
     return LinePtr(line);
+}
+
+void DynArray::trim() {
+    while (slots_.size() > 0 && slots_[slots_.size() - 1] == &vacant_) {
+        slots_.remove(slots_.size() - 1);
+        unchanged_.keep(slots_.size(), 0);
+    }
 }
 
 LinePtr DynArray::detach(std::int32_t i) {
@@ -197,6 +209,7 @@ std::int32_t DynArray::takeMovedFrom() {
 
 void DynArray::clear() {
     noteMovedFrom(0);
+    noteAllChanged();
     for (std::int32_t i = 0; i < slots_.size(); ++i) {
         if (TextLine* line = occupied(i)) LineDeleter()(line);
     }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "document/text/text_line.h"
@@ -13,6 +14,18 @@ namespace vexa {
 enum class LastUsed {
     Plain,  // any line that was stored
     Text    // any line that was stored and is not empty, or has an end that is kept
+};
+
+// How many lines at the beginning and at the end of a sequence are what they were, whatever was changed, inserted or
+// removed between them.
+struct UnchangedLines {
+    std::int32_t before = INT32_MAX;
+    std::int32_t after = INT32_MAX;
+
+    void keep(std::int32_t first, std::int32_t last) {
+        before = std::min(before, first);
+        after = std::min(after, last);
+    }
 };
 
 // A sequence of pointers with a gap where the last change was, so that lines come and go at one position without moving
@@ -91,6 +104,11 @@ class DynArray {
     bool takeGrown();
     // The first slot of those whose lines have moved since this was last asked; INT32_MAX when none have.
     std::int32_t takeMovedFrom();
+    // The slots that hold what they held when this was last asked; at the end, those up to the last stored line.
+    UnchangedLines takeUnchanged() { return std::exchange(unchanged_, {}); }
+    // The line in the slot is changed from outside; or all lines are.
+    void noteChanged(std::int32_t i) { unchanged_.keep(i, std::max(slots_.size() - 1 - i, 0)); }
+    void noteAllChanged() { unchanged_ = {0, 0}; }
     // Destroys every line and makes the array as new.
     void clear();
 
@@ -100,10 +118,7 @@ class DynArray {
     bool reach(std::int32_t count);
     LinePtr take(std::int32_t i);
     TextLine* keep(LinePtr line);
-    void trim() {
-        while (slots_.size() > 0 && slots_[slots_.size() - 1] == &vacant_)
-            slots_.remove(slots_.size() - 1);
-    }
+    void trim();
     void noteMovedFrom(std::int32_t i) { movedFrom_ = std::min(movedFrom_, i); }
 
     TextLine vacant_;
@@ -112,6 +127,7 @@ class DynArray {
     std::int32_t growBy_;
     bool grown_ = false;
     std::int32_t movedFrom_ = INT32_MAX;
+    UnchangedLines unchanged_;
 };
 
 }  // namespace vexa

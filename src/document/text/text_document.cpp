@@ -150,6 +150,7 @@ LineIndex TextDocument::lastLine(LastUsed mode) const {
 
 TextLine& TextDocument::editableLine(LineIndex index) {
     lineStates_.touch(index);
+    lines_.noteChanged(index.value);
     if (TextLine* line = lines_.occupied(index.value)) return *line;
     lines_.reserve(index.value);
     lines_.put(makeLine({}), index.value);

@@ -10,7 +10,8 @@
 
 #include "base/notices.h"
 #include "shell/auto_backup.h"
-#include "shell/unsaved/recovery_job.h"
+#include "shell/unsaved/recovery_copy.h"
+#include "shell/unsaved/recovery_disk.h"
 #include "shell/unsaved/recovery_names.h"
 
 namespace vexa {
@@ -41,13 +42,13 @@ class RecoveryKeeper {
     // The document is going to be closed for good.
     void forget(const TextDocument& document);
     // The recovery files of runs that have ended; they are this run's from now on.
-    std::vector<std::string> takeLeft() { return names_.takeLeft(); }
+    std::vector<std::string> takeLeft();
     // The document has just been made of one of them.
-    void adopt(const TextDocument& document, const std::string& file);
+    void adopt(TextDocument& document, const std::string& file);
 
   private:
     struct Kept {
-        const TextDocument* document = nullptr;
+        TextDocument* document = nullptr;
         std::string file;               // empty before the first
         std::uint32_t written = 0;      // the document's revision that the file has
         std::uint32_t seen = 0;         // the one last seen
@@ -58,20 +59,28 @@ class RecoveryKeeper {
     };
 
     void look();
-    void note(const TextDocument& document);
-    Kept& keptOf(const TextDocument& document);
+    void note(TextDocument& document);
+    Kept& keptOf(TextDocument& document);
+    Kept* find(const TextDocument& document);
     bool isDue(const Kept& kept) const;
-    void begin(Kept& kept);
+    bool isKeeping() const { return copy_ || written_; }
+    void begin(Kept& kept) { copy_ = std::make_unique<RecoveryCopy>(*kept.document); }
     Work goOn();
-    void finish(bool isWritten);
+    void handOver();
+    void takeEnded();
+    void finish(const RecoveryOrder& order);
+    void fail(const TextDocument& document);
+    void waitUntilKept();
 
     const BackupFrame& frame_;
     RecoveryNames names_;
     Notices& notices_;
     const Clock clock_;
     std::vector<Kept> kept_;
-    std::unique_ptr<RecoveryJob> job_;
+    std::unique_ptr<RecoveryCopy> copy_;     // of one document at a time,
+    const TextDocument* written_ = nullptr;  // whose copy the disk has then
     bool hasToldFailure_ = false;
+    RecoveryDisk disk_{names_};
 };
 
 }  // namespace vexa

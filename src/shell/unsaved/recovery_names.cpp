@@ -53,10 +53,6 @@ std::string RecoveryNames::next() {
     return name;
 }
 
-std::string RecoveryNames::unfinished(const std::string& file) {
-    return file.substr(0, file.size() - kEnding) + "tmp";
-}
-
 std::vector<std::string> RecoveryNames::takeLeft() {
     std::vector<std::string> taken;
     for (const std::string& run : Files(directory_ + "\\unsaved-", "*.run"))
@@ -68,7 +64,7 @@ std::vector<std::string> RecoveryNames::takeLeft() {
 void RecoveryNames::takeFilesOf(const std::string& stem, std::vector<std::string>& taken) {
     File lock(RunFile(stem), OpenMode::ReadWrite);
     if (!lock.isOpen()) return;
-    for (const std::string& unfinishedFile : Files(stem, "-*.tmp"))
+    for (const std::string& unfinishedFile : Files(stem, "-*.vxr.~*"))
         platform::RemoveFile(unfinishedFile);
     for (const std::string& file : Files(stem, "-*.vxr")) {
         const std::string own = next();

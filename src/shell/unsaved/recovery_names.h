@@ -1,8 +1,8 @@
 // Which recovery files belong to which run of the editor, and whether that still runs.
 //
-// A run has a number: its files are "unsaved-NUMBER-1.vxr" and so on in the directory of backups, with the ending "tmp"
-// while they are being written. It holds the file "unsaved-NUMBER.run" open for as long as it lives, however it ends,
-// so that no other takes its files; on a share that holds for editors on other machines, too.
+// A run has a number: its files are "unsaved-NUMBER-1.vxr" and so on in the directory of backups, with ".~0" after
+// that while they are being written. It holds the file "unsaved-NUMBER.run" open for as long as it lives, however it
+// ends, so that no other takes its files; on a share that holds for editors on other machines, too.
 #pragma once
 
 #include <string>
@@ -25,8 +25,6 @@ class RecoveryNames {
     const std::string& directory() const { return directory_; }
     // The full path of another file; empty when the directory cannot be written.
     std::string next();
-    // The name that a file has while it is being written.
-    static std::string unfinished(const std::string& file);
     // Makes the files of the runs that have ended files of this one. What cannot be taken stays where it is.
     std::vector<std::string> takeLeft();
 

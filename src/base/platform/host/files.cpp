@@ -158,14 +158,6 @@ bool FlushFile(FileHandle file) {
     return !IsRefused(Call::Flush) && Insist([&] { return fsync(Descriptor(file)); }) == 0;
 }
 
-BackgroundFlush::BackgroundFlush(FileHandle file) : done_(FlushFile(file)) {}
-
-BackgroundFlush::~BackgroundFlush() = default;
-
-std::optional<bool> BackgroundFlush::result() const {
-    return done_;
-}
-
 std::optional<std::uint64_t> FileSize(FileHandle file) {
     struct stat info;
     if (IsRefused(Call::Size) || fstat(Descriptor(file), &info) != 0) return std::nullopt;

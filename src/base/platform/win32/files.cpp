@@ -168,34 +168,6 @@ bool FlushFile(FileHandle file) {
     return FlushFileBuffers(Native(file));
 }
 
-namespace {
-
-DWORD WINAPI Flush(void* file) {
-    return static_cast<DWORD>(FlushFileBuffers(file));
-}
-
-}  // namespace
-
-// Without a thread for it the program waits.
-BackgroundFlush::BackgroundFlush(FileHandle file) {
-    DWORD number = 0;
-    thread_ = reinterpret_cast<std::intptr_t>(CreateThread(nullptr, 0, &Flush, Native(file), 0, &number));
-    if (!thread_) done_ = FlushFile(file);
-}
-
-BackgroundFlush::~BackgroundFlush() {
-    if (!thread_) return;
-    WaitForSingleObject(Native(thread_), INFINITE);
-    CloseHandle(Native(thread_));
-}
-
-std::optional<bool> BackgroundFlush::result() const {
-    if (!thread_) return done_;
-    DWORD flushed = FALSE;
-    if (WaitForSingleObject(Native(thread_), 0) == WAIT_TIMEOUT) return std::nullopt;
-    return GetExitCodeThread(Native(thread_), &flushed) && flushed;
-}
-
 std::optional<std::uint64_t> FileSize(FileHandle file) {
     DWORD high = 0;
     SetLastError(NO_ERROR);
