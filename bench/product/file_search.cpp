@@ -33,7 +33,7 @@ double Since(Time begin) {
 class NoFiles : public SearchedFiles {
   public:
     bool openFileAtLine(const std::string&, std::int32_t) override { return false; }
-    const TextDocument* documentOf(const std::string&) const override { return nullptr; }
+    const TextDocument* documentOf(const std::string&, std::uint64_t) const override { return nullptr; }
     std::string_view delimitersOf(const std::string&) override { return {}; }
     EditView* activeView() override { return nullptr; }
     void refreshActive() override {}

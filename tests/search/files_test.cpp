@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "document/text/file_identity.h"
 #include "external/external_session.h"
 #include "search/files/file_patterns.h"
 #include "search/files/file_search_job.h"
@@ -46,9 +47,10 @@ class Windows : public SearchedFiles {
         active_->view.goTo(LineIndex(line - 1), CharColumn(0));
         return true;
     }
-    const TextDocument* documentOf(const std::string& path) const override {
-        const auto found = sessions_.find(path);
-        return found == sessions_.end() ? nullptr : &found->second->document;
+    const TextDocument* documentOf(const std::string& path, std::uint64_t size) const override {
+        for (const auto& [name, session] : sessions_)
+            if (IsFileOf(session->document, path, size)) return &session->document;
+        return nullptr;
     }
     std::string_view delimitersOf(const std::string&) override { return ";"; }
     EditView* activeView() override { return &active_->view; }
@@ -245,6 +247,18 @@ TEST_F(FilesSearch, LinksLeadToEachFolderOnce) {
 }
 #endif
 
+#ifndef _WIN32
+TEST_F(FilesSearch, OpenDocumentsAreFoundByOtherNamesOfTheirFiles) {
+    disk.put("a", "old\n");
+    disk.put("other", "len\n");
+    std::filesystem::create_hard_link(platform::host::HostPath(disk.path("a")),
+                                      platform::host::HostPath(disk.path("link")));
+    windows.open(disk.path("link"));
+    type('n');
+    EXPECT_EQ(find("n"), (Texts{"a:1: nold", "link:1: nold", "other:1: len"}));
+}
+#endif
+
 TEST_F(FilesSearch, OpenDocumentsAreSearchedAsTheyAre) {
     disk.put("a", "old\n");
     windows.open(disk.path("a"));
@@ -344,7 +358,7 @@ TEST_F(FilesSearch, SoManyFilesAreNotOpened) {
     HitReplacement replacement(list, windows);
     EXPECT_EQ(replacement.replace({0, list.rowCount()}, "x"),
               "These lines are in more than 100 files. Select fewer of them.");
-    EXPECT_EQ(windows.documentOf(disk.path("0")), nullptr);
+    EXPECT_EQ(windows.documentOf(disk.path("0"), 0), nullptr);
 }
 
 }  // namespace

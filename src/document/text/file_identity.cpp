@@ -28,4 +28,10 @@ bool FileIdentity::isFileOf(const TextDocument& document) const {
     return HaveOneNumber(facts_, document.disk().facts) && HaveOneNumber(facts_, platform::FactsOf(path));
 }
 
+bool IsFileOf(const TextDocument& document, const std::string& path, std::uint64_t size) {
+    if (EqualIgnoringCase(document.fullPath(), path)) return true;
+    const Facts& facts = document.disk().facts;
+    return facts && facts->stamp.size == size && FileIdentity(path).isFileOf(document);
+}
+
 }  // namespace vexa

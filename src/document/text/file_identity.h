@@ -1,6 +1,7 @@
 // Whether two names are names of one file.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -23,5 +24,9 @@ class FileIdentity {
     std::string path_;
     std::optional<platform::FileFacts> facts_;
 };
+
+// The same for many files that are looked at in any case, each given with its size (0 for one that cannot be read):
+// only one that has the document's size is asked for its numbers.
+bool IsFileOf(const TextDocument& document, const std::string& path, std::uint64_t size);
 
 }  // namespace vexa

@@ -26,9 +26,12 @@ bool FileSearch::findFile() {
     line_ = LineIndex(0);
     fileHasHits_ = false;
     if (wholeWord_) search_.lines().setDelimiters(files_.delimitersOf(walk_.file()));
-    if (files_.documentOf(walk_.file())) {
+    const bool isOpen = blocks_.open(walk_.file());
+    size_ = blocks_.fileSize();
+    if (files_.documentOf(walk_.file(), size_)) {
+        blocks_.leave();
         next_ = &FileSearch::searchDocument;
-    } else if (blocks_.open(walk_.file())) {
+    } else if (isOpen) {
         next_ = &FileSearch::searchBlock;
     } else {
         ++counts_.unreadable;
@@ -58,7 +61,7 @@ bool FileSearch::searchBlock() {
 
 // The document may have been changed or closed since the last part.
 bool FileSearch::searchDocument() {
-    const TextDocument* document = files_.documentOf(walk_.file());
+    const TextDocument* document = files_.documentOf(walk_.file(), size_);
     const LineIndex last = document ? document->lastLine(LastUsed::Text) : LineIndex(-1);
     for (std::int32_t left = kLinesAtOnce; left > 0 && line_ <= last; --left, ++line_) {
         const std::string_view text = document->text(line_);

@@ -69,6 +69,7 @@ class FileSearch {
     BlockSearch search_;
     const bool wholeWord_;
     LineBlocks blocks_;
+    std::uint64_t size_ = 0;  // of the file
     bool (FileSearch::*next_)() = &FileSearch::findFile;
     LineIndex line_;  // the next of the file or document
     FileSearchCounts counts_;

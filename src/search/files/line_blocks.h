@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,10 @@ class LineBlocks {
     // Reads the next block; false at the end, after an error, and for a binary file at once. The file is closed then.
     bool next();
     State state() const { return state_; }
+    // The size of the open file; 0 when there is none.
+    std::uint64_t fileSize() { return file_.isOpen() ? file_.size().value_or(0) : 0; }
+    // Closes the file before its end.
+    void leave() { finish(State::Ended); }
 
     // The lines of the block. The last of them has a line end unless it is the last of the file or longer than is read
     // at once. The byte at end() may be written for a while, if it gets its value back.

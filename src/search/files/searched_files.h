@@ -1,6 +1,7 @@
 // The open documents, as far as searching in files needs them.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "document/text/text_document.h"
@@ -11,8 +12,9 @@ namespace vexa {
 
 class SearchedFiles : public FileOpener {
   public:
-    // The open document of a full path; none when the file is not open.
-    virtual const TextDocument* documentOf(const std::string& path) const = 0;
+    // The open document of a file, given by any full path of it and its size (0 for one that cannot be read); none when
+    // the file is not open.
+    virtual const TextDocument* documentOf(const std::string& path, std::uint64_t size) const = 0;
     // The characters that end a whole word in a file of that name; valid until the next call.
     virtual std::string_view delimitersOf(const std::string& path) = 0;
     // The view of the active document; none when the active window is no document's.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/ascii.h"
+#include "document/text/file_identity.h"
 #include "ui/dialogs/replace_in_files_dialog.h"
 #include "ui/frame/command_rows.h"
 
@@ -94,12 +94,11 @@ void FileSearchCommands::replace() {
 
 // ---- what the search and the list ask for ------------------------------------------------------------------------
 
-// By name alone: it is asked for every file, and the identity of a file takes an opening of it.
-const TextDocument* FileSearchCommands::documentOf(const std::string& path) const {
+const TextDocument* FileSearchCommands::documentOf(const std::string& path, std::uint64_t size) const {
     const TextDocument* found = nullptr;
     documents_.each([&](DocumentWindow& window) {
         const TextDocument& document = window.document();
-        if (document.isNamed() && EqualIgnoringCase(document.fullPath(), path)) found = &document;
+        if (document.isNamed() && IsFileOf(document, path, size)) found = &document;
     });
     return found;
 }

@@ -36,7 +36,7 @@ class FileSearchCommands : private SearchedFiles, private FileSearcher {
 
     void searchFiles(const FileSearchRequest& request) override;
     bool openFileAtLine(const std::string& path, std::int32_t line) override;
-    const TextDocument* documentOf(const std::string& path) const override;
+    const TextDocument* documentOf(const std::string& path, std::uint64_t size) const override;
     std::string_view delimitersOf(const std::string& path) override;
     EditView* activeView() override;
     void refreshActive() override;
