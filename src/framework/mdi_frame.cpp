@@ -130,15 +130,25 @@ bool MDIframeCL::mayCloseChildren() const {
     return std::ranges::all_of(children_, [](const auto& child) { return child->mayClose(); });
 }
 
+// What another program asks for in the middle of that is put off, for it asks once.
+bool MDIframeCL::onClose() {
+    if (!isClosingChildren_) return AppFrameCL::onClose();
+    isCloseWanted_ = true;
+    return true;
+}
+
 // The frame takes nothing in meanwhile: no key may reach a document that the user has agreed to close.
 void MDIframeCL::closeChildren(const std::vector<MDIchildCL*>& order) {
     const DrawingPause pause(client_);
     EnableWindow(window(), FALSE);
+    isClosingChildren_ = true;
     for (MDIchildCL* child : order) {
         if (owns(child)) closeAgreed(*child);
         if (pumpMessages()) break;
     }
+    isClosingChildren_ = false;
     EnableWindow(window(), TRUE);
+    if (std::exchange(isCloseWanted_, false)) PostMessageA(window(), WM_CLOSE, 0, 0);
 }
 
 void MDIframeCL::forget(const MDIchildCL& child) {

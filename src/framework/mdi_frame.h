@@ -49,6 +49,7 @@ class MDIframeCL : public AppFrameCL {
   protected:
     friend class MDIchildCL;
 
+    bool onClose() override;
     bool onContextMenu(std::optional<POINT> screenPlace) override;
 
     // The menu at whose end the child windows are listed.
@@ -70,6 +71,8 @@ class MDIframeCL : public AppFrameCL {
 
     HWND client_ = nullptr;
     std::vector<std::unique_ptr<MDIchildCL>> children_;
+    bool isClosingChildren_ = false;
+    bool isCloseWanted_ = false;  // of the frame, as soon as the children are closed
 };
 
 }  // namespace vexa

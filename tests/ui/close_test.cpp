@@ -68,5 +68,12 @@ TEST_F(CloseTest, EndOfTheSessionThatAnotherProgramRefusesChangesNothing) {
     EXPECT_EQ(again.documents().size(), 1u) << "what was closed by hand has not come back";
 }
 
+TEST_F(CloseTest, EndThatIsAskedForWhileWindowsCloseComesAfterThem) {
+    const Editor editor(folder, {"a.txt", "b.txt"});
+    editor.command(CommandId::CloseAll);
+    editor.requestClose();
+    EXPECT_TRUE(editor.ends());
+}
+
 }  // namespace
 }  // namespace vexa::test
