@@ -14,7 +14,8 @@
 //   code in quotes: OPEN CLOSE    what stands between these is code again, in quotes with "lines" and without "raw"
 //   text behind: OPEN             a word after OPEN begins a text, from the next line to the line of this word alone
 //
-//   code: OPEN CLOSE              only what stands between these two characters is code, all around is text
+//   code: OPEN CLOSE              only what stands between these two characters is code, all around is text; a letter
+//                                 follows OPEN, or one of "/!?" and a letter
 #pragma once
 
 #include <optional>

@@ -16,6 +16,12 @@ LineState HereTextUpTo(std::string_view word) {
     return static_cast<LineState>(static_cast<unsigned>(LineState::FirstHereText) + hash % kHereTexts);
 }
 
+// Code in text begins with a name, as of a tag: that of "<a", "</a" and "<!a", but not "a <= b" and "<![CDATA[".
+bool BeginsCode(const char* at, const char* end) {
+    if (at != end && (*at == '/' || *at == '!' || *at == '?')) ++at;
+    return at != end && UpperAscii(*at) != LowerAscii(*at);
+}
+
 }  // namespace
 
 // What only rules beyond the profile know.
@@ -101,7 +107,7 @@ void LineTokenizer::takeText(const char* start) {
         takeQuote(*quote, start + quote->open.view().size());
     } else if (*start == '\t') {
         take(start + 1, TokenKind::Tab);
-    } else if (*start == rules.codeStart && end_ - start > 1 && !IsBlank(start[1])) {
+    } else if (*start == rules.codeStart && BeginsCode(start + 1, end_)) {
         state_ = LineState::Code;
         take(start + 1, TokenKind::Symbols);
     } else {
