@@ -44,19 +44,23 @@ std::string_view LineStates::colouredText(const TextLine& line) const {
 }
 
 // A vacant slot is an empty line.
-LineState LineStates::after(std::int32_t index, LineState start) const {
-    TextLine* line = lines_.occupied(index);
+LineState LineStates::findAfter(TextLine* line, LineState start) const {
     if (line == nullptr) return StateAfter(*rules_, {}, start);
-    const LineState known = line->effect.known(start);
-    return known != LineState::Unknown ? known : line->effect.after(*rules_, colouredText(*line), start);
+    return line->effect.after(*rules_, colouredText(*line), start);
+}
+
+LineState LineStates::follow(LineState state, std::int32_t from, std::int32_t to) const {
+    for (std::int32_t i = from; i < to; ++i) {
+        TextLine* line = lines_.occupied(i);
+        const LineState known = line ? line->effect.known(state) : LineState::Unknown;
+        state = known != LineState::Unknown ? known : findAfter(line, state);
+    }
+    return state;
 }
 
 void LineStates::addCheckpoint() {
     const auto last = static_cast<std::int32_t>(checkpoints_.size() - 1) * kCheckpointStep;
-    LineState state = checkpoints_.back();
-    for (std::int32_t i = last; i < last + kCheckpointStep; ++i)
-        state = after(i, state);
-    checkpoints_.push_back(state);
+    checkpoints_.push_back(follow(checkpoints_.back(), last, last + kCheckpointStep));
 }
 
 LineState LineStates::startOf(LineIndex line) {
@@ -71,10 +75,7 @@ LineState LineStates::startOf(LineIndex line) {
     }
     while (checkpoints_.size() <= checkpoint)
         addCheckpoint();
-    LineState state = checkpoints_[checkpoint];
-    for (std::int32_t i = static_cast<std::int32_t>(checkpoint) * kCheckpointStep; i < target; ++i)
-        state = after(i, state);
-    return state;
+    return follow(checkpoints_[checkpoint], static_cast<std::int32_t>(checkpoint) * kCheckpointStep, target);
 }
 
 bool LineStates::isComplete() const {

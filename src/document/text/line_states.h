@@ -43,7 +43,9 @@ class LineStates {
     void catchUp();
     void forgetBelow(std::int32_t line);
     bool isComplete() const;
-    LineState after(std::int32_t line, LineState start) const;
+    // From the start of one line to that of another below it.
+    LineState follow(LineState state, std::int32_t from, std::int32_t to) const;
+    LineState findAfter(TextLine* line, LineState start) const;
     void addCheckpoint();
     // As much of a line as has colours.
     std::string_view colouredText(const TextLine& line) const;
