@@ -7,7 +7,7 @@ namespace vexa {
 
 namespace {
 
-constexpr std::int32_t kStep = 2048;  // characters
+constexpr std::int32_t kStep = ColumnMarks::kStep;
 
 ColumnMark MarkAt(const std::vector<std::int32_t>& displays, std::ptrdiff_t i) {
     return {CharColumn(static_cast<std::int32_t>(i) * kStep), DisplayColumn(displays[static_cast<std::size_t>(i)])};
@@ -25,13 +25,11 @@ std::vector<std::int32_t> Measure(const TextLine& line, std::int32_t tabSize) {
 
 }  // namespace
 
-ColumnMark ColumnMarks::before(const TextLine& line, CharColumn column, std::int32_t tabSize) {
-    if (line.length() < kStep || column.value < kStep) return {};
+ColumnMark ColumnMarks::lookUp(const TextLine& line, CharColumn column, std::int32_t tabSize) {
     return MarkAt(marksOf(line, tabSize), std::min(column.value, line.length()) / kStep);
 }
 
-ColumnMark ColumnMarks::before(const TextLine& line, DisplayColumn column, std::int32_t tabSize) {
-    if (line.length() < kStep || column.value < kStep) return {};
+ColumnMark ColumnMarks::lookUp(const TextLine& line, DisplayColumn column, std::int32_t tabSize) {
     const std::vector<std::int32_t>& displays = marksOf(line, tabSize);
     return MarkAt(displays, std::ranges::upper_bound(displays, column.value) - displays.begin() - 1);
 }

@@ -14,9 +14,13 @@ namespace vexa {
 // Keeps a mark at every so many characters of the long lines that were last asked about, as many as a window shows.
 class ColumnMarks {
   public:
+    static constexpr std::int32_t kStep = 2048;  // characters from mark to mark
+
     // A mark not after that column and not far before it. Throws std::bad_alloc.
-    ColumnMark before(const TextLine& line, CharColumn column, std::int32_t tabSize);
-    ColumnMark before(const TextLine& line, DisplayColumn column, std::int32_t tabSize);
+    template <class Column>
+    ColumnMark before(const TextLine& line, Column column, std::int32_t tabSize) {
+        return line.length() < kStep || column.value < kStep ? ColumnMark() : lookUp(line, column, tabSize);
+    }
 
   private:
     struct Measured {
@@ -25,6 +29,8 @@ class ColumnMarks {
         std::vector<std::int32_t> displays;
     };
 
+    ColumnMark lookUp(const TextLine& line, CharColumn column, std::int32_t tabSize);
+    ColumnMark lookUp(const TextLine& line, DisplayColumn column, std::int32_t tabSize);
     const std::vector<std::int32_t>& marksOf(const TextLine& line, std::int32_t tabSize);
 
     Measured lines_[128];

@@ -45,10 +45,12 @@ void GapVector::insert(std::int32_t i, TextLine* item) {
     moveGap(i);
     items_[static_cast<std::size_t>(gapStart_++)] = item;
     --gapLength_;
+    ++size_;
 }
 
 TextLine* GapVector::remove(std::int32_t i) {
     moveGap(i);
+    --size_;
     return items_[static_cast<std::size_t>(i + gapLength_++)];
 }
 
@@ -58,6 +60,7 @@ void GapVector::append(std::int32_t count, TextLine* item) {
     std::fill_n(items_.begin() + gapStart_, count, item);
     gapStart_ += count;
     gapLength_ -= count;
+    size_ += count;
 }
 
 // ---- DynArray ----------------------------------------------------------------------------------------------------

@@ -32,7 +32,7 @@ struct UnchangedLines {
 // all that follow. Knows nothing of lines.
 class GapVector {
   public:
-    std::int32_t size() const { return static_cast<std::int32_t>(items_.size()) - gapLength_; }
+    std::int32_t size() const { return size_; }
     TextLine*& operator[](std::int32_t i) { return items_[offset(i)]; }
     TextLine* operator[](std::int32_t i) const { return items_[offset(i)]; }
     void insert(std::int32_t i, TextLine* item);
@@ -52,6 +52,7 @@ class GapVector {
     void widenGap(std::int32_t least);
 
     std::vector<TextLine*> items_;
+    std::int32_t size_ = 0;
     std::int32_t gapStart_ = 0;
     std::int32_t gapLength_ = 0;
 };
@@ -74,8 +75,8 @@ class DynArray {
 
     // The line in a slot, or none beyond the capacity.
     const TextLine* at(std::int32_t i) const {
-        if (i < 0 || i >= capacity_) return nullptr;
-        return i < slots_.size() ? slots_[i] : &vacant_;
+        if (i >= 0 && i < slots_.size()) return slots_[i];
+        return i >= 0 && i < capacity_ ? &vacant_ : nullptr;
     }
     // The line of a slot that is not vacant; none for a vacant slot or beyond the capacity.
     TextLine* occupied(std::int32_t i) const {

@@ -174,17 +174,25 @@ std::int32_t TextDocument::tabSize() const {
 }
 
 DisplayColumn TextDocument::displayColumn() const {
-    return toDisplay(currentLine_, column());
+    const TextLine* here = line(currentLine_);
+    return here ? toDisplay(*here, here->column()) : DisplayColumn(0);
 }
 
 DisplayColumn TextDocument::toDisplay(LineIndex index, CharColumn column) const {
     const TextLine* shown = line(index);
-    return shown ? ToDisplay(shown->text(), column, tabSize(), columnMarks_.before(*shown, column, tabSize()))
-                 : DisplayColumn(column.value);
+    return shown ? toDisplay(*shown, column) : DisplayColumn(column.value);
+}
+
+DisplayColumn TextDocument::toDisplay(const TextLine& shown, CharColumn column) const {
+    const std::int32_t tab = tabSize();
+    return ToDisplay(shown.text(), column, tab, columnMarks_.before(shown, column, tab));
 }
 
 CharColumn TextDocument::toCharacter(LineIndex index, DisplayColumn column) const {
-    return ToCharacter(text(index), column, tabSize(), markBefore(index, column));
+    const TextLine* shown = line(index);
+    if (shown == nullptr) return ToCharacter({}, column, tabSize());
+    const std::int32_t tab = tabSize();
+    return ToCharacter(shown->text(), column, tab, columnMarks_.before(*shown, column, tab));
 }
 
 ColumnMark TextDocument::markBefore(LineIndex index, DisplayColumn column) const {

@@ -158,6 +158,7 @@ class TextDocument {
     bool changesWhenWritten() const;
     void clearChangedLines();
     void takeLineEnds(const LineEndTally& tally);
+    DisplayColumn toDisplay(const TextLine& shown, CharColumn column) const;
 
     const EditorOptions& options_;
     Notices& notices_;
