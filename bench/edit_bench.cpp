@@ -183,6 +183,7 @@ BENCHMARK(TopLinesScintilla)->Name("lines_at_top/C/qscintilla")->Unit(benchmark:
 }  // namespace vexa::bench
 
 int main(int argc, char** argv) {
+    vexa::bench::KeepFreedMemory();
     const vexa::bench::Disk disk;
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -3,7 +3,6 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include <climits>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -22,12 +21,6 @@ namespace {
 // load itself; a later one may find memory that is warm. Both are measured, the same for every subject: memory that is
 // freed stays with the process, and is given back before each fresh load.
 enum class Heap { Fresh, Warm };
-
-void KeepFreedMemory() {
-    constexpr int kLargest = 1 << 25;  // the C library takes no larger threshold for mmap
-    mallopt(M_MMAP_THRESHOLD, kLargest);
-    mallopt(M_TRIM_THRESHOLD, INT_MAX);
-}
 
 // Measures a load that keeps what it has loaded in what it returns.
 template <class Load>

@@ -3,6 +3,7 @@
 #include <malloc.h>
 #include <unistd.h>
 
+#include <climits>
 #include <cstdlib>
 #include <filesystem>
 
@@ -74,6 +75,12 @@ void Session::typeText(int characters) {
             type('x');
         }
     }
+}
+
+void KeepFreedMemory() {
+    constexpr int kLargest = 1 << 25;  // the C library takes no larger threshold for mmap
+    mallopt(M_MMAP_THRESHOLD, kLargest);
+    mallopt(M_TRIM_THRESHOLD, INT_MAX);
 }
 
 double AllocatedBytes() {

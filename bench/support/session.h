@@ -44,6 +44,10 @@ struct Session {
     EditView view{document, options, notices};
 };
 
+// From now on the process keeps what it has freed. Else it is chance whether the C library gives the memory of a
+// document back when it is closed, and to find pages for it again costs as much as what is measured.
+void KeepFreedMemory();
+
 // Bytes that the C library has handed out at this moment.
 double AllocatedBytes();
 
