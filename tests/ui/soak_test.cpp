@@ -1,6 +1,12 @@
-// Commands, keys and mouse at random, thousands a minute. VEXA_SOAK_SECONDS says for how long, VEXA_SOAK_SEED which.
+// Commands, keys and mouse at random, thousands a minute, and now and then an external program or the help.
+// VEXA_SOAK_SECONDS says for how long, VEXA_SOAK_SEED which. With VEXA_SOAK_COMMANDS the memory is looked at over so
+// many commands, too.
+#include <windows.h>
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <iterator>
 #include <random>
@@ -9,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "external/tool_list.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
 #include "ui/ui_stage.h"
@@ -44,11 +51,55 @@ constexpr const char* kKeys[] = {
 // So many actions at most wait in the editor's queue.
 constexpr unsigned kMostWaiting = 50;
 
+// External programs and help are used as often as this in a soak that is longer than the usual one, and take no time
+// from the other actions.
+constexpr DWORD kFirstGuest = 30'000;   // milliseconds
+constexpr DWORD kBetweenGuests = 5000;  // milliseconds
+
+std::string ToolThatWaitsFor(const std::string& program, const std::string& file) {
+    ProgramRequest tool(program);
+    tool.setMenuText("Tool");
+    tool.setArguments("wait " + file);
+    tool.capture = true;
+    return EncodeTools({tool});
+}
+
+// What the process has taken for itself, as its own counters are not told of everywhere.
+SIZE_T PrivateBytesOf(const Editor& editor) {
+    SIZE_T bytes = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (char* at = nullptr; VirtualQueryEx(editor.process(), at, &region, sizeof region) == sizeof region;
+         at = static_cast<char*>(region.BaseAddress) + region.RegionSize) {
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) bytes += region.RegionSize;
+    }
+    return bytes;
+}
+
 // More than any soak leaves to be undone.
 constexpr int kMostSteps = 1'000'000;
 
+std::string LongText() {
+    std::string text;
+    for (int i = 0; i < 200; ++i)
+        text += "int f" + std::to_string(i) + "(int x) { return g(x, {1, 2}); }  // a line of text\r\n";
+    return text;
+}
+
 class Soak : public ::testing::Test {
   protected:
+    Soak() {
+        for (const char* name : {"a.c", "b.c", "c.c"})
+            folder.put(name, loaded_);
+        folder.put("errors.txt", "c.c:3:5: error: wrong\r\n");
+        folder.put("free", "");
+        folder.putTestProgram();
+        folder.putFromProgramFolder("Vexa.hlp");
+        folder.makeDirectory("vConfig");
+        folder.put("vConfig\\VexaTool.INF", ToolThatWaitsFor(folder.path("test_program.exe"), folder.path("free")));
+        folder.put("vexa.INI",
+                   "[Editor Options]\r\nAutoBackup=0\r\nHelpViewer=Own\r\n"
+                   "[Compiler]\r\nCommand=type errors.txt\r\nFileName=SAMPLE.C\r\nDisplay=0\r\n");
+    }
     std::size_t below(std::size_t bound) { return random_() % bound; }
     bool doSomething(const Editor& editor) {
         switch (below(10)) {
@@ -87,16 +138,73 @@ class Soak : public ::testing::Test {
         return WaitUntil(
             [&] { return editor.runCommand(CommandId::PlayMacro) && kAnswers.contains(editor.message()); });
     }
+    // Nothing is recorded or played any more, so that what follows is done once and now.
+    static bool isAtRest(const Editor& editor) {
+        editor.keys("{Esc}");
+        const bool isQuiet = hasUsedKeys(editor) && hasEndedPlaying(editor);
+        if (!editor.recording().empty()) editor.keys("{F7}");
+        return isQuiet && WaitUntil([&] { return editor.recording().empty(); });
+    }
+    static bool isActive(const Editor& editor, const std::string& name) {
+        return NameShownBy(editor.activeDocument()).starts_with(name);
+    }
+    static bool activate(const Editor& editor, const std::string& name) {
+        return WaitUntil([&] { return isActive(editor, name) || !editor.runCommand(CommandId::NextWindow); }) &&
+               isActive(editor, name);
+    }
+    // Waits for a list, which comes up by itself, and closes it.
+    static bool closesList(const Editor& editor, const std::string& name) {
+        if (!WaitUntil([&] { return isActive(editor, name); })) return false;
+        editor.keys("{Ctrl+F4}");
+        return WaitUntil([&] { return !isActive(editor, name); });
+    }
+
+    // ---- external programs and help: each leaves the editor as it was ----
+
+    static bool runTool(const Editor& editor) {
+        return editor.runCommand(CommandId::Tool1) && closesList(editor, "Output Window");
+    }
+    static bool runCommandLine(const Editor& editor) {
+        editor.keys("{F10}");
+        if (!editor.dialog("DOS Command Line")) return false;
+        editor.keys("type errors.txt{Enter}");
+        return closesList(editor, "Output Window");
+    }
+    // Saves a document, so it is one of its own.
+    static bool compile(const Editor& editor) {
+        return activate(editor, "c.c") && editor.runCommand(CommandId::Compile) &&
+               WaitUntil([&] { return isActive(editor, "Message Window"); }) &&
+               editor.runCommand(CommandId::NextError) && editor.showsMessage("c.c:3:5: error: wrong") &&
+               closesList(editor, "Message Window") && WaitUntil([&] { return isActive(editor, "c.c"); });
+    }
+    static bool readHelp(const Editor& editor) {
+        const auto viewer = [] { return FindWindowA("VexaHelp", nullptr); };
+        editor.runCommand(CommandId::HelpIndex);
+        if (!WaitUntil([&] { return viewer() && GetForegroundWindow() == viewer(); })) return false;
+        editor.keys("{Esc}");
+        if (!WaitUntil([&] { return !viewer(); })) return false;
+        SetForegroundWindow(editor.frame());
+        return WaitUntil([&] { return GetForegroundWindow() == editor.frame(); });
+    }
+    bool useGuest(const Editor& editor) {
+        static constexpr bool (*kGuests[])(const Editor&) = {&runTool, &runCommandLine, &compile, &readHelp};
+        return isAtRest(editor) && kGuests[guests_++ % std::size(kGuests)](editor) && hasUsedKeys(editor);
+    }
+
+    static std::string stateOf(const Editor& editor) {
+        editor.takePicture("soak");
+        return TextOf(editor.activeDocument()) + ", " + editor.message() + ", " + editor.recording();
+    }
+
+    // ---- the end ----
+
     // Undoes everything in the active document, writes it and gives back what was written.
     std::string undone(const Editor& editor, const std::string& name) {
-        editor.keys("{Esc}");
         EXPECT_TRUE(hasUsedKeys(editor));
         for (int i = 0; i < kMostSteps && editor.message() != "Nothing to undo!"; ++i)
             editor.runCommand(CommandId::Undo);
         // What is read at the end has been written by this save, into a new file.
         DeleteFileA(folder.path(name).c_str());
-        // Nothing is recorded any more, which would warn instead of telling of the save.
-        if (!editor.recording().empty()) editor.keys("{F7}");
         if (editor.mode() == "OVR") editor.keys("{Alt+I}");
         editor.keys("{Ctrl+Home}z{Backspace}");
         EXPECT_TRUE(hasUsedKeys(editor));
@@ -105,41 +213,81 @@ class Soak : public ::testing::Test {
         EXPECT_TRUE(editor.showsMessage("Write successful.")) << editor.message();
         return folder.get(name);
     }
+    // What a compiler has been given was saved with its changes.
+    void undoAll(const Editor& editor) {
+        ASSERT_TRUE(isAtRest(editor)) << "a macro may go to another window";
+        for (const char* name : {"a.c", "b.c", "c.c"}) {
+            ASSERT_TRUE(activate(editor, name)) << name;
+            const std::string text = undone(editor, name);
+            EXPECT_TRUE(text == loaded_ || name == std::string("c.c")) << name << ":\n" << text;
+        }
+    }
+    // In kilobytes, with everything undone and saved, which empties the histories.
+    int memoryOf(const Editor& editor, unsigned commands) {
+        undoAll(editor);
+        const int memory = static_cast<int>(PrivateBytesOf(editor) / 1024);
+        std::printf("%u commands: %d KB of its own\n", commands, memory);
+        return memory;
+    }
 
+    const std::string loaded_ = LongText();
     TestFolder folder;
     const std::vector<std::string> commands_ = CommandNames();
+    unsigned guests_ = 0;
     std::mt19937 random_{FromEnvironment("VEXA_SOAK_SEED", 1)};
 };
 
 TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
-    std::string text;
-    for (int i = 0; i < 200; ++i)
-        text += "int f" + std::to_string(i) + "(int x) { return g(x, {1, 2}); }  // a line of text\r\n";
-    folder.put("a.c", text);
-    folder.put("b.c", text);
-    folder.put("vexa.INI", "[Editor Options]\r\nAutoBackup=0\r\n");
-    const Editor editor(folder, {"a.c", "b.c"});
-    ASSERT_TRUE(editor.hasCaption("b.c]"));
-    const DWORD start = GetTickCount();
+    const Editor editor(folder, {"a.c", "b.c", "c.c"});
+    ASSERT_TRUE(editor.hasCaption("c.c]"));
     const DWORD duration = 1000 * FromEnvironment("VEXA_SOAK_SECONDS", 30);
+    DWORD start = GetTickCount();
     unsigned done = 0;
     for (; GetTickCount() - start < duration; ++done) {
+        const DWORD present = GetTickCount();
+        const bool isTimeForGuest = present - start >= kFirstGuest + guests_ * kBetweenGuests;
+        ASSERT_TRUE(!isTimeForGuest || useGuest(editor))
+            << "guest " << guests_ << " after " << done << ": " << stateOf(editor);
+        start += GetTickCount() - present;
         ASSERT_TRUE(doSomething(editor) && editor.answers()) << "after " << done;
         ASSERT_TRUE(editor.isRunning()) << "after " << done;
         ASSERT_FALSE(editor.hasDialog()) << "after " << done;
         const bool isTimeToWait = done % kMostWaiting == 0;
         ASSERT_TRUE(!isTimeToWait || hasUsedKeys(editor)) << "after " << done;
     }
-    ASSERT_TRUE(hasUsedKeys(editor));
-    ASSERT_TRUE(hasEndedPlaying(editor));
     RecordProperty("actions", static_cast<int>(done));
-    for (int i = 0; i < 2; ++i) {
-        const std::string name = TextOf(editor.activeDocument()).find("a.c") != std::string::npos ? "a.c" : "b.c";
-        EXPECT_EQ(undone(editor, name), text) << name;
-        editor.runCommand(CommandId::NextWindow);
-    }
-    EXPECT_EQ(folder.get("a.c") + folder.get("b.c"), text + text);
+    undoAll(editor);
     EXPECT_GT(done, duration / 1000 * 10);
+}
+
+// Memory that is given back late is no growth, so only what comes after the first tenth counts.
+TEST_F(Soak, MemoryDoesNotGrowWithTheNumberOfCommands) {
+    static constexpr CommandId kRound[] = {
+        CommandId::DocumentEnd, CommandId::ToggleCase,      CommandId::Undo,          CommandId::Redo,
+        CommandId::Undo,        CommandId::WindowStart,     CommandId::UpperCase,     CommandId::Undo,
+        CommandId::WindowEnd,   CommandId::FindNext,        CommandId::SelectAll,     CommandId::Clear,
+        CommandId::Undo,        CommandId::RecordMacro,     CommandId::WindowStart,   CommandId::RecordMacro,
+        CommandId::PlayMacro,   CommandId::MatchingBracket, CommandId::DocumentStart,
+    };
+    constexpr unsigned kBetweenSaves = 5000;
+    constexpr int kBearable = 512;  // kilobytes
+    const unsigned commands = FromEnvironment("VEXA_SOAK_COMMANDS", 0);
+    if (commands == 0) GTEST_SKIP() << "takes minutes";
+    const Editor editor(folder, {"a.c", "b.c", "c.c"});
+    ASSERT_TRUE(editor.hasCaption("c.c]"));
+    int first = 0;
+    int last = 0;
+    for (unsigned done = 0; done <= commands && !HasFailure(); ++done) {
+        const bool isTimeToLook = done == commands / 10 || done == commands / 2 || done == commands;
+        if (done % kBetweenSaves == 0) {
+            ASSERT_TRUE(useGuest(editor)) << "guest " << guests_ << " after " << done << ": " << stateOf(editor);
+            undoAll(editor);
+        }
+        if (isTimeToLook) last = memoryOf(editor, done);
+        if (done == commands / 10) first = last;
+        ASSERT_TRUE(editor.runCommand(kRound[done % std::size(kRound)])) << done;
+    }
+    EXPECT_LT(last - first, kBearable);
 }
 
 }  // namespace
