@@ -9,11 +9,12 @@ TextPosition InsertLines(EditView& view, TextPosition start, std::int32_t length
     LineEditor& editor = view.editor();
     TextDocument& document = view.document();
     const std::string_view first = text.substr(0, text.find('\n'));
+    if (first.size() == text.size()) {
+        editor.run<ReplaceRun>(start.line, start.column, length, text);
+        return {start.line, start.column + static_cast<std::int32_t>(text.size())};
+    }
     const std::string rest(document.text(start.line).substr(static_cast<std::size_t>(start.column.value + length)));
-    const bool isOneLine = first.size() == text.size();
-    const std::int32_t toEnd = length + static_cast<std::int32_t>(rest.size());
-    editor.run<ReplaceRun>(start.line, start.column, isOneLine ? length : toEnd, first);
-    if (isOneLine) return {start.line, start.column + static_cast<std::int32_t>(text.size())};
+    editor.run<ReplaceRun>(start.line, start.column, length + static_cast<std::int32_t>(rest.size()), first);
     editor.moveToLine(start.line);
     editor.cursorDown();
     const std::string_view last = text.substr(text.rfind('\n') + 1);
