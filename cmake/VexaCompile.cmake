@@ -11,7 +11,7 @@ target_include_directories(vexa_compile INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(vexa_compile INTERFACE
   -Wall -Wextra -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(WIN32)
-  # One thread makes all static objects, as the others only wait for a disk: nothing need guard that. No code asks for type
+  # One thread makes all static objects, as the others only write files: nothing need guard that. No code asks for type
   # information.
   target_compile_options(vexa_compile INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-fno-threadsafe-statics>
                                                 $<$<COMPILE_LANGUAGE:CXX>:-fno-rtti>)

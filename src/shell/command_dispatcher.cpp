@@ -6,7 +6,7 @@ namespace vexa {
 namespace {
 
 bool AsksForFile(CommandNeed need) {
-    return need >= CommandNeed::AnyDocument;
+    return need != CommandNeed::Nothing && need != CommandNeed::Window;
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ class GapVector {
     void widenGap(std::int32_t least);
 
     std::vector<TextLine*> items_;
-    std::int32_t size_ = 0;
+    std::int32_t size_ = 0;  // without the gap; kept, as every look at a line asks for it
     std::int32_t gapStart_ = 0;
     std::int32_t gapLength_ = 0;
 };

@@ -29,6 +29,7 @@ void RecoveryDisk::remove(const std::string& path) try {
     platform::RemoveFile(path);
 }
 
+// The thread that carries the order out does not look at its document.
 void RecoveryDisk::disown(const TextDocument& document) {
     if (order_.document == &document) order_.document = nullptr;
     for (RecoveryOrder& order : waiting_)

@@ -110,7 +110,7 @@ void RecoveryKeeper::fail(const TextDocument& document) {
 }
 
 void RecoveryKeeper::waitUntilKept() {
-    for (; isKeeping(); takeEnded()) {
+    for (; isKeeping() || disk_.isBusy(); takeEnded()) {
         if (goOn() == Work::Wait) platform::Pause(1);
     }
 }
