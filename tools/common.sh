@@ -49,13 +49,13 @@ end_process() {
 start_virtual_display() {
     local number_file
     number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>"$number_file.said" &
     xvfb_pid=$!
     while [ ! -s "$number_file" ]; do
-        kill -0 "$xvfb_pid" 2>/dev/null || fail "The virtual display did not start."
+        kill -0 "$xvfb_pid" 2>/dev/null || fail "The virtual display did not start: $(cat "$number_file.said")"
         sleep 0.05
     done
     DISPLAY=:$(cat "$number_file")
     export DISPLAY
-    rm -f "$number_file"
+    rm -f "$number_file" "$number_file.said"
 }
