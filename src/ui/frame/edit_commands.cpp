@@ -4,6 +4,7 @@
 #include "document/view/goto_line_model.h"
 #include "ui/dialogs/number_dialog.h"
 #include "ui/frame/command_rows.h"
+#include "ui/lists/list_window.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -23,8 +24,6 @@ constexpr ViewCommandRow kViewRows[] = {
     {CommandId::MatchingBracket, &OnView<&EditView::toMatchingBracket>},
     {CommandId::WindowStart, &OnView<&EditView::moveBy, WindowStart>},
     {CommandId::WindowEnd, &OnView<&EditView::moveBy, WindowEnd>},
-    {CommandId::DocumentStart, &OnView<&EditView::moveBy, DocumentStart>},
-    {CommandId::DocumentEnd, &OnView<&EditView::moveBy, DocumentEnd>},
 };
 
 }  // namespace
@@ -33,9 +32,21 @@ void EditCommands::registerCommands(CommandDispatcher& dispatcher) {
     static constexpr MethodRow<EditCommands> kRows[] = {
         {CommandId::GotoLine, &EditCommands::gotoLine},
         {CommandId::GotoBookmark, &EditCommands::gotoBookmark},
+        {CommandId::DocumentStart, &EditCommands::moveToStart},
+        {CommandId::DocumentEnd, &EditCommands::moveToEnd},
     };
     RegisterRows(dispatcher, *this, kRows);
     RegisterRows(dispatcher, documents_, kViewRows);
+}
+
+void EditCommands::moveToStart() {
+    if (ListWindow* list = documents_.activeList()) return list->takeKey(VK_HOME);
+    documents_.operate(&OnView<&EditView::moveBy, DocumentStart>);
+}
+
+void EditCommands::moveToEnd() {
+    if (ListWindow* list = documents_.activeList()) return list->takeKey(VK_END);
+    documents_.operate(&OnView<&EditView::moveBy, DocumentEnd>);
 }
 
 void EditCommands::gotoLine() {

@@ -15,6 +15,9 @@ class EditCommands {
     void registerCommands(CommandDispatcher& dispatcher);
 
   private:
+    // In a list, to its first and its last row.
+    void moveToStart();
+    void moveToEnd();
     void gotoLine();
     void gotoBookmark();
 

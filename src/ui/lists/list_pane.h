@@ -24,8 +24,9 @@ class ListPane : public RowPane {
     // Where the selected row is on the screen.
     RECT screenPlaceOfSelection() const;
 
-  protected:
     bool onKey(const KeyMessage& key) override;
+
+  protected:
     bool onMousePress(const MouseButtonMessage& press) override;
     bool onMouseMove(POINT place) override;
     bool onMouseRelease(POINT place) override;

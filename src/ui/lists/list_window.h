@@ -34,6 +34,8 @@ class ListWindow : public TextWindow, private RowPaneHost {
     // The selected rows go to the clipboard as lines of text.
     void copy();
     void copyAll();
+    // Does what the key does in the list, for a command whose own key never comes to it.
+    void takeKey(UINT key) { pane_.onKey({.key = key}); }
     void refresh() { pane_.refresh(); }
     void showSelection() { pane_.showSelection(); }
     void refreshFont() override { pane_.refreshFont(); }
