@@ -242,19 +242,21 @@ std::string AnsiCharacter(char32_t character);
 
 // ---- threads -----------------------------------------------------------------------------------------------------
 
-// Something that is done while the program goes on, in a thread of the system. Where there can be no thread it is done
-// before the constructor returns.
+// Something that is done again and again while the program goes on, in a thread of the system. The thread is started
+// when it is first needed, and waits in between. While there can be none, begin() does the work before it returns.
 class BackgroundWork {
   public:
     using Function = void (*)(void* context) noexcept;
 
-    BackgroundWork(Function function, void* context);
-    // Waits for its end.
+    BackgroundWork(Function function, void* context) : function_(function), context_(context) {}
+    // Waits for the end of what was begun.
     ~BackgroundWork();
     BackgroundWork(const BackgroundWork&) = delete;
     BackgroundWork& operator=(const BackgroundWork&) = delete;
+    // Not while it is running.
+    void begin();
     // Does not ask the system, which may be busy with the work.
-    bool hasEnded();
+    bool isRunning();
 
   private:
     struct Thread;
@@ -262,7 +264,9 @@ class BackgroundWork {
 
     const Function function_;
     void* const context_;
-    std::atomic<bool> hasEnded_ = false;
+    std::atomic<bool> isRunning_ = false;
+    [[maybe_unused]] std::intptr_t thread_ = 0;  // the host needs neither
+    [[maybe_unused]] std::intptr_t begins_ = 0;
 };
 
 // ---- the rest ----------------------------------------------------------------------------------------------------

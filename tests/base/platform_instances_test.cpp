@@ -53,19 +53,6 @@ TEST_F(PlatformInstances, AFileNameIsParsedWithoutTheFile) {
     EXPECT_EQ(ParseFileName("C:\\" + std::string(125, 'x')), "");
 }
 
-TEST_F(PlatformInstances, WorkInTheBackgroundIsDoneAtTheLatestAtItsObjectsEnd) {
-    int done = 0;
-    const auto count = [](void* context) noexcept { ++*static_cast<int*>(context); };
-    {
-        BackgroundWork first(count, &done);
-        while (!first.hasEnded())
-            Pause(1);
-        EXPECT_EQ(done, 1);
-        const BackgroundWork second(count, &done);
-    }
-    EXPECT_EQ(done, 2);
-}
-
 TEST_F(PlatformInstances, TheClockCountsSecondsSince1970) {
     constexpr std::int64_t kIn2024 = 1'704'067'200;
     const std::int64_t now = CurrentSeconds();

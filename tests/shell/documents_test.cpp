@@ -241,9 +241,9 @@ Told CopyWhileTyping(DocumentStage& stage, Words) {
     return parts > 45 ? Told("about 3 MB") : Told(parts);
 }
 
-Told HoldDisk([[maybe_unused]] bool isHeld) {
+Told HoldDisk(DocumentStage&, [[maybe_unused]] Words words) {
 #ifndef _WIN32
-    platform::host::HoldBackground(isHeld);
+    platform::host::HoldBackground(words.number());
 #endif
     return {};
 }
@@ -334,8 +334,7 @@ const Verbs<DocumentStage> kVerbs = {
          g_ticks += static_cast<std::uint32_t>(w.number());
          return Told(s.keeper->work() == RecoveryKeeper::Work::More);
      }},
-    {"hold-disk", [](DocumentStage&, Words) { return HoldDisk(true); }},
-    {"release-disk", [](DocumentStage&, Words) { return HoldDisk(false); }},
+    {"hold-disk", &HoldDisk},
     {"keep", [](DocumentStage& s, Words) { return s.keeper->writeAll(), Told(); }},
     {"kept", [](DocumentStage& s, Words) { return Told(platform::FindFiles(s.directory + "\\*.vxr").size()); }},
     {"forget-document", &Forget},

@@ -71,7 +71,7 @@ void RecoveryCopy::copy(RecoveryParts::iterator old) {
     const LineIndex last(lines_ - 1);
     RecoveryPart copied;
     copied.isCopied = true;
-    copied.text.reserve(part_);
+    copied.text.reserve(part_ + part_ / 8);  // the last line goes beyond it
     for (; copied.lines < old->lines && copied.text.size() < part_; ++copied.lines, ++line) {
         copied.text += document_.text(line);
         copied.text += RecoveredLineEnd(document_, line, last);

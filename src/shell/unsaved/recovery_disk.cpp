@@ -11,6 +11,21 @@
 #include "shell/unsaved/recovery_file.h"
 
 namespace vexa {
+namespace {
+
+bool Write(RecoveryOrder& order) {
+    Checksum checksum;
+    std::string& head = order.parts.front().text;
+    checksum.add(std::string_view(head).substr(kUncounted));
+    for (auto part = std::next(order.parts.begin()); part != order.parts.end(); ++part)
+        checksum.add(part->text);
+    SealRecovery(head, checksum.value());
+    return RewriteFile(order.path, [&order](File& file) {
+        return std::ranges::all_of(order.parts, [&](const RecoveryPart& part) { return file.write(part.text); });
+    });
+}
+
+}  // namespace
 
 RecoveryDisk::~RecoveryDisk() {
     for (; isBusy(); takeEnded())
@@ -18,12 +33,12 @@ RecoveryDisk::~RecoveryDisk() {
 }
 
 void RecoveryDisk::write(RecoveryOrder order) {
-    waiting_.push_back(std::move(order));
+    orders_.push_back(std::move(order));
     begin();
 }
 
 void RecoveryDisk::remove(const std::string& path) try {
-    waiting_.emplace_back().path = path;
+    orders_.emplace_back().path = path;
     begin();
 } catch (const std::bad_alloc&) {
     platform::RemoveFile(path);
@@ -31,24 +46,21 @@ void RecoveryDisk::remove(const std::string& path) try {
 
 // The thread that carries the order out does not look at its document.
 void RecoveryDisk::disown(const TextDocument& document) {
-    if (order_.document == &document) order_.document = nullptr;
-    for (RecoveryOrder& order : waiting_)
+    for (RecoveryOrder& order : orders_)
         if (order.document == &document) order.document = nullptr;
 }
 
 void RecoveryDisk::begin() {
-    if (running_ || waiting_.empty()) return;
-    order_ = std::move(waiting_.front());
-    waiting_.pop_front();
-    running_.emplace(&CarryOut, this);
+    if (begun_ || orders_.empty()) return;
+    begun_ = &orders_.front();
+    work_.begin();
 }
 
 // Without a document an order is a removal, or has become one.
 std::optional<RecoveryOrder> RecoveryDisk::takeEnded() {
-    while (running_ && running_->hasEnded()) {
-        running_.reset();
-        RecoveryOrder ended = std::move(order_);
-        order_ = {};
+    while (begun_ && !work_.isRunning()) {
+        RecoveryOrder ended = std::move(*std::exchange(begun_, nullptr));
+        orders_.pop_front();
         const bool isUnwanted = !ended.parts.empty() && !ended.document && !ended.path.empty();
         if (isUnwanted) remove(ended.path);
         begin();
@@ -60,30 +72,18 @@ std::optional<RecoveryOrder> RecoveryDisk::takeEnded() {
 // ---- in the background -------------------------------------------------------------------------------------------
 
 void RecoveryDisk::CarryOut(void* disk) noexcept try {
-    RecoveryOrder& order = static_cast<RecoveryDisk*>(disk)->order_;
-    order.isDone = static_cast<RecoveryDisk*>(disk)->carryOut();
+    RecoveryOrder& order = *static_cast<RecoveryDisk*>(disk)->begun_;
+    order.isDone = static_cast<RecoveryDisk*>(disk)->carryOut(order);
     // The document's thread would need time to give the memory back.
     for (RecoveryPart& part : order.parts)
-        part.text = {};
+        std::string().swap(part.text);
 } catch (const std::bad_alloc&) {
 }
 
-bool RecoveryDisk::carryOut() {
-    if (order_.parts.empty()) return platform::RemoveFile(order_.path);
-    if (order_.path.empty()) order_.path = names_.next();
-    return !order_.path.empty() && write();
-}
-
-bool RecoveryDisk::write() {
-    Checksum checksum;
-    std::string& head = order_.parts.front().text;
-    checksum.add(std::string_view(head).substr(kUncounted));
-    for (auto part = std::next(order_.parts.begin()); part != order_.parts.end(); ++part)
-        checksum.add(part->text);
-    SealRecovery(head, checksum.value());
-    return RewriteFile(order_.path, [this](File& file) {
-        return std::ranges::all_of(order_.parts, [&](const RecoveryPart& part) { return file.write(part.text); });
-    });
+bool RecoveryDisk::carryOut(RecoveryOrder& order) {
+    if (order.parts.empty()) return platform::RemoveFile(order.path);
+    if (order.path.empty()) order.path = names_.next();
+    return !order.path.empty() && Write(order);
 }
 
 }  // namespace vexa

@@ -32,7 +32,7 @@ class RecoveryDisk {
     RecoveryDisk(const RecoveryDisk&) = delete;
     RecoveryDisk& operator=(const RecoveryDisk&) = delete;
 
-    bool isBusy() const { return running_ || !waiting_.empty(); }
+    bool isBusy() const { return !orders_.empty(); }
     void write(RecoveryOrder order);
     // Without memory for the order it is done at once.
     void remove(const std::string& path);
@@ -44,13 +44,12 @@ class RecoveryDisk {
   private:
     void begin();
     static void CarryOut(void* disk) noexcept;
-    bool carryOut();
-    bool write();
+    bool carryOut(RecoveryOrder& order);
 
     RecoveryNames& names_;
-    std::list<RecoveryOrder> waiting_;
-    RecoveryOrder order_;  // that is being carried out
-    std::optional<platform::BackgroundWork> running_;
+    std::list<RecoveryOrder> orders_;
+    RecoveryOrder* begun_ = nullptr;  // the first of them, which the work has alone
+    platform::BackgroundWork work_{&CarryOut, this};
 };
 
 }  // namespace vexa

@@ -6,29 +6,32 @@ namespace vexa::platform {
 
 namespace {
 
-bool g_isHeld = false;
+int g_asks = 0;
 
 }  // namespace
 
-void host::HoldBackground(bool isHeld) {
-    g_isHeld = isHeld;
-}
-
-BackgroundWork::BackgroundWork(Function function, void* context) : function_(function), context_(context) {
-    if (!g_isHeld) run();
+void host::HoldBackground(int asks) {
+    g_asks = asks;
 }
 
 BackgroundWork::~BackgroundWork() {
-    if (!hasEnded_) run();
+    if (isRunning_) run();
 }
 
-bool BackgroundWork::hasEnded() {
-    if (!hasEnded_ && !g_isHeld) run();
-    return hasEnded_;
+void BackgroundWork::begin() {
+    isRunning_ = true;
+    if (g_asks == 0) run();
+}
+
+bool BackgroundWork::isRunning() {
+    const bool isHeld = g_asks > 0 && isRunning_;
+    if (isHeld) --g_asks;
+    if (isRunning_ && !isHeld) run();
+    return isRunning_;
 }
 
 void BackgroundWork::run() {
-    hasEnded_ = true;
+    isRunning_ = false;
     function_(context_);
 }
 

@@ -4,8 +4,8 @@
 
 namespace vexa::platform::host {
 
-// Held work is done when it is asked about after its release, or at its object's end. Not held by default: work is done
-// at once.
-void HoldBackground(bool isHeld);
+// Work is done when it has been asked about more often than that from now on, or at its object's end. 0, as it is
+// without a test: at its beginning.
+void HoldBackground(int asks);
 
 }  // namespace vexa::platform::host
