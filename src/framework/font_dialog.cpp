@@ -4,10 +4,26 @@
 
 #include <commdlg.h>
 
+#include "framework/gdi.h"
+
 namespace vexa {
+namespace {
+
+// The face that the system shows for a description. The dialog lists no face that the system has only a substitute for,
+// and forgets the size with it.
+void NameShownFace(HWND window, LOGFONTA& description) {
+    const FontHandle font(CreateFontIndirectA(&description));
+    const WindowDc dc = BorrowDc(window);
+    if (!dc) return;
+    const Selected selected(dc.get().dc, font.get());
+    GetTextFaceA(dc.get().dc, LF_FACESIZE, description.lfFaceName);
+}
+
+}  // namespace
 
 bool AskFixedPitchFont(HWND owner, LOGFONTA& description) {
     LOGFONTA answer = description;
+    NameShownFace(owner, answer);
     CHOOSEFONTA request{};
     request.lStructSize = sizeof(request);
     request.hwndOwner = owner;

@@ -115,7 +115,6 @@ void OpenDocuments::nameChanged(const TextDocument& document) {
 }
 
 bool OpenDocuments::mayClose(DocumentWindow& window) {
-    if (window.document().isModified()) frame_.activate(window);
     return files_.queryClose(window.document());
 }
 

@@ -209,6 +209,15 @@ void VexaFrame::childrenChanged() {
     bars_.showDocument(documents_.active());
 }
 
+// The box of the question that follows does no work while idle, so the tabs are drawn anew before.
+bool VexaFrame::mayCloseDocument(DocumentWindow& window) {
+    if (window.document().isModified()) {
+        activate(window);
+        bars_.refreshTabs();
+    }
+    return documents_.mayClose(window);
+}
+
 void VexaFrame::documentCloses(const DocumentWindow& window) {
     commands_.external().documentCloses(window);
     session_.documentCloses(window.document());
