@@ -1,52 +1,103 @@
 #include "base/checksum.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
+
+#ifdef VEXA_SSE2_TARGET
+#include <emmintrin.h>
+#endif
 
 namespace vexa {
 
 namespace {
 
-constexpr std::size_t kWord = 8;
+// Primes of 32 bits, so that a change of one half of a lane always shows, and in bits all over the lane: what the same
+// lane takes from the next row would have to change in all of those to make up for it.
+constexpr std::uint32_t kLowFactor = 0x9E3779B1;
+constexpr std::uint32_t kHighFactor = 0x85EBCA77;
 
-std::uint32_t Mixed(std::uint32_t lane, std::uint32_t word, std::uint32_t factor) {
-    return std::rotl(lane ^ (word * factor), 13) * 5 + 0xE6546B64;
+[[gnu::noinline]] std::uint64_t Mixed(std::uint64_t lane) {
+    return (lane & 0xFFFFFFFF) * kLowFactor + (lane >> 32) * kHighFactor;
 }
+
+#ifdef VEXA_SSE2_TARGET
+// The same of two lanes that take the bytes.
+[[gnu::always_inline]] VEXA_SSE2_TARGET inline __m128i MixedWith(const char* bytes, __m128i lanes) {
+    lanes = _mm_xor_si128(lanes, _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)));
+    return _mm_add_epi64(_mm_mul_epu32(lanes, _mm_set1_epi32(static_cast<int>(kLowFactor))),
+                         _mm_mul_epu32(_mm_srli_epi64(lanes, 32), _mm_set1_epi32(static_cast<int>(kHighFactor))));
+}
+#endif
 
 }  // namespace
 
-void Checksum::addWord(const char* bytes) {
-    std::uint32_t low = 0;
-    std::uint32_t high = 0;
-    std::memcpy(&low, bytes, sizeof low);
-    std::memcpy(&high, bytes + sizeof low, sizeof high);
-    a_ = Mixed(a_, low, 0xCC9E2D51);
-    b_ = Mixed(b_, high, 0x1B873593);
+Checksum::Checksum(Instructions most) : instructions_(AvailableOf(most)) {
+    std::uint64_t seed = 0;
+    for (std::uint64_t& lane : lanes_)
+        lane = seed += 0x9E3779B97F4A7C15;
 }
 
+void Checksum::addRows(const char* rows, std::size_t count) {
+#ifdef VEXA_SSE2_TARGET
+    if (instructions_ != Instructions::Plain) {
+        addRowsSse2(rows, count);
+        return;
+    }
+#endif
+    for (; count > 0; --count) {
+        for (std::uint64_t& lane : lanes_) {
+            std::uint64_t taken = 0;
+            std::memcpy(&taken, rows, sizeof taken);
+            lane = Mixed(lane ^ taken);
+            rows += sizeof taken;
+        }
+    }
+}
+
+#ifdef VEXA_SSE2_TARGET
+VEXA_SSE2_ENTRY void Checksum::addRowsSse2(const char* rows, std::size_t count) {
+    auto* const lanes = reinterpret_cast<__m128i*>(lanes_.data());
+    __m128i a = _mm_loadu_si128(lanes);
+    __m128i b = _mm_loadu_si128(lanes + 1);
+    __m128i c = _mm_loadu_si128(lanes + 2);
+    __m128i d = _mm_loadu_si128(lanes + 3);
+    for (; count > 0; --count, rows += kRow) {
+        a = MixedWith(rows, a);
+        b = MixedWith(rows + 16, b);
+        c = MixedWith(rows + 32, c);
+        d = MixedWith(rows + 48, d);
+    }
+    _mm_storeu_si128(lanes, a);
+    _mm_storeu_si128(lanes + 1, b);
+    _mm_storeu_si128(lanes + 2, c);
+    _mm_storeu_si128(lanes + 3, d);
+}
+#endif
+
 void Checksum::add(std::string_view bytes) {
-    std::size_t used = size_ % kWord;
+    const std::size_t used = size_ % kRow;
     size_ += bytes.size();
     if (used > 0) {
-        const std::size_t taken = std::min(kWord - used, bytes.size());
-        std::memcpy(rest_ + used, bytes.data(), taken);
+        const std::size_t taken = std::min(kRow - used, bytes.size());
+        std::memcpy(&rest_[used], bytes.data(), taken);
         bytes.remove_prefix(taken);
-        if (used + taken < kWord) return;
-        addWord(rest_);
+        if (used + taken < kRow) return;
+        addRows(rest_.data(), 1);
     }
-    for (; bytes.size() >= kWord; bytes.remove_prefix(kWord))
-        addWord(bytes.data());
-    if (!bytes.empty()) std::memcpy(rest_, bytes.data(), bytes.size());
+    addRows(bytes.data(), bytes.size() / kRow);
+    bytes.remove_prefix(bytes.size() / kRow * kRow);
+    if (!bytes.empty()) std::memcpy(rest_.data(), bytes.data(), bytes.size());
 }
 
 std::uint64_t Checksum::value() const {
     Checksum whole = *this;
-    std::fill(whole.rest_ + size_ % kWord, whole.rest_ + kWord, '\0');
-    whole.addWord(whole.rest_);
-    const auto high = Mixed(whole.a_, static_cast<std::uint32_t>(size_), 0xCC9E2D51);
-    const auto low = Mixed(whole.b_, static_cast<std::uint32_t>(size_ >> 32) + high, 0x1B873593);
-    return std::uint64_t{high} << 32 | low;
+    const std::size_t used = size_ % kRow;
+    std::memset(&whole.rest_[used], 0, kRow - used);
+    whole.addRows(whole.rest_.data(), 1);
+    std::uint64_t sum = size_;
+    for (const std::uint64_t lane : whole.lanes_)
+        sum = Mixed(sum ^ lane);
+    return sum;
 }
 
 std::uint64_t ChecksumOf(std::string_view bytes) {

@@ -6,20 +6,7 @@
 
 #include "base/ascii.h"
 
-// The vector instructions are compiled in wherever the processor family may have them, and used only where it does. A
-// 32-bit Windows function may be entered with a stack that is not aligned for vectors.
-#if defined(__x86_64__)
-#define VEXA_SSE2 1
-#define VEXA_SSE2_TARGET
-#define VEXA_SSE2_ENTRY
-#elif defined(__i386__)
-#define VEXA_SSE2 1
-#define VEXA_SSE2_TARGET __attribute__((target("sse2")))
-#define VEXA_SSE2_ENTRY __attribute__((target("sse2"), force_align_arg_pointer))
-#endif
-
-#ifdef VEXA_SSE2
-#include <cpuid.h>
+#ifdef VEXA_SSE2_TARGET
 #include <emmintrin.h>
 #endif
 
@@ -33,30 +20,7 @@ char FoldOf(char folded, LetterCase letterCase) {
     return letterCase == LetterCase::Ignored && folded >= 'a' && folded <= 'z' ? kCaseBit : '\0';
 }
 
-#ifdef VEXA_SSE2
-// Asks the processor itself: what the compiler has for it knows every processor by name, in 6 KB.
-Instructions DetectInstructions() {
-    constexpr unsigned kFeatures = 1;
-    unsigned signature = 0;
-    unsigned brand = 0;
-    unsigned newer = 0;
-    unsigned older = 0;
-    if (__get_cpuid(kFeatures, &signature, &brand, &newer, &older) == 0) return Instructions::Plain;
-    if ((newer & bit_SSSE3) != 0) return Instructions::Ssse3;
-    return (older & bit_SSE2) != 0 ? Instructions::Sse2 : Instructions::Plain;
-}
-#else
-Instructions DetectInstructions() {
-    return Instructions::Plain;
-}
-#endif
-
 }  // namespace
-
-Instructions AvailableOf(Instructions most) {
-    static const Instructions available = DetectInstructions();
-    return std::min(available, most);
-}
 
 PlainSearch::PlainSearch(std::string_view literal, LetterCase letterCase, Instructions most)
     : literal_(literal), letterCase_(letterCase), instructions_(AvailableOf(most)) {
@@ -100,7 +64,7 @@ const char* PlainSearch::findPlain(const char* place, std::size_t places) const 
     return nullptr;
 }
 
-#ifdef VEXA_SSE2
+#ifdef VEXA_SSE2_TARGET
 
 // Compares the first and the last byte of the literal with those of 16 places at a time, and looks at the rest only
 // where both are the same.

@@ -11,9 +11,6 @@
 
 namespace vexa {
 
-// What the processor has of the instructions that a search may use.
-Instructions AvailableOf(Instructions most);
-
 // A literal, prepared to be looked for in many lines. Ignoring letter case folds A-Z to a-z on both sides.
 class PlainSearch {
   public:

@@ -2,12 +2,10 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+
+#include "base/instructions.h"
 
 namespace vexa {
-
-// The processor's instructions that a search uses, each set with those before it.
-enum class Instructions : std::uint8_t { Plain, Sse2, Ssse3 };
 
 struct SearchTuning {
     Instructions most = Instructions::Ssse3;  // used where the processor has them
