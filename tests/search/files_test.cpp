@@ -169,15 +169,16 @@ TEST_F(FilesSearch, GoesThroughFoldersInOrder) {
     disk.put("b.c", "one\r\nNEEDLE two needle\r\n");
     disk.put("A.h", "needle");
     disk.put("a.txt", "needle");
-    disk.put("sub\\x.c", "\n\n\tneedle\n");
+    disk.put("sub\\x.c", "\n\n\tneedle\nneedle\n");
     disk.put("sub\\deep\\y.h", std::string("needle\0", 7));
     disk.put("sub\\late.c", "needle" + std::string(LineBlocks::kLookedAt, '-') + '\0');
     disk.put(".hidden.c", "needle");
     disk.setHidden(".hidden.c");
     request.patterns = "*.c;*.h";
     const std::string late = "sub\\late.c:1: needle" + std::string(294, '-');
-    EXPECT_EQ(find("needle"), (Texts{"A.h:1: needle", "b.c:2: NEEDLE two needle", late, "sub\\x.c:3: \tneedle"}));
-    EXPECT_EQ(lastRow(), "4 lines found in 4 of 5 files.");
+    EXPECT_EQ(find("needle"),
+              (Texts{"A.h:1: needle", "b.c:2: NEEDLE two needle", late, "sub\\x.c:3: \tneedle", "sub\\x.c:4: needle"}));
+    EXPECT_EQ(lastRow(), "5 lines found in 4 of 5 files.");
     EXPECT_EQ(view.shows, 1);
     request.subfolders = false;
     request.options.setMatchCase(true);

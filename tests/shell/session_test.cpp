@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "base/strings.h"
 #include "shell/closing_order.h"
 #include "shell/frame_placement.h"
 #include "shell/recent_files.h"
@@ -142,6 +143,12 @@ Opened Restore(StartupFiles& files, bool restore) {
     Opened opened;
     files.RestoreStartupFiles(restore, [&](const std::string& path, int line) { opened.emplace_back(path, line); });
     return opened;
+}
+
+TEST_F(Session, OneFileThatIsGoneIsNamedAloneAndMoreAreCounted) {
+    const std::string paths[] = {"C:\\SUB\\A.C", "C:\\B.C"};
+    EXPECT_EQ(TextOfMissing(std::span(paths).first(1)), FillText(TextId::CannotOpenFile, {"A.C"}));
+    EXPECT_EQ(TextOfMissing(paths), "2 files of the last session can not be found:\n\nC:\\SUB\\A.C\nC:\\B.C\n");
 }
 
 TEST_F(Session, OfFourOpenFilesThreeAreReopenedTheLastSlotFirst) {
