@@ -25,6 +25,8 @@ class DocumentHost {
     virtual void keyUsed(const KeyEvent& event) = 0;
     virtual void zoom(std::int32_t steps) = 0;
     virtual bool mayCloseDocument(DocumentWindow& window) = 0;
+    // A question about the window's document follows, which the user is to have before his eyes.
+    virtual void questionFollows(DocumentWindow& window) = 0;
     // The window is going to be closed.
     virtual void documentCloses(const DocumentWindow& window) = 0;
     virtual void showContextMenu(POINT screenPlace) = 0;

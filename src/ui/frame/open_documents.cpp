@@ -103,6 +103,9 @@ void OpenDocuments::restoreIfMinimised() {
 // ---- saving and closing ------------------------------------------------------------------------------------------
 
 std::optional<std::string> OpenDocuments::askSaveName(const TextDocument& document) {
+    each([&](DocumentWindow& window) {
+        if (&window.document() == &document) host_.questionFollows(window);
+    });
     FileDialogRequest request = FileRequest(frame_.window(), TextId::SaveAsTitle, application_.options);
     request.fileName = document.fullPath();
     return AskSaveFile(request);
@@ -115,6 +118,7 @@ void OpenDocuments::nameChanged(const TextDocument& document) {
 }
 
 bool OpenDocuments::mayClose(DocumentWindow& window) {
+    if (window.document().isModified()) host_.questionFollows(window);
     return files_.queryClose(window.document());
 }
 

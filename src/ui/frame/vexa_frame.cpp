@@ -209,13 +209,10 @@ void VexaFrame::childrenChanged() {
     bars_.showDocument(documents_.active());
 }
 
-// The box of the question that follows does no work while idle, so the tabs are drawn anew before.
-bool VexaFrame::mayCloseDocument(DocumentWindow& window) {
-    if (window.document().isModified()) {
-        activate(window);
-        bars_.refreshTabs();
-    }
-    return documents_.mayClose(window);
+// The tabs are drawn anew here because no work is done while a box waits for its answer.
+void VexaFrame::questionFollows(DocumentWindow& window) {
+    activate(window);
+    bars_.refreshTabs();
 }
 
 void VexaFrame::documentCloses(const DocumentWindow& window) {

@@ -77,7 +77,8 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     void keyUsed(const KeyEvent& event) override { commands_.macro().recordKey(event); }
     void zoom(std::int32_t steps) override { commands_.zoom(steps); }
     void documentChanged(const DocumentWindow& window) override { bars_.showDocument(&window); }
-    bool mayCloseDocument(DocumentWindow& window) override;
+    bool mayCloseDocument(DocumentWindow& window) override { return documents_.mayClose(window); }
+    void questionFollows(DocumentWindow& window) override;
     void documentCloses(const DocumentWindow& window) override;
     void showContextMenu(POINT screenPlace) override { showMenu(ContextMenuItems(), screenPlace); }
     bool showTitleMenu(POINT screenPlace) override;
