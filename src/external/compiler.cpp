@@ -32,12 +32,14 @@ void Compiler::Compile(SourceDocument& document) {
     if (prepare(job)) start(job);
 }
 
+// A document that still has no name is one whose user has been asked for it and does not want to compile after all.
 bool Compiler::saved(SourceDocument& document) {
     bool onDisk = !document.isModified() && !document.path().empty();
     if (!onDisk) {
         const BusyCursor busy(notices_);
-        onDisk = document.save() && !document.path().empty();
+        onDisk = document.save();
     }
+    if (document.path().empty()) return false;
     return onDisk || refuse(FillText(TextId::CannotUpdateFile, {document.path()}));
 }
 

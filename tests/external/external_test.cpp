@@ -287,6 +287,7 @@ const Verbs<ExternalStage> kVerbs = {
     {"add-line", [](ExternalStage& s, Words w) { return s.output.AddLine(w.rest()), Told(); }},
     {"opened", &Opened},
     {"document", &MakeDocument},
+    {"unnamed-document", [](ExternalStage& s, Words) { return s.documents.emplace_back(""), Told(); }},
     {"caret", [](ExternalStage& s, Words) { return Told(s.document().caretLine + 1); }},
     {"activations", [](ExternalStage& s, Words) { return Told(s.document().activations); }},
     {"saves", [](ExternalStage& s, Words) { return Told(s.document().saves); }},
