@@ -27,7 +27,7 @@ void DocumentCommands::open() {
 }
 
 void DocumentCommands::close() {
-    documents_.frame().closeChild(*documents_.active());
+    documents_.frame().closeChild(*documents_.frame().activeChild());
 }
 
 void DocumentCommands::save() {
