@@ -125,6 +125,8 @@ void StatusBarCL::layOut() {
         if (!isEmpty) right = left - gap_;
     }
     panes_[0]->place({gap_, gap_, right > gap_ ? right : gap_, client.bottom - gap_});
+    // The system draws only what has come into sight, and the edges have moved.
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 }  // namespace vexa

@@ -98,6 +98,17 @@ bool HasFocus(Stage& stage, StepWords words) {
     return info.hwndFocus == words.control(stage);
 }
 
+// Without a text the middle of a pane has one colour from edge to edge.
+bool IsPlain(Stage& stage, StepWords words) {
+    const HWND bar = ChildrenOf(stage.editor->frame(), "StatusBarCL").at(0);
+    const HWND pane = ChildrenOf(bar, "CtrlWindowCL").at(words.pane());
+    RECT inside{};
+    GetClientRect(pane, &inside);
+    const auto pixels = PixelsOf(pane);
+    const auto row = pixels.begin() + inside.bottom / 2 * inside.right;
+    return std::all_of(row + 1, row + inside.right - 1, [row](std::uint32_t pixel) { return pixel == row[1]; });
+}
+
 bool IsShown(Stage& stage, StepWords words) {
     return IsWindowVisible(ChildrenOf(stage.editor->frame(), words.rest()).at(0));
 }
@@ -139,6 +150,7 @@ const std::map<std::string, Run> kSteps = {
     {"at", &IsAt},
     {"beyond", [](Stage& s, StepWords w) { return s.editor->line() > w.number(); }},
     {"pane", [](Stage& s, StepWords w) { return s.editor->pane(w.pane()) == w.rest(); }},
+    {"plain", &IsPlain},
     {"wide", [](Stage& s, StepWords w) { return s.editor->paneWidth(w.pane()) > 0; }},
     {"narrow", [](Stage& s, StepWords w) { return s.editor->paneWidth(w.pane()) == 0; }},
     {"title", [](Stage& s, StepWords w) { return TextOf(s.editor->frame()) == w.rest(); }},

@@ -19,8 +19,8 @@ const std::map<std::string, CommandId> kCommands = {
 const std::map<std::string, int> kControls = {
 #include "controls.inc"
     {"ok", IDOK}, {"cancel", IDCANCEL}, {"yes", IDYES}, {"no", IDNO}, {"help", IDHELP}};
-const std::map<std::string, std::size_t> kPanes = {
-    {"recording", 1}, {"read-only", 2}, {"line-ends", 3}, {"mode", 4}, {"position", 5}};
+const std::map<std::string, std::size_t> kPanes = {{"message", 0},   {"recording", 1}, {"read-only", 2},
+                                                   {"line-ends", 3}, {"mode", 4},      {"position", 5}};
 
 }  // namespace
 
