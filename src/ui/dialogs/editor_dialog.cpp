@@ -1,7 +1,8 @@
 #include "ui/dialogs/editor_dialog.h"
 
 #include "base/dialog_position.h"
-#include "base/notices.h"
+#include "base/strings.h"
+#include "framework/message_box.h"
 #include "ui/help/help.h"
 
 namespace vexa {
@@ -11,8 +12,7 @@ void EditorDialog::onHelp() {
 }
 
 void EditorDialog::tell(const std::string& text) const {
-    MessageBeep(MB_ICONEXCLAMATION);
-    MessageBoxA(window(), text.c_str(), LoadText(TextId::ErrorCaption).data(), MB_OK | MB_ICONEXCLAMATION);
+    ShowBox(window(), text, std::string(LoadText(TextId::ErrorCaption)), MB_OK);
 }
 
 std::optional<POINT> EditorDialog::openingCorner(POINT owner) {
