@@ -121,22 +121,19 @@ class Finder {
 };
 
 // The first place in the rest of a line that is worth a try; null for one that cannot match. Most lines end here.
-const char* FirstPlace(const Plan& plan, std::string_view rest, bool isWholeLine) {
+const char* FirstPlace(const Plan& plan, std::string_view rest) {
     const char* begin = rest.data();
-    if (plan.anchored) return isWholeLine && plan.nodes[plan.start].first.has(*begin) ? begin : nullptr;
-    if (!plan.hints) return begin;
+    if (plan.anchored || !plan.hints) return begin;
     const Hints& hints = *plan.hints;
     if (!hints.required.empty() && hints.required.find(rest) == nullptr) return nullptr;
     if (hints.start == Start::Literal) return hints.leading.find(rest);
     return hints.filter.find(begin, begin + rest.size());
 }
 
-}  // namespace
-
-std::optional<Match> FindMatch(const Plan& plan, std::string_view line, std::size_t from) {
-    if (from > line.size()) return std::nullopt;
+// Apart, so that no room is made for the machine in a line whose first character tells enough.
+[[gnu::noinline]] std::optional<Match> FindInRest(const Plan& plan, std::string_view line, std::size_t from) {
     const char* begin = line.data();
-    const char* place = FirstPlace(plan, line.substr(from), from == 0);
+    const char* place = FirstPlace(plan, line.substr(from));
     if (place == nullptr) return std::nullopt;
     const void* nul = std::memchr(begin, '\0', line.size());
     const char* end = nul != nullptr ? static_cast<const char*>(nul) : begin + line.size();
@@ -146,6 +143,14 @@ std::optional<Match> FindMatch(const Plan& plan, std::string_view line, std::siz
         return std::nullopt;
     }
     return Finder(plan, begin, begin + from, end, place).find();
+}
+
+}  // namespace
+
+std::optional<Match> FindMatch(const Plan& plan, std::string_view line, std::size_t from) {
+    if (from > line.size()) return std::nullopt;
+    if (plan.anchored && (from > 0 || !plan.nodes[plan.start].first.has(line.data()[0]))) return std::nullopt;
+    return FindInRest(plan, line, from);
 }
 
 }  // namespace vexa::regexp
