@@ -26,7 +26,8 @@ LineEnd LineEndAt(const TextDocument& document, LineIndex index, LineIndex last)
 void CountLineEnds(TextDocument& document) {
     LineEndTally tally;
     const LineIndex last = document.lastLine(LastUsed::Text);
-    for (LineIndex i; i <= last; ++i)
+    // Where ends are not kept, one line is like all.
+    for (LineIndex i = document.rules().keepsLineEnds ? LineIndex() : last; i <= last; ++i)
         tally.add(LineEndAt(document, i, last));
     document.lineEndStyle() = tally.style(document.lineEndStyle().common);
 }
