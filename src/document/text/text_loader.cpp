@@ -14,6 +14,8 @@ namespace vexa {
 namespace {
 
 constexpr std::size_t kBlock = std::size_t{1} << 20;
+// Read at a time, so that what is read is still near the processor when it is summed up.
+constexpr std::size_t kPiece = std::size_t{1} << 17;
 // What must be in the block to cut a line of limited length: the characters of one read, a CR LF, and room for a NUL.
 constexpr std::size_t kLookAhead = Limits().lineRead + 3;
 // A line is not split after a blank that leaves only this many characters or fewer, the blank counted.
@@ -97,25 +99,24 @@ bool TextLoader::refill() {
     if (rest > 0) std::memcpy(block, next_, rest);
     next_ = block;
     end_ = block + rest;
-    char* const fresh = end_;
-    while (end_ < block + size) {
-        const std::optional<std::size_t> count = file_->read(end_, static_cast<std::size_t>(block + size - end_));
+    while (end_ < block + size && !endOfFile_) {
+        const std::size_t room = static_cast<std::size_t>(block + size - end_);
+        const std::optional<std::size_t> count = file_->read(end_, std::min(room, kPiece));
         if (!count) return false;
         endOfFile_ = *count == 0;
-        if (endOfFile_) break;
-        end_ += *count;
+        noteRead(*count);
     }
-    noteRead(fresh);
     cutter_ = LineCutter({next_, available()});
     return true;
 }
 
-// What has been read into the block from here on.
-void TextLoader::noteRead(const char* begin) {
-    const std::string_view bytes(begin, static_cast<std::size_t>(end_ - begin));
+// What has been read into the block.
+void TextLoader::noteRead(std::size_t count) {
+    const std::string_view bytes(end_, count);
     if (bytesRead_ == 0) document_.disk_.kind = KindOfContents(bytes);
-    bytesRead_ += bytes.size();
+    bytesRead_ += count;
     checksum_.add(bytes);
+    end_ += count;
 }
 
 // Among bytes, a CR before the line end belongs to the line.

@@ -44,7 +44,7 @@ class TextLoader {
     Cut nextCut();
     Cut limitedCut() const;
     void noteLineEnd(Cut cut);
-    void noteRead(const char* begin);
+    void noteRead(std::size_t count);
     void storeCut(Cut cut);
     void storeSplit(Cut cut);
     void store(LinePtr line);
