@@ -4,6 +4,11 @@
 
 namespace vexa {
 
+bool TakeMessage(MSG& message, UINT first, UINT last) {
+    return PeekMessageA(&message, nullptr, first, last, PM_NOREMOVE) && message.message != WM_QUIT &&
+           PeekMessageA(&message, nullptr, first, last, PM_REMOVE);
+}
+
 int MessageLoop::run() {
     MSG message{};
     for (;;) {
@@ -26,18 +31,15 @@ void MessageLoop::idle() {
 
 bool MessageLoop::PumpMessages() {
     MSG message{};
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
-        if (message.message == WM_QUIT) return true;
-        if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) process(message);
-    }
-    return false;
+    while (TakeMessage(message, 0, 0))
+        process(message);
+    return message.message == WM_QUIT;
 }
 
 void MessageLoop::processKey(MSG& message) {
     process(message);
     MSG character{};
-    while (PeekMessageA(&character, nullptr, WM_CHAR, WM_DEADCHAR, PM_REMOVE) ||
-           PeekMessageA(&character, nullptr, WM_SYSCHAR, WM_SYSDEADCHAR, PM_REMOVE))
+    while (TakeMessage(character, WM_CHAR, WM_DEADCHAR) || TakeMessage(character, WM_SYSCHAR, WM_SYSDEADCHAR))
         process(character);
 }
 

@@ -7,6 +7,10 @@ namespace vexa {
 
 class AppFrameCL;
 
+// Takes the next message of a range out of the queue, and none when the program is to end: that message is in every
+// range and stays for the loop.
+bool TakeMessage(MSG& message, UINT first, UINT last);
+
 class MessageLoop {
   public:
     explicit MessageLoop(AppFrameCL& frame) : frame_(frame) {}

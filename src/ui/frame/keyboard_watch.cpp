@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "framework/message_loop.h"
+
 namespace vexa {
 
 std::int64_t KeyboardWatch::milliseconds() {
@@ -12,7 +14,7 @@ std::int64_t KeyboardWatch::milliseconds() {
 
 bool KeyboardWatch::stopAsked() {
     MSG message{};
-    while (PeekMessageA(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+    while (TakeMessage(message, WM_KEYFIRST, WM_KEYLAST)) {
         if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) return true;
     }
     return false;
