@@ -39,7 +39,8 @@ TEST(Checksum, EveryChangeShows) {
     };
     const Case cases[] = {
         {"a bit", [](std::string& bytes, std::size_t at) { bytes[at] ^= static_cast<char>(1 << at % 8); }},
-        {"a byte", [](std::string& bytes, std::size_t at) { bytes[at] = static_cast<char>(bytes[at] + at % 255 + 1); }},
+        {"a byte", [](std::string& bytes,
+                      std::size_t at) { bytes[at] = static_cast<char>(bytes[at] + static_cast<int>(at % 255) + 1); }},
         {"two words swapped",
          [](std::string& bytes, std::size_t at) { std::swap_ranges(&bytes[at], &bytes[at] + 4, &bytes[at] + 4); }},
         {"two rows swapped",
