@@ -43,7 +43,7 @@ class RecoveryDiskTest : public ::testing::Test {
 
 TEST_F(RecoveryDiskTest, EveryOrderIsCarriedOutAndTheyInTheirOrder) {
     std::vector<std::uint32_t> written;
-    for (const std::uint32_t number : {1, 2, 3})
+    for (const std::uint32_t number : {1U, 2U, 3U})
         write("a", number);
     write("b", 4);
     orders->remove(disk.path("b"));
