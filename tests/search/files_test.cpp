@@ -282,7 +282,8 @@ TEST_F(FilesSearch, TheListIsFilledToItsLimit) {
 TEST_F(FilesSearch, TheUserStopsIt) {
     disk.put("a", "needle");
     start("needle");
-    EXPECT_TRUE(job.work());
+    while (!list.hitOf(list.firstHit()))  // a busy machine may come to no file in one part
+        ASSERT_TRUE(job.work());
     list.stopFilling();
     EXPECT_FALSE(job.work());
     EXPECT_EQ(notices.lastStatus(), "Search of files stopped. 1 line found in 1 of 1 file.");
