@@ -52,6 +52,7 @@ class Editor {
     explicit Editor(const TestFolder& folder, const std::vector<std::string>& names = {},
                     const std::string& directory = {});
 
+    const StartedProgram& program() const { return program_; }
     HANDLE process() const { return program_.process(); }
     HWND frame() const { return frame_; }
     std::string caption() const { return NameShownBy(frame_); }

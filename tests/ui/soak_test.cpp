@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <random>
 #include <set>
@@ -15,18 +14,14 @@
 #include <string>
 #include <vector>
 
-#include "external/tool_list.h"
 #include "ui/dialogs.h"
 #include "ui/editor.h"
+#include "ui/editor_state.h"
+#include "ui/soak.h"
 #include "ui/ui_stage.h"
 
 namespace vexa::test {
 namespace {
-
-unsigned FromEnvironment(const char* name, unsigned otherwise) {
-    const char* given = std::getenv(name);
-    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
-}
 
 // Commands that ask nothing, close nothing and write no file.
 std::vector<std::string> CommandNames() {
@@ -38,16 +33,6 @@ std::vector<std::string> CommandNames() {
     return {std::istream_iterator<std::string>(names), {}};
 }
 
-constexpr const char* kKeys[] = {
-    "word ",       "{Enter}",      "x",        "{Backspace}",      "{Del}",
-    "{Tab}",       "{Shift+Tab}",  "{Up}",     "{Down}",           "{Left}",
-    "{Right}",     "{Home}",       "{End}",    "{PgUp}",           "{PgDn}",
-    "{Ctrl+Left}", "{Ctrl+Right}", "{Alt+A}",  "{Alt+L}",          "{Alt+C}",
-    "{Alt+D}",     "{Alt+K}",      "{Ctrl+K}", "{Alt+I}",          "{Alt+3}",
-    "{Esc}",       "{Ctrl+Z}",     "{Ctrl+A}", "{Ctrl+Backspace}", "{F7}",
-    "{F8}",        "{Alt+N}",      "a = 1;",   "{Ctrl+Home}",      "{Ctrl+End}",
-};
-
 // So many actions at most wait in the editor's queue.
 constexpr unsigned kMostWaiting = 50;
 
@@ -55,14 +40,6 @@ constexpr unsigned kMostWaiting = 50;
 // from the other actions.
 constexpr DWORD kFirstGuest = 30'000;   // milliseconds
 constexpr DWORD kBetweenGuests = 5000;  // milliseconds
-
-std::string ToolThatWaitsFor(const std::string& program, const std::string& file) {
-    ProgramRequest tool(program);
-    tool.setMenuText("Tool");
-    tool.setArguments("wait " + file);
-    tool.capture = true;
-    return EncodeTools({tool});
-}
 
 // What the process has taken for itself, as its own counters are not told of everywhere.
 SIZE_T PrivateBytesOf(const Editor& editor) {
@@ -78,28 +55,9 @@ SIZE_T PrivateBytesOf(const Editor& editor) {
 // More than any soak leaves to be undone.
 constexpr int kMostSteps = 1'000'000;
 
-std::string LongText() {
-    std::string text;
-    for (int i = 0; i < 200; ++i)
-        text += "int f" + std::to_string(i) + "(int x) { return g(x, {1, 2}); }  // a line of text\r\n";
-    return text;
-}
-
 class Soak : public ::testing::Test {
   protected:
-    Soak() {
-        for (const char* name : {"a.c", "b.c", "c.c"})
-            folder.put(name, loaded_);
-        folder.put("errors.txt", "c.c:3:5: error: wrong\r\n");
-        folder.put("free", "");
-        folder.putTestProgram();
-        folder.putFromProgramFolder("Vexa.hlp");
-        folder.makeDirectory("vConfig");
-        folder.put("vConfig\\VexaTool.INF", ToolThatWaitsFor(folder.path("test_program.exe"), folder.path("free")));
-        folder.put("vexa.INI",
-                   "[Editor Options]\r\nAutoBackup=0\r\nHelpViewer=Own\r\n"
-                   "[Compiler]\r\nCommand=type errors.txt\r\nFileName=SAMPLE.C\r\nDisplay=0\r\n");
-    }
+    Soak() { PutSoakFiles(folder); }
     std::size_t below(std::size_t bound) { return random_() % bound; }
     bool doSomething(const Editor& editor) {
         switch (below(10)) {
@@ -110,7 +68,7 @@ class Soak : public ::testing::Test {
             case 2:
                 return editor.runCommand(CommandNamed(commands_[below(commands_.size())]));
             default:
-                editor.keys(kKeys[below(std::size(kKeys))]);
+                editor.keys(AnyKeys(random_));
                 return true;
         }
     }
@@ -191,11 +149,6 @@ class Soak : public ::testing::Test {
         return isAtRest(editor) && kGuests[guests_++ % std::size(kGuests)](editor) && hasUsedKeys(editor);
     }
 
-    static std::string stateOf(const Editor& editor) {
-        editor.takePicture("soak");
-        return TextOf(editor.activeDocument()) + ", " + editor.message() + ", " + editor.recording();
-    }
-
     // ---- the end ----
 
     // Undoes everything in the active document, writes it and gives back what was written.
@@ -230,7 +183,7 @@ class Soak : public ::testing::Test {
         return memory;
     }
 
-    const std::string loaded_ = LongText();
+    const std::string loaded_ = SoakText();
     TestFolder folder;
     const std::vector<std::string> commands_ = CommandNames();
     unsigned guests_ = 0;
@@ -247,7 +200,7 @@ TEST_F(Soak, EditorAnswersAndUndoGivesTheLoadedTextBack) {
         const DWORD present = GetTickCount();
         const bool isTimeForGuest = present - start >= kFirstGuest + guests_ * kBetweenGuests;
         ASSERT_TRUE(!isTimeForGuest || useGuest(editor))
-            << "guest " << guests_ << " after " << done << ": " << stateOf(editor);
+            << "guest " << guests_ << " after " << done << ": " << StateOf(editor, "soak");
         start += GetTickCount() - present;
         ASSERT_TRUE(doSomething(editor) && editor.answers()) << "after " << done;
         ASSERT_TRUE(editor.isRunning()) << "after " << done;
@@ -278,12 +231,13 @@ TEST_F(Soak, MemoryDoesNotGrowWithTheNumberOfCommands) {
     ASSERT_TRUE(editor.hasCaption("c.c]"));
     // What is used for the first time takes memory that it keeps.
     while (guests_ < std::size(kGuests))
-        ASSERT_TRUE(useGuest(editor)) << "guest " << guests_ << ": " << stateOf(editor);
+        ASSERT_TRUE(useGuest(editor)) << "guest " << guests_ << ": " << StateOf(editor, "soak");
     int first = 0;
     int last = 0;
     for (unsigned done = 0; done <= commands && !HasFailure(); ++done) {
         if (done % kBetweenLooks == 0) {
-            ASSERT_TRUE(useGuest(editor)) << "guest " << guests_ << " after " << done << ": " << stateOf(editor);
+            ASSERT_TRUE(useGuest(editor))
+                << "guest " << guests_ << " after " << done << ": " << StateOf(editor, "soak");
             last = memoryOf(editor, done);
             if (done <= commands / 2) first = last;
         }

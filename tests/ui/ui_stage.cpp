@@ -37,6 +37,13 @@ CommandId CommandNamed(const std::string& name) {
     return kCommands.at(name);
 }
 
+std::vector<CommandId> AllCommands() {
+    std::vector<CommandId> all;
+    for (const auto& [name, command] : kCommands)
+        all.push_back(command);
+    return all;
+}
+
 int ControlNamed(const std::string& name) {
     return kControls.at(name);
 }

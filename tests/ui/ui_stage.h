@@ -38,6 +38,7 @@ bool HasReturned(const StartedProgram& start, DWORD expected);
 
 // An unknown name fails by an exception.
 CommandId CommandNamed(const std::string& name);
+std::vector<CommandId> AllCommands();
 int ControlNamed(const std::string& name);
 std::size_t PaneNamed(const std::string& name);
 
