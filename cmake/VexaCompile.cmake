@@ -56,9 +56,9 @@ endif()
 set(vexa_small_options -Os)
 if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
   list(APPEND vexa_small_options -mno-stack-arg-probe -mpreferred-stack-boundary=2 -Wframe-larger-than=4000)
-  # The linker makes one of equal inline functions, but not of the copies that GCC adapts to the calls of one file.
-  list(APPEND vexa_small_options -fno-declone-ctor-dtor -fno-ipa-sra -fno-ipa-cp)
 endif()
+# The linker makes one of equal inline functions, but not of the copies that GCC adapts to the calls of one file.
+list(APPEND vexa_small_options -fno-declone-ctor-dtor -fno-ipa-sra -fno-ipa-cp)
 
 function(vexa_small name)
   if(WIN32)
