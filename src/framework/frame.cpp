@@ -64,10 +64,10 @@ bool AppFrameCL::onSize(UINT kind) {
 }
 
 // A frame that came to the front behind a dialog has kept the keyboard, which belongs to what is inside the frame.
-void AppFrameCL::onEnabled(bool enabled) {
-    if (enabled && GetActiveWindow() == window() && (!GetFocus() || GetFocus() == window()))
+void AppFrameCL::onEnabled() {
+    if (GetActiveWindow() == window() && (!GetFocus() || GetFocus() == window()))
         SendMessageA(window(), WM_SETFOCUS, 0, 0);
-    onBlocked(!enabled);
+    onFree();
 }
 
 bool AppFrameCL::onClose() {

@@ -38,8 +38,8 @@ class AppFrameCL : public WindowCL {
     virtual void layOut() = 0;
     // The user wants to leave; true when the frame may close.
     virtual bool mayClose() = 0;
-    // The first dialog that lets nothing else go on has come up, or the last one has ended.
-    virtual void onBlocked(bool /*isBlocked*/) {}
+    // The last dialog that was in the way has ended.
+    virtual void onFree() {}
 
     bool onCommand(WORD id, bool fromKey) override;
     bool onMenuPopup(HMENU menu, bool isSystemMenu) override;
@@ -48,7 +48,7 @@ class AppFrameCL : public WindowCL {
     bool onHelp(const HELPINFO& request) override;
     bool onSize(UINT kind) override;
     bool onClose() override;
-    void onEnabled(bool enabled) override;
+    void onEnabled() override;
     bool onQueryEndSession(bool& agreed) override;
     void onDestroy() override;
     bool onDpiChanged(const RECT& suggested) override;

@@ -95,7 +95,7 @@ class WindowCL {
     virtual void onDestroy() {}
     virtual void onGone() {}
     virtual bool onClose() { return false; }
-    virtual void onEnabled(bool /*enabled*/) {}  // other than before
+    virtual void onEnabled() {}  // after it was not
     virtual bool onQueryEndSession(bool& /*agreed*/) { return false; }
     virtual void onEndSession(bool /*ends*/) {}  // false: another program has refused
     virtual bool onSize(UINT /*kind*/) { return false; }

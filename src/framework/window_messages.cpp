@@ -90,7 +90,7 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_CREATE, [](WindowCL& w, Message& m) { return !w.onCreate() && Answer(m, -1); }},
     {WM_DESTROY, [](WindowCL& w, Message&) { return w.onDestroy(), false; }},
     {WM_CLOSE, [](WindowCL& w, Message&) { return w.onClose(); }},
-    {WM_ENABLE, [](WindowCL& w, Message& m) { return w.onEnabled(m.wParam != 0), true; }},
+    {WM_ENABLE, [](WindowCL& w, Message& m) { return m.wParam && (w.onEnabled(), true); }},
     {WM_QUERYENDSESSION,
      [](WindowCL& w, Message& m) {
          bool agreed = true;

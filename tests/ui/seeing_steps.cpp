@@ -166,7 +166,6 @@ const std::map<std::string, Run> kSteps = {
     {"unchecked", [](Stage& s, StepWords w) { return !IsChecked(w.control(s)); }},
     {"enabled", [](Stage& s, StepWords w) -> bool { return IsWindowEnabled(w.control(s)); }},
     {"disabled", [](Stage& s, StepWords w) { return !IsWindowEnabled(w.control(s)); }},
-    {"switched-off", [](Stage& s, StepWords) { return !IsWindowEnabled(s.dialog()); }},
     {"focused", &HasFocus},
     {"marked", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), CB_GETEDITSEL, 0, 0) != 0; }},
     {"unmarked", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), CB_GETEDITSEL, 0, 0) == 0; }},

@@ -27,7 +27,6 @@ class FrameCommands {
     const CommandDispatcher& dispatcher() const { return dispatcher_; }
     KeyMacro& macro() { return macro_.macro(); }
     void zoom(std::int32_t steps) { options_.zoom(steps); }
-    void enableSearchDialog(bool enabled) { search_.enableDialog(enabled); }
     ExternalCommands& external() { return external_; }
     FileSearchCommands& fileSearch() { return fileSearch_; }
     // For a timer of the frame, given by its number; false when it is none of these.

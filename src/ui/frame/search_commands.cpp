@@ -35,14 +35,6 @@ bool SearchCommands::useKey(MSG& message, const KeyEvent& event) {
     return dialog_ && dialog_->useKey(message, event);
 }
 
-// Switched off, the window in front has lost the keyboard and stays in front.
-void SearchCommands::enableDialog(bool enabled) {
-    const HWND window = dialog_ ? dialog_->window() : nullptr;
-    if (!window) return;
-    EnableWindow(window, enabled);
-    if (enabled && GetActiveWindow() == window && !GetFocus()) SetFocus(window);
-}
-
 template <class Dialog, class... More>
 void SearchCommands::openDialog(More&... more) {
     if (dialog_) dialog_->close(false);

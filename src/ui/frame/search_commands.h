@@ -34,7 +34,6 @@ class SearchCommands : private SearchHost {
     bool useKey(MSG& message, const KeyEvent& event);
     // Closes the dialog; false when it is not open.
     bool leaveDialog() { return dialog_ && dialog_->leave(); }
-    void enableDialog(bool enabled);
 
   private:
     void openFind();

@@ -108,13 +108,6 @@ void VexaFrame::takeSystemSettings() {
     documents_.refreshColours();
 }
 
-// The keys of a search dialog would be lost to a dialog that lets nothing else go on, so it is switched off with the
-// frame.
-void VexaFrame::onBlocked(bool isBlocked) {
-    commands_.enableSearchDialog(!isBlocked);
-    if (!isBlocked) documents_.openWaitingSoon();
-}
-
 bool VexaFrame::onTimer(UINT_PTR timer) {
     if (timer == kSettingsTimer) {
         KillTimer(window(), kSettingsTimer);

@@ -55,7 +55,7 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     void onFailed() override;
     bool onDropFiles(const std::vector<std::string>& names) override;
     bool onOther(Message& message) override { return outside_.receive(message) || unsaved_.receive(message); }
-    void onBlocked(bool isBlocked) override;
+    void onFree() override { documents_.openWaitingSoon(); }
 
     void runCommand(WORD id, bool fromKey) override;
     std::optional<ItemState> itemState(WORD id) const override;
