@@ -32,21 +32,17 @@ void EditCommands::registerCommands(CommandDispatcher& dispatcher) {
     static constexpr MethodRow<EditCommands> kRows[] = {
         {CommandId::GotoLine, &EditCommands::gotoLine},
         {CommandId::GotoBookmark, &EditCommands::gotoBookmark},
-        {CommandId::DocumentStart, &EditCommands::moveToStart},
-        {CommandId::DocumentEnd, &EditCommands::moveToEnd},
+        {CommandId::DocumentStart, &EditCommands::move<DocumentStart, VK_HOME>},
+        {CommandId::DocumentEnd, &EditCommands::move<DocumentEnd, VK_END>},
     };
     RegisterRows(dispatcher, *this, kRows);
     RegisterRows(dispatcher, documents_, kViewRows);
 }
 
-void EditCommands::moveToStart() {
-    if (ListWindow* list = documents_.activeList()) return list->takeKey(VK_HOME);
-    documents_.operate(&OnView<&EditView::moveBy, DocumentStart>);
-}
-
-void EditCommands::moveToEnd() {
-    if (ListWindow* list = documents_.activeList()) return list->takeKey(VK_END);
-    documents_.operate(&OnView<&EditView::moveBy, DocumentEnd>);
+template <auto movement, UINT keyOfList>
+void EditCommands::move() {
+    if (ListWindow* list = documents_.activeList()) return list->takeKey(keyOfList);
+    documents_.operate(&OnView<&EditView::moveBy, movement>);
 }
 
 void EditCommands::gotoLine() {

@@ -15,9 +15,9 @@ class EditCommands {
     void registerCommands(CommandDispatcher& dispatcher);
 
   private:
-    // In a list, to its first and its last row.
-    void moveToStart();
-    void moveToEnd();
+    // In a list, what the key does there.
+    template <auto movement, UINT keyOfList>
+    void move();
     void gotoLine();
     void gotoBookmark();
 
