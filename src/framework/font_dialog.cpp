@@ -4,6 +4,8 @@
 
 #include <commdlg.h>
 
+#include <cstring>
+
 #include "framework/gdi.h"
 
 namespace vexa {
@@ -24,12 +26,16 @@ void NameShownFace(HWND window, LOGFONTA& description) {
 bool AskFixedPitchFont(HWND owner, LOGFONTA& description) {
     LOGFONTA answer = description;
     NameShownFace(owner, answer);
+    const LOGFONTA shown = answer;
     CHOOSEFONTA request{};
     request.lStructSize = sizeof(request);
     request.hwndOwner = owner;
     request.lpLogFont = &answer;
     request.Flags = CF_SCREENFONTS | CF_FIXEDPITCHONLY | CF_INITTOLOGFONTSTRUCT | CF_NOSCRIPTSEL | CF_FORCEFONTEXIST;
     if (!ChooseFontA(&request)) return false;
+    // Whoever leaves a substitute as it is has not chosen it: the face that was set may be on another machine.
+    if (std::strcmp(answer.lfFaceName, shown.lfFaceName) == 0)
+        std::memcpy(answer.lfFaceName, description.lfFaceName, LF_FACESIZE);
     description = answer;
     return true;
 }
