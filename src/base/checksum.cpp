@@ -27,6 +27,25 @@ constexpr std::uint32_t kHighFactor = 0x85EBCA77;
     return _mm_add_epi64(_mm_mul_epu32(lanes, _mm_set1_epi32(static_cast<int>(kLowFactor))),
                          _mm_mul_epu32(_mm_srli_epi64(lanes, 32), _mm_set1_epi32(static_cast<int>(kHighFactor))));
 }
+
+// Eight lanes, of 64 bytes in all.
+VEXA_SSE2_ENTRY void MixSse2(const char* rows, std::size_t count, std::uint64_t* lanes) {
+    auto* const pairs = reinterpret_cast<__m128i*>(lanes);
+    __m128i a = _mm_loadu_si128(pairs);
+    __m128i b = _mm_loadu_si128(pairs + 1);
+    __m128i c = _mm_loadu_si128(pairs + 2);
+    __m128i d = _mm_loadu_si128(pairs + 3);
+    for (; count > 0; --count, rows += 64) {
+        a = MixedWith(rows, a);
+        b = MixedWith(rows + 16, b);
+        c = MixedWith(rows + 32, c);
+        d = MixedWith(rows + 48, d);
+    }
+    _mm_storeu_si128(pairs, a);
+    _mm_storeu_si128(pairs + 1, b);
+    _mm_storeu_si128(pairs + 2, c);
+    _mm_storeu_si128(pairs + 3, d);
+}
 #endif
 
 }  // namespace
@@ -40,7 +59,7 @@ Checksum::Checksum(Instructions most) : instructions_(AvailableOf(most)) {
 void Checksum::addRows(const char* rows, std::size_t count) {
 #ifdef VEXA_SSE2_TARGET
     if (instructions_ != Instructions::Plain) {
-        addRowsSse2(rows, count);
+        MixSse2(rows, count, lanes_.data());
         return;
     }
 #endif
@@ -53,26 +72,6 @@ void Checksum::addRows(const char* rows, std::size_t count) {
         }
     }
 }
-
-#ifdef VEXA_SSE2_TARGET
-VEXA_SSE2_ENTRY void Checksum::addRowsSse2(const char* rows, std::size_t count) {
-    auto* const lanes = reinterpret_cast<__m128i*>(lanes_.data());
-    __m128i a = _mm_loadu_si128(lanes);
-    __m128i b = _mm_loadu_si128(lanes + 1);
-    __m128i c = _mm_loadu_si128(lanes + 2);
-    __m128i d = _mm_loadu_si128(lanes + 3);
-    for (; count > 0; --count, rows += kRow) {
-        a = MixedWith(rows, a);
-        b = MixedWith(rows + 16, b);
-        c = MixedWith(rows + 32, c);
-        d = MixedWith(rows + 48, d);
-    }
-    _mm_storeu_si128(lanes, a);
-    _mm_storeu_si128(lanes + 1, b);
-    _mm_storeu_si128(lanes + 2, c);
-    _mm_storeu_si128(lanes + 3, d);
-}
-#endif
 
 void Checksum::add(std::string_view bytes) {
     const std::size_t used = size_ % kRow;

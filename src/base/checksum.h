@@ -26,7 +26,6 @@ class Checksum {
     static constexpr std::size_t kRow = sizeof(Lanes);
 
     void addRows(const char* rows, std::size_t count);
-    void addRowsSse2(const char* rows, std::size_t count);
 
     std::uint64_t size_ = 0;
     Lanes lanes_;

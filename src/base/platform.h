@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -248,7 +249,7 @@ class BackgroundWork {
   public:
     using Function = void (*)(void* context) noexcept;
 
-    BackgroundWork(Function function, void* context) : function_(function), context_(context) {}
+    BackgroundWork(Function function, void* context);
     // Waits for the end of what was begun.
     ~BackgroundWork();
     BackgroundWork(const BackgroundWork&) = delete;
@@ -265,8 +266,7 @@ class BackgroundWork {
     const Function function_;
     void* const context_;
     std::atomic<bool> isRunning_ = false;
-    [[maybe_unused]] std::intptr_t thread_ = 0;  // the host needs neither
-    [[maybe_unused]] std::intptr_t begins_ = 0;
+    std::unique_ptr<Thread> thread_;  // none while there can be none
 };
 
 // ---- the rest ----------------------------------------------------------------------------------------------------

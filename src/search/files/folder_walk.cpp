@@ -35,7 +35,7 @@ void FolderWalk::enterNext() {
     prefix_ = PrefixOf(folders_.back());
     reader_.emplace(folders_.back());
     folders_.pop_back();
-    newFolders_ = std::ssize(folders_);
+    firstSubfolder_ = std::ssize(folders_);
     if (!isNew(reader_->identity())) reader_.reset();
 }
 
@@ -52,7 +52,7 @@ void FolderWalk::readOn() {
     if (state == State::Failed) ++unreadable_;
     reader_.reset();
     std::ranges::make_heap(files_, ComesLater);
-    std::sort(folders_.begin() + newFolders_, folders_.end(), ComesLater);
+    std::sort(folders_.begin() + firstSubfolder_, folders_.end(), ComesLater);
 }
 
 bool FolderWalk::isNew(const platform::DirectoryIdentity& identity) {

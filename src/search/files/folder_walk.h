@@ -39,7 +39,7 @@ class FolderWalk {
     std::string prefix_;                // of the names in the folder that is gone through, "\" at the end
     std::optional<platform::DirectoryReader> reader_;   // of that folder, until all of it is read
     std::vector<std::string> files_;                    // the names there, a heap as soon as all are read
-    std::ptrdiff_t newFolders_ = 0;                     // where the folders begin that were found there
+    std::ptrdiff_t firstSubfolder_ = 0;                 // index in folders_ of those that were found there
     std::vector<platform::DirectoryIdentity> entered_;  // sorted
     std::string file_;
     std::int32_t unreadable_ = 0;

@@ -10,6 +10,19 @@
 
 namespace vexa {
 
+namespace {
+
+template <class Condition>
+DocumentWindow* FirstOf(const std::vector<std::unique_ptr<MDIchildCL>>& children, Condition holds) {
+    for (const auto& child : children) {
+        DocumentWindow* window = OpenDocuments::DocumentOf(child.get());
+        if (window && holds(*window)) return window;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
 // ---- taking over -------------------------------------------------------------------------------------------------
 
 void OpenDocuments::refreshFonts() {
@@ -41,6 +54,11 @@ std::vector<TextDocument*> OpenDocuments::openDocuments() const {
     return documents;
 }
 
+DocumentWindow* OpenDocuments::windowOf(const TextDocument& document) const {
+    const auto shows = [&document](const DocumentWindow& window) { return &window.document() == &document; };
+    return FirstOf(frame_.children(), shows);
+}
+
 // ---- opening -----------------------------------------------------------------------------------------------------
 
 ChildShow OpenDocuments::showOfNewWindow() const {
@@ -56,17 +74,19 @@ ChildShow OpenDocuments::showOfNewWindow() const {
     }
 }
 
-bool OpenDocuments::activateShowing(const std::string& path, TextPosition position) {
+DocumentWindow* OpenDocuments::windowOfFile(const std::string& path) const {
     const FileIdentity file(path);
-    for (const auto& child : frame_.children()) {
-        DocumentWindow* shown = DocumentOf(child.get());
-        if (!shown || !file.isFileOf(shown->document())) continue;
-        frame_.activate(*shown);
-        shown->view().goTo(position.line, position.column);
-        shown->refresh();
-        return true;
-    }
-    return false;
+    const auto shows = [&file](const DocumentWindow& window) { return file.isFileOf(window.document()); };
+    return FirstOf(frame_.children(), shows);
+}
+
+bool OpenDocuments::activateShowing(const std::string& path, TextPosition position) {
+    DocumentWindow* shown = windowOfFile(path);
+    if (!shown) return false;
+    frame_.activate(*shown);
+    shown->view().goTo(position.line, position.column);
+    shown->refresh();
+    return true;
 }
 
 bool OpenDocuments::openWindow(const std::optional<std::string>& path, TextPosition position) {
@@ -83,12 +103,8 @@ bool OpenDocuments::openWindow(const std::optional<std::string>& path, TextPosit
 }
 
 const TextDocument* OpenDocuments::documentOf(const std::string& path) const {
-    const FileIdentity file(path);
-    const TextDocument* found = nullptr;
-    each([&](DocumentWindow& window) {
-        if (file.isFileOf(window.document())) found = &window.document();
-    });
-    return found;
+    const DocumentWindow* shown = windowOfFile(path);
+    return shown ? &shown->document() : nullptr;
 }
 
 // The dialog that waits for an answer has the keyboard; the frame behind it could do nothing with a key.
@@ -103,18 +119,14 @@ void OpenDocuments::restoreIfMinimised() {
 // ---- saving and closing ------------------------------------------------------------------------------------------
 
 std::optional<std::string> OpenDocuments::askSaveName(const TextDocument& document) {
-    each([&](DocumentWindow& window) {
-        if (&window.document() == &document) host_.questionFollows(window);
-    });
+    if (DocumentWindow* shown = windowOf(document)) host_.questionFollows(*shown);
     FileDialogRequest request = FileRequest(frame_.window(), TextId::SaveAsTitle, application_.options);
     request.fileName = document.fullPath();
     return AskSaveFile(request);
 }
 
 void OpenDocuments::nameChanged(const TextDocument& document) {
-    each([&document](DocumentWindow& window) {
-        if (&window.document() == &document) window.refreshName();
-    });
+    if (DocumentWindow* shown = windowOf(document)) shown->refreshName();
 }
 
 bool OpenDocuments::mayClose(DocumentWindow& window) {

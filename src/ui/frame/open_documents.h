@@ -55,6 +55,8 @@ class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuest
             if (DocumentWindow* window = DocumentOf(frame_.children()[i].get())) use(*window);
         }
     }
+    // None when no window shows the document.
+    DocumentWindow* windowOf(const TextDocument& document) const;
     // Lets an operation work on the edit view of the active document, if there is one, shows what it has done, and
     // gives the document the keyboard.
     template <class Operation>
@@ -97,6 +99,7 @@ class OpenDocuments : public OutsideFrame, public BackupFrame, private FileQuest
 
   private:
     ChildShow showOfNewWindow() const;
+    DocumentWindow* windowOfFile(const std::string& path) const;
     std::optional<std::string> askSaveName(const TextDocument& document) override;
     void nameChanged(const TextDocument& document) override;
 

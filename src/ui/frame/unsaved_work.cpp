@@ -94,9 +94,7 @@ void UnsavedWork::lookAtFiles() {
 }
 
 void UnsavedWork::showRows(TextDocument& document, const std::vector<std::string>& rows) {
-    documents_.each([&](DocumentWindow& window) {
-        if (&window.document() == &document) external_.showRows(window, rows);
-    });
+    if (DocumentWindow* shown = documents_.windowOf(document)) external_.showRows(*shown, rows);
 }
 
 }  // namespace vexa

@@ -14,6 +14,11 @@ void host::HoldBackground(int asks) {
     g_asks = asks;
 }
 
+// What is begun is done when it is asked for next.
+struct BackgroundWork::Thread {};
+
+BackgroundWork::BackgroundWork(Function function, void* context) : function_(function), context_(context) {}
+
 BackgroundWork::~BackgroundWork() {
     if (isRunning_) run();
 }
