@@ -3,6 +3,7 @@
 #include "base/strings.h"
 #include "framework/dialog_fields.h"
 #include "framework/menu.h"
+#include "framework/screen.h"
 #include "ui/dialogs/dialog_keys.h"
 #include "ui/dialogs/dialog_place.h"
 #include "ui/resources/dialog_controls.h"
@@ -103,16 +104,13 @@ bool SearchDialog::leave() {
 }
 
 void SearchDialog::keepClearOf(const RECT& match) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
     RECT dialog{};
     if (!window() || !GetWindowRect(window(), &dialog)) return;
-    if (!GetMonitorInfoA(MonitorFromRect(&match, MONITOR_DEFAULTTONEAREST), &monitor)) return;
     const auto area = [](const RECT& r) {
         return ScreenArea{static_cast<std::int32_t>(r.left), static_cast<std::int32_t>(r.top),
                           static_cast<std::int32_t>(r.right), static_cast<std::int32_t>(r.bottom)};
     };
-    const auto corner = CornerClearOf(area(match), area(dialog), area(monitor.rcWork));
+    const auto corner = CornerClearOf(area(match), area(dialog), area(WorkAreaNear(match)));
     if (!corner) return;
     SetWindowPos(window(), nullptr, corner->left, corner->top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -4,26 +4,13 @@
 
 #include <vector>
 
+#include "framework/screen.h"
+
 namespace vexa {
 namespace {
 
 ScreenRect ToScreenRect(const RECT& area) {
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
-}
-
-BOOL CALLBACK AddWorkArea(HMONITOR monitor, HDC, RECT*, LPARAM areas) {
-    MONITORINFO details{};
-    details.cbSize = sizeof(details);
-    if (GetMonitorInfoA(monitor, &details)) {
-        reinterpret_cast<std::vector<ScreenRect>*>(areas)->push_back(ToScreenRect(details.rcWork));
-    }
-    return TRUE;
-}
-
-std::vector<ScreenRect> WorkAreas() {
-    std::vector<ScreenRect> areas;
-    EnumDisplayMonitors(nullptr, nullptr, &AddWorkArea, reinterpret_cast<LPARAM>(&areas));
-    return areas;
 }
 
 ScreenRect PlaceOnScreen(HWND window) {
@@ -46,7 +33,9 @@ FrameState StateOf(int showCommand) {
 void WindowPlacement::restore(const ConfigStore& store, bool restoreSize, int showCommand) {
     const HWND frame = frame_.window();
     placement_ = LoadFramePlacement(store, restoreSize, StateOf(showCommand), PlaceOnScreen(frame));
-    const auto areas = WorkAreas();
+    std::vector<ScreenRect> areas;
+    for (const RECT& area : WorkAreas())
+        areas.push_back(ToScreenRect(area));
     placement_.normal = KeptOnScreen(placement_.normal, areas);
     const ScreenRect& place = placement_.normal;
     MoveWindow(frame, place.x, place.y, place.width, place.height, FALSE);

@@ -2,14 +2,12 @@
 
 #include <algorithm>
 
-#include "base/ascii.h"
 #include "base/scoped_flag.h"
 #include "base/strings.h"
 #include "framework/dpi.h"
-#include "framework/menu.h"
 #include "quickhelp/linked_help_file.h"
-#include "shell/frame_placement.h"
 #include "ui/help/help.h"
+#include "ui/help/help_window_place.h"
 #include "ui/help/viewer_dialogs.h"
 #include "ui/resources/resource.h"
 
@@ -19,61 +17,32 @@ namespace {
 using topics::BrowserOutcome;
 
 constexpr WindowClass kHelpClass{.name = kHelpWindowClass, .background = COLOR_3DFACE, .icon = IDI_VEXA};
-constexpr const char* kSection = "Help Window";
-constexpr ScreenRect kFirstPlace{80, 60, 760, 560};  // at the normal resolution; shows the manual's widest picture
-constexpr UINT kAskMessage = WM_APP + 1;             // the outcome to ask about
-constexpr WORD kFirstCommand = 1;
-constexpr int kGap = 3;  // pixels at the normal resolution, as is the other
-constexpr int kButtonEdges = 16;
-
-RECT RectOf(const ScreenRect& place) {
-    return {place.x, place.y, place.x + place.width, place.y + place.height};
-}
-
-ScreenRect ScreenRectOf(const RECT& area) {
-    return {static_cast<std::int32_t>(area.left), static_cast<std::int32_t>(area.top),
-            static_cast<std::int32_t>(area.right - area.left), static_cast<std::int32_t>(area.bottom - area.top)};
-}
-
-ScreenRect WorkAreaNear(const ScreenRect& place) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    const RECT area = RectOf(place);
-    GetMonitorInfoA(MonitorFromRect(&area, MONITOR_DEFAULTTONEAREST), &monitor);
-    return ScreenRectOf(monitor.rcWork);
-}
-
-char MnemonicOf(std::string_view text) {
-    const std::size_t mark = text.find('&');
-    return mark + 1 < text.size() ? LowerAscii(text[mark + 1]) : '\0';
-}
+constexpr UINT kAskMessage = WM_APP + 1;  // the outcome to ask about
+constexpr int kFootGap = 3;               // pixels at the normal resolution
 
 }  // namespace
 
 struct HelpWindowTables {
     static constexpr TextId kMenus[] = {TextId::HelpTopicMenu, TextId::HelpEditMenu, TextId::HelpGoMenu};
-    enum Menu { kTopic, kEdit, kGo };
+    enum Menu : std::uint8_t { kTopic, kEdit, kGo };  // positions in kMenus
 
-    // In its menu, and where it has one as a button.
     struct Command {
-        TextId text;
-        Menu menu;
-        bool isButton;
+        CommandBar::Row row;
         void (HelpWindow::*run)();
         bool (topics::HelpBrowser::*isEnabled)() const;  // always without one
     };
     static constexpr Command kCommands[] = {
-        {TextId::HelpPrint, kTopic, false, &HelpWindow::print, nullptr},
-        {TextId::HelpClose, kTopic, false, &HelpWindow::leave, nullptr},
-        {TextId::HelpCopy, kEdit, false, &HelpWindow::copy, nullptr},
-        {TextId::HelpSelectAll, kEdit, false, &HelpWindow::selectAll, nullptr},
-        {TextId::HelpContents, kGo, true, &HelpWindow::toContents, nullptr},
-        {TextId::HelpIndex, kGo, true, &HelpWindow::toIndex, nullptr},
-        {TextId::HelpBack, kGo, true, &HelpWindow::toLast, &topics::HelpBrowser::canGoBack},
-        {TextId::HelpPrevious, kGo, true, &HelpWindow::toPrevious, &topics::HelpBrowser::canGoPrevious},
-        {TextId::HelpNext, kGo, true, &HelpWindow::toNext, &topics::HelpBrowser::canGoNext},
-        {TextId::HelpFind, kEdit, true, &HelpWindow::find, nullptr},
-        {TextId::HelpFindNext, kEdit, false, &HelpWindow::findNext, nullptr},
+        {{TextId::HelpPrint, kTopic, false}, &HelpWindow::print, nullptr},
+        {{TextId::HelpClose, kTopic, false}, &HelpWindow::leave, nullptr},
+        {{TextId::HelpCopy, kEdit, false}, &HelpWindow::copy, nullptr},
+        {{TextId::HelpSelectAll, kEdit, false}, &HelpWindow::selectAll, nullptr},
+        {{TextId::HelpContents, kGo, true}, &HelpWindow::toContents, nullptr},
+        {{TextId::HelpIndex, kGo, true}, &HelpWindow::toIndex, nullptr},
+        {{TextId::HelpBack, kGo, true}, &HelpWindow::toLast, &topics::HelpBrowser::canGoBack},
+        {{TextId::HelpPrevious, kGo, true}, &HelpWindow::toPrevious, &topics::HelpBrowser::canGoPrevious},
+        {{TextId::HelpNext, kGo, true}, &HelpWindow::toNext, &topics::HelpBrowser::canGoNext},
+        {{TextId::HelpFind, kEdit, true}, &HelpWindow::find, nullptr},
+        {{TextId::HelpFindNext, kEdit, false}, &HelpWindow::findNext, nullptr},
     };
 
     struct Key {
@@ -89,33 +58,6 @@ struct HelpWindowTables {
     };
 };
 
-namespace {
-
-constexpr std::size_t kCommandCount = std::size(HelpWindowTables::kCommands);
-
-WORD NumberOf(std::size_t command) {
-    return static_cast<WORD>(kFirstCommand + command);
-}
-
-// Without the key that a menu shows.
-std::string ButtonText(std::size_t command) {
-    const std::string_view text = LoadText(HelpWindowTables::kCommands[command].text);
-    return std::string(text.substr(0, text.find('\t')));
-}
-
-std::vector<MenuRows> Menus() {
-    std::vector<MenuRows> menus;
-    for (const TextId heading : HelpWindowTables::kMenus)
-        menus.push_back({std::string(LoadText(heading)), {}});
-    for (std::size_t i = 0; i < kCommandCount; ++i) {
-        const HelpWindowTables::Command& command = HelpWindowTables::kCommands[i];
-        menus[command.menu].items.push_back({NumberOf(i), std::string(LoadText(command.text))});
-    }
-    return menus;
-}
-
-}  // namespace
-
 HelpWindow::HelpWindow(ConfigStore& store, std::string indexDirectory, TopicPrinter& printer)
     : store_(store),
       printer_(printer),
@@ -123,7 +65,10 @@ HelpWindow::HelpWindow(ConfigStore& store, std::string indexDirectory, TopicPrin
           return FindLinkedHelpFile(name, from, directory);
       }),
       pane_(*this),
-      popUp_(*this) {}
+      popUp_(*this) {
+    for (const HelpWindowTables::Command& command : HelpWindowTables::kCommands)
+        bar_.add(command.row);
+}
 
 HelpWindow::~HelpWindow() {
     destroy();
@@ -208,67 +153,22 @@ void HelpWindow::followLink(TopicPane& pane, const topics::Link& link) {
 bool HelpWindow::openWindow() {
     if (window()) return true;
     if (!create(kHelpClass, {.title = "", .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN})) return false;
-    placeFirst();
+    place(LoadHelpWindowPlace(store_, DpiOf(window())));
     show(true);
     return true;
 }
 
 bool HelpWindow::onCreate() {
-    MenuHandle bar = MakeMenuBar(Menus());
-    if (SetMenu(window(), bar.get())) static_cast<void>(bar.release());  // the window now owns it
     foot_ = CreateWindowExA(0, "STATIC", "", WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window(), nullptr,
                             GetModuleHandleA(nullptr), nullptr);
-    if (!foot_ || !addButtons() || !pane_.open(window())) return false;
+    if (!foot_ || !bar_.open(window(), HelpWindowTables::kMenus) || !pane_.open(window())) return false;
     refreshFont();
     return true;
 }
 
-bool HelpWindow::addButtons() {
-    bool areMade = true;
-    for (std::size_t i = 0; i < kCommandCount; ++i) {
-        if (!HelpWindowTables::kCommands[i].isButton) continue;
-        const auto id = static_cast<UINT_PTR>(NumberOf(i));
-        areMade &= CreateWindowExA(0, "BUTTON", ButtonText(i).c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, window(),
-                                   reinterpret_cast<HMENU>(id), GetModuleHandleA(nullptr), nullptr) != nullptr;
-    }
-    return areMade;
-}
-
-// None where the command has none.
-HWND HelpWindow::button(std::size_t command) const {
-    return GetDlgItem(window(), NumberOf(command));
-}
-
-void HelpWindow::placeFirst() {
-    const auto number = [this](const char* key, std::int32_t fallback) {
-        return store_.ReadInt(kSection, key, fallback);
-    };
-    const int dpi = DpiOf(window());
-    const ScreenRect room = WorkAreaNear(kFirstPlace);
-    const ScreenRect first{kFirstPlace.x, kFirstPlace.y,
-                           std::min(Scaled(kFirstPlace.width, dpi), room.width - 2 * kFirstPlace.x),
-                           std::min(Scaled(kFirstPlace.height, dpi), room.height - 2 * kFirstPlace.y)};
-    ScreenRect place{number("x", first.x), number("y", first.y), number("cx", first.width), number("cy", first.height)};
-    if (place.width <= 0 || place.height <= 0) place = first;
-    const ScreenRect areas[] = {WorkAreaNear(place)};
-    WindowCL::place(RectOf(KeptOnScreen(place, areas)));
-}
-
-void HelpWindow::savePlace() const {
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof(placement);
-    if (!GetWindowPlacement(window(), &placement)) return;
-    const ScreenRect place = ScreenRectOf(placement.rcNormalPosition);
-    const ConfigStore::Batch batch(store_);
-    store_.WriteInt(kSection, "x", place.x);
-    store_.WriteInt(kSection, "y", place.y);
-    store_.WriteInt(kSection, "cx", place.width);
-    store_.WriteInt(kSection, "cy", place.height);
-}
-
 void HelpWindow::onDestroy() {
     closePopUp();
-    savePlace();
+    SaveHelpWindowPlace(store_, window());
 }
 
 bool HelpWindow::onSize(UINT kind) {
@@ -281,8 +181,7 @@ bool HelpWindow::onSize(UINT kind) {
 void HelpWindow::refreshFont() {
     const LOGFONTA description = StatusFont(DpiOf(window()));
     FontHandle font(CreateFontIndirectA(&description));
-    for (std::size_t i = 0; i < kCommandCount; ++i)
-        SendMessageA(button(i), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    bar_.setFont(font.get());
     SendMessageA(foot_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
     font_ = std::move(font);
     layOut();
@@ -290,36 +189,21 @@ void HelpWindow::refreshFont() {
 
 void HelpWindow::layOut() {
     const RECT area = clientArea();
-    const int dpi = DpiOf(window());
-    const int gap = Scaled(kGap, dpi);
+    const int gap = Scaled(kFootGap, DpiOf(window()));
     const int lineHeight = static_cast<int>(MetricsOf(window(), font_.get()).tmHeight);
     const bool hasFoot = GetWindowTextLengthA(foot_) > 0;
     const int footHeight = hasFoot ? lineHeight + 2 * gap : 0;
-    const LONG top = layOutButtons(gap, lineHeight + Scaled(kButtonEdges, dpi) / 2);
+    const LONG top = bar_.layOut(font_.get());
     const LONG bottom = std::max(top, area.bottom - footHeight);
     pane_.place({0, top, area.right, bottom});
     MoveWindow(foot_, gap, static_cast<int>(bottom) + gap, static_cast<int>(area.right) - 2 * gap, lineHeight, TRUE);
     ShowWindow(foot_, hasFoot ? SW_SHOWNA : SW_HIDE);
 }
 
-// Gives the height that they take.
-int HelpWindow::layOutButtons(int gap, int height) {
-    int x = gap;
-    for (std::size_t i = 0; i < kCommandCount; ++i) {
-        if (!HelpWindowTables::kCommands[i].isButton) continue;
-        const int width = TextWidth(window(), font_.get(), ButtonText(i)) + Scaled(kButtonEdges, DpiOf(window()));
-        MoveWindow(button(i), x, gap, width, height, TRUE);
-        x += width + gap;
-    }
-    return height + 2 * gap;
-}
-
 void HelpWindow::refreshCommands() {
-    for (std::size_t i = 0; i < kCommandCount; ++i) {
+    for (std::size_t i = 0; i < std::size(HelpWindowTables::kCommands); ++i) {
         const auto isEnabled = HelpWindowTables::kCommands[i].isEnabled;
-        const bool enabled = !isEnabled || (browser_.*isEnabled)();
-        EnableWindow(button(i), enabled);
-        EnableMenuItem(GetMenu(window()), NumberOf(i), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+        bar_.enable(i, !isEnabled || (browser_.*isEnabled)());
     }
 }
 
@@ -343,9 +227,10 @@ void HelpWindow::onSettingChange() {
 // ---- commands, keys and questions --------------------------------------------------------------------------------
 
 bool HelpWindow::onCommand(WORD id, bool) {
-    if (id < kFirstCommand || id >= NumberOf(kCommandCount)) return false;
+    const auto command = bar_.commandOf(id);
+    if (!command) return false;
     SetFocus(pane_.window());
-    (this->*HelpWindowTables::kCommands[id - kFirstCommand].run)();
+    (this->*HelpWindowTables::kCommands[*command].run)();
     return true;
 }
 
@@ -359,16 +244,10 @@ bool HelpWindow::useKey(const KeyMessage& key) {
     return true;
 }
 
-// Of a button; the menus have theirs by the system.
 bool HelpWindow::useMnemonic(unsigned char character) {
-    for (std::size_t i = 0; i < kCommandCount; ++i) {
-        const HelpWindowTables::Command& command = HelpWindowTables::kCommands[i];
-        const bool isMeant = MnemonicOf(LoadText(command.text)) == LowerAscii(static_cast<char>(character));
-        if (!isMeant || !IsWindowEnabled(button(i))) continue;
-        (this->*command.run)();
-        return true;
-    }
-    return false;
+    const auto command = bar_.commandOfMnemonic(character);
+    if (command) (this->*HelpWindowTables::kCommands[*command].run)();
+    return command.has_value();
 }
 
 void HelpWindow::print() {

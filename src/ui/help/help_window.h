@@ -3,12 +3,12 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "base/config_store.h"
 #include "framework/gdi.h"
 #include "framework/window.h"
 #include "quickhelp/topics/help_browser.h"
+#include "ui/help/command_bar.h"
 #include "ui/help/topic_pane.h"
 #include "ui/help/topic_printer.h"
 
@@ -51,13 +51,8 @@ class HelpWindow : public WindowCL, private TopicPaneHost {
     void showTopic();
     void showRefused();
     void tell(const std::string& text);
-    void placeFirst();
-    void savePlace() const;
     void refreshFont();
-    bool addButtons();
-    HWND button(std::size_t command) const;
     void layOut();
-    int layOutButtons(int gap, int height);
     void refreshCommands();
     void closePopUp();
     void askLater(topics::BrowserOutcome outcome);
@@ -82,6 +77,7 @@ class HelpWindow : public WindowCL, private TopicPaneHost {
     topics::HelpBrowser browser_;
     TopicPane pane_;
     TopicPane popUp_;
+    CommandBar bar_;
     FontHandle font_;
     HWND foot_ = nullptr;  // a child with a text, hidden without one
     std::string findText_;

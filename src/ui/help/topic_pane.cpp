@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "framework/dpi.h"
+#include "framework/screen.h"
 
 namespace vexa {
 namespace {
@@ -16,13 +17,6 @@ constexpr int kHandCursor = 32649;  // of systems from Windows 2000 on
 
 int Height(const RECT& area) {
     return static_cast<int>(area.bottom - area.top);
-}
-
-RECT WorkAreaAt(POINT place) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    if (!GetMonitorInfoA(MonitorFromPoint(place, MONITOR_DEFAULTTONEAREST), &monitor)) return {0, 0, 640, 480};
-    return monitor.rcWork;
 }
 
 int RightOf(const topics::LaidRegion& region) {
@@ -71,7 +65,7 @@ bool TopicPane::openPopUp(HWND owner, const topics::ShownTopic& topic, POINT scr
     isPopUp_ = true;
     if (!window() && !create(kPaneClass, {.style = WS_POPUP | WS_BORDER, .place = {}, .parent = owner})) return false;
     take(topic);
-    const RECT screen = WorkAreaAt(screenPlace);
+    const RECT screen = WorkAreaNear({screenPlace.x, screenPlace.y, screenPlace.x + 1, screenPlace.y + 1});
     const int dpi = DpiOf(window());
     layOut(std::min(Scaled(kPopUpWidth, dpi), static_cast<int>(screen.right - screen.left) / 2));
     const int edges = 2 * margin() + 2;
