@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/clipboard.h"
 #include "framework/dpi.h"
 #include "framework/screen.h"
 
@@ -351,15 +352,8 @@ void TopicPane::selectAll() {
 void TopicPane::copy() {
     const auto [from, to] = std::minmax(anchor_, caret_);
     const std::string text = topics::TextBetween(*shown_.topic, from, to);
-    if (text.empty() || !OpenClipboard(window())) return;
-    EmptyClipboard();
-    if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1)) {
-        auto* bytes = static_cast<char*>(GlobalLock(memory));
-        std::copy_n(text.c_str(), text.size() + 1, bytes);
-        GlobalUnlock(memory);
-        if (!SetClipboardData(CF_TEXT, memory)) GlobalFree(memory);
-    }
-    CloseClipboard();
+    const ClipboardEntry entries[] = {{CF_TEXT, text}};
+    if (!text.empty() && !PutOnClipboard(window(), entries)) MessageBeep(MB_ICONEXCLAMATION);
 }
 
 bool TopicPane::findNext(const std::string& text) {
