@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "framework/centred.h"
+#include "framework/windows_behind.h"
 
 namespace vexa {
 namespace {
@@ -53,6 +54,7 @@ DialogFrameCL::~DialogFrameCL() {
 
 bool DialogFrameCL::runModal(HWND owner) {
     isModal_ = true;
+    const WindowsBehind behind(owner);
     return DialogBoxParamA(Program(), MAKEINTRESOURCEA(resource_), owner, &DialogFrameCL::Procedure,
                            reinterpret_cast<LPARAM>(this)) == IDOK;
 }

@@ -2,6 +2,8 @@
 
 #include <commdlg.h>
 
+#include "framework/windows_behind.h"
+
 namespace vexa {
 namespace {
 
@@ -37,6 +39,7 @@ std::optional<std::string> Ask(const FileDialogRequest& request, BOOL(WINAPI* di
     record.nMaxFile = static_cast<DWORD>(selection.size());
     record.lpstrTitle = request.title.c_str();
     record.Flags = flags | OFN_HIDEREADONLY | (request.explorerStyle ? OFN_EXPLORER : 0u);
+    const WindowsBehind behind(request.owner);
     if (!dialog(&record)) return std::nullopt;
     return UntilDoubleZero(selection);
 }

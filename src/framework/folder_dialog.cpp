@@ -3,6 +3,8 @@
 #include <objbase.h>
 #include <shlobj.h>
 
+#include "framework/windows_behind.h"
+
 namespace vexa {
 
 std::optional<std::string> AskFolder(HWND owner, const std::string& title) {
@@ -12,6 +14,7 @@ std::optional<std::string> AskFolder(HWND owner, const std::string& title) {
     question.pszDisplayName = path;
     question.lpszTitle = title.c_str();
     question.ulFlags = BIF_RETURNONLYFSDIRS;
+    const WindowsBehind behind(owner);
     LPITEMIDLIST chosen = SHBrowseForFolderA(&question);
     if (!chosen) return std::nullopt;
     const bool isFolder = SHGetPathFromIDListA(chosen, path);

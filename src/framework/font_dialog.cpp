@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "framework/gdi.h"
+#include "framework/windows_behind.h"
 
 namespace vexa {
 namespace {
@@ -32,6 +33,7 @@ bool AskFixedPitchFont(HWND owner, LOGFONTA& description) {
     request.hwndOwner = owner;
     request.lpLogFont = &answer;
     request.Flags = CF_SCREENFONTS | CF_FIXEDPITCHONLY | CF_INITTOLOGFONTSTRUCT | CF_NOSCRIPTSEL | CF_FORCEFONTEXIST;
+    const WindowsBehind behind(owner);
     if (!ChooseFontA(&request)) return false;
     // Whoever leaves a substitute as it is has not chosen it: the face that was set may be on another machine.
     if (std::strcmp(answer.lfFaceName, shown.lfFaceName) == 0)

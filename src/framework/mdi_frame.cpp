@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "framework/drawing_pause.h"
+#include "framework/windows_behind.h"
 
 namespace vexa {
 namespace {
@@ -137,9 +138,11 @@ bool MDIframeCL::onClose() {
     return true;
 }
 
-// The frame takes nothing in meanwhile: no key may reach a document that the user has agreed to close.
+// The frame and what is open beside it take nothing in meanwhile: no key may reach a document that the user has agreed
+// to close.
 void MDIframeCL::closeChildren(const std::vector<MDIchildCL*>& order) {
     const DrawingPause pause(client_);
+    const WindowsBehind behind(window());
     EnableWindow(window(), FALSE);
     isClosingChildren_ = true;
     for (MDIchildCL* child : order) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "framework/centred.h"
+#include "framework/windows_behind.h"
 
 namespace vexa {
 namespace {
@@ -45,6 +46,7 @@ class BoxOverOwner {
 
 int ShowBox(HWND owner, const std::string& text, const std::string& caption, UINT buttons) {
     MessageBeep(MB_ICONEXCLAMATION);
+    const WindowsBehind behind(owner);
     const BoxOverOwner over(owner);
     const int answer = MessageBoxA(owner, text.c_str(), caption.c_str(), buttons | MB_ICONEXCLAMATION);
     return answer ? answer : IDCANCEL;
@@ -59,6 +61,7 @@ void ShowAboutBox(HWND owner, const std::string& text, const std::string& captio
     box.lpszCaption = caption.c_str();
     box.dwStyle = MB_OK | MB_USERICON;
     box.lpszIcon = MAKEINTRESOURCEA(icon);
+    const WindowsBehind behind(owner);
     const BoxOverOwner over(owner);
     MessageBoxIndirectA(&box);
 }

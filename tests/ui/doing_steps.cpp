@@ -88,7 +88,7 @@ bool PressButton(Stage& stage, StepWords words) {
 }
 
 bool GoTo(Stage& stage, StepWords words) {
-    const HWND window = words.word() == "text" ? stage.editor->frame() : stage.dialog();
+    const HWND window = words.window(stage);
     SetForegroundWindow(window);
     return WaitUntil([&] { return GetForegroundWindow() == window; });
 }

@@ -23,7 +23,7 @@ constexpr ModalCommand kDialogs[] = {
     {CommandId::ChangeOptions, "Editor Options"}, {CommandId::ChangeColours, "Color Setup"},
     {CommandId::RepeatMacro, "Macro Repeat"},     {CommandId::ChangeExtensions, "File Extensions"},
     {CommandId::PrintSetup, "Page Setup"},        {CommandId::ChangeElectric, "Electric Keyboard"},
-    {CommandId::About, "About Vexa 95"},
+    {CommandId::About, "About Vexa 95"},          {CommandId::ChangeFont, "Font"},
 };
 constexpr CommandId kCommands[] = {CommandId::FileNew,       CommandId::FileClose,   CommandId::FileSave,
                                    CommandId::FileSaveAll,   CommandId::Exit,        CommandId::Cut,
@@ -54,6 +54,24 @@ TEST(Guard, NoCommandRunsBehindADialog) {
     editor.keys("y");
     EXPECT_TRUE(editor.showsPosition(1, 3)) << "the keyboard has come back to the text";
     EXPECT_EQ(folder.get("a.txt"), "one two\r\n");
+}
+
+TEST(Guard, FindTakesNothingBehindADialogAndHasTheKeyboardAgainAfterIt) {
+    const TestFolder folder;
+    folder.put("a.txt", "one two\r\n");
+    const Editor editor(folder, {"a.txt"});
+    editor.keys("{Alt+S}");
+    const HWND find = editor.dialog("Find");
+    for (const ModalCommand& modal : kDialogs) {
+        editor.command(modal.id);
+        const HWND dialog = editor.dialog(modal.caption);
+        ASSERT_TRUE(dialog) << modal.caption;
+        EXPECT_FALSE(IsWindowEnabled(find)) << modal.caption;
+        PostMessageA(dialog, WM_CLOSE, 0, 0);
+        ASSERT_TRUE(WaitUntil([&] { return !IsWindow(dialog) && GetForegroundWindow() == find; })) << modal.caption;
+    }
+    editor.keys("two{Enter}");
+    EXPECT_TRUE(editor.showsPosition(1, 5));
 }
 
 TEST(Guard, OddMessagesDoNotEndTheEditor) {

@@ -19,7 +19,7 @@ bool HasDialog(Stage& stage, StepWords words) {
     while (!stage.dialogs.empty() && !IsWindow(stage.dialog()))
         stage.dialogs.pop_back();
     const HWND front = GetForegroundWindow();
-    if (ClassOf(front) != "#32770" || TextOf(front) != words.rest()) return false;
+    if (!IsWindowVisible(front) || ClassOf(front) != "#32770" || TextOf(front) != words.rest()) return false;
     if (stage.dialogs.empty() || stage.dialog() != front) stage.dialogs.push_back(front);
     return true;
 }
@@ -166,6 +166,7 @@ const std::map<std::string, Run> kSteps = {
     {"unchecked", [](Stage& s, StepWords w) { return !IsChecked(w.control(s)); }},
     {"enabled", [](Stage& s, StepWords w) -> bool { return IsWindowEnabled(w.control(s)); }},
     {"disabled", [](Stage& s, StepWords w) { return !IsWindowEnabled(w.control(s)); }},
+    {"switched-off", [](Stage& s, StepWords w) { return !IsWindowEnabled(w.window(s)); }},
     {"focused", &HasFocus},
     {"marked", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), CB_GETEDITSEL, 0, 0) != 0; }},
     {"unmarked", [](Stage& s, StepWords w) { return SendMessageA(w.control(s), CB_GETEDITSEL, 0, 0) == 0; }},

@@ -51,6 +51,8 @@ class StepWords : public Words {
     // What is left when it is looked at: a comparison may take words after it has asked for this.
     const std::string& rest() const { return text_; }
     HWND control(const Stage& stage) { return GetDlgItem(stage.dialog(), ControlNamed(word())); }
+    // The editor's, for "text", or the dialog that is meant.
+    HWND window(const Stage& stage) { return word() == "text" ? stage.editor->frame() : stage.dialog(); }
     std::size_t pane() { return PaneNamed(word()); }
     // The middle of a line and column.
     POINT pixel(const Stage& stage);

@@ -1,6 +1,7 @@
 #include "ui/print/print_desk.h"
 
 #include "base/strings.h"
+#include "framework/windows_behind.h"
 #include "ui/print/page_setup_dialog.h"
 #include "ui/print/topic_pages.h"
 
@@ -49,11 +50,13 @@ PrintResult PrintDesk::run(HWND owner, const PrintOrder& order, PrintedPages& pa
     return runJob(owner, PrintSequence(order.pages, pages.count()), target, pages.name());
 }
 
+// No window takes anything in meanwhile, so that what is printed stays as it is.
 PrintResult PrintDesk::runJob(HWND owner, const PrintSequence& sequence, PrintTarget& target, const std::string& name) {
     if (sequence.count() == 0) return PrintResult::NothingToPrint;
     PrintProgressDialog progress(application_.store, notices_, name);
     const BusyCursor busy(notices_);
-    if (!progress.open(owner)) return PrintResult::Failed;
+    const WindowsBehind behind(nullptr);
+    if (!progress.openModeless(owner)) return PrintResult::Failed;
     const HWND openBefore = loop_.modelessDialog();
     loop_.setModelessDialog(progress.window());
     const PrintResult result = RunPrint(sequence, target, progress);

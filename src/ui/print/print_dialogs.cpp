@@ -3,6 +3,7 @@
 #include <cderr.h>
 
 #include "base/strings.h"
+#include "framework/windows_behind.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {
@@ -85,6 +86,7 @@ PrinterAnswer PrinterChoice::setUp(HWND owner) {
     PRINTDLGA request{};
     request.hwndOwner = owner;
     request.Flags = PD_PRINTSETUP;
+    const WindowsBehind behind(owner);
     return run(request);
 }
 
@@ -98,6 +100,7 @@ PrinterAnswer PrinterChoice::ask(HWND owner, bool hasMarkedArea, PrintOrder& ord
     request.nMinPage = 1;
     request.nMaxPage = 0xFFFF;  // how many there are depends on the paper that is chosen here
     request.nCopies = 1;
+    const WindowsBehind behind(owner);
     const PrinterAnswer answer = run(request);
     order.printer.reset(request.hDC);
     if (answer != PrinterAnswer::Chosen) return answer;
@@ -111,17 +114,6 @@ PrinterAnswer PrinterChoice::ask(HWND owner, bool hasMarkedArea, PrintOrder& ord
 PrintProgressDialog::PrintProgressDialog(ConfigStore& store, Notices& notices, std::string documentName)
     : EditorDialog(store, IDD_PRINTING), notices_(notices), documentName_(std::move(documentName)) {}
 
-// The others come first: with none of them enabled, the system would bring another program to the front.
-PrintProgressDialog::~PrintProgressDialog() {
-    enableOthers();
-    close(false);
-}
-
-bool PrintProgressDialog::open(HWND frame) {
-    disableOthers();
-    return openModeless(frame);
-}
-
 void PrintProgressDialog::onOpen() {
     setTextOf(IDC_PRINTED_DOCUMENT, documentName_);
 }
@@ -130,25 +122,6 @@ bool PrintProgressDialog::pageComes(std::int64_t i, std::int64_t count) {
     setTextOf(IDC_PRINTED_PAGE, FillText(TextId::PageOf, {std::to_string(i), std::to_string(count)}));
     UpdateWindow(window());
     return !notices_.pumpMessages() && !isCancelled_;
-}
-
-BOOL CALLBACK PrintProgressDialog::AddEnabled(HWND window, LPARAM windows) {
-    if (IsWindowVisible(window) && IsWindowEnabled(window)) {
-        reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
-    }
-    return TRUE;
-}
-
-void PrintProgressDialog::disableOthers() {
-    EnumThreadWindows(GetCurrentThreadId(), &AddEnabled, reinterpret_cast<LPARAM>(&disabled_));
-    for (const HWND other : disabled_)
-        EnableWindow(other, FALSE);
-}
-
-void PrintProgressDialog::enableOthers() {
-    for (const HWND other : disabled_)
-        EnableWindow(other, TRUE);
-    disabled_.clear();
 }
 
 }  // namespace vexa

@@ -6,7 +6,6 @@
 #include <commdlg.h>
 
 #include <string>
-#include <vector>
 
 #include "base/notices.h"
 #include "document/print/print_layout.h"
@@ -51,14 +50,12 @@ class PrinterChoice {
     GlobalBlock names_;     // a DEVNAMES: which printer
 };
 
-// "Printing": stays until the job is at its end, and lets the user cancel it. The frame and the windows beside it take
-// no input meanwhile, so that the document stays as it is.
+// "Printing": stays until the job is at its end, and lets the user cancel it.
 class PrintProgressDialog : public EditorDialog, public PrintProgress {
   public:
     PrintProgressDialog(ConfigStore& store, Notices& notices, std::string documentName);
-    ~PrintProgressDialog() override;
+    ~PrintProgressDialog() override { close(false); }
 
-    bool open(HWND frame);
     bool pageComes(std::int64_t i, std::int64_t count) override;
 
   protected:
@@ -67,13 +64,8 @@ class PrintProgressDialog : public EditorDialog, public PrintProgress {
     void onCancel() override { isCancelled_ = true; }
 
   private:
-    static BOOL CALLBACK AddEnabled(HWND window, LPARAM windows);
-    void disableOthers();
-    void enableOthers();
-
     Notices& notices_;
     const std::string documentName_;
-    std::vector<HWND> disabled_;
     bool isCancelled_ = false;
 };
 
