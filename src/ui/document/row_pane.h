@@ -6,9 +6,9 @@
 
 #include "document/view/edit_view.h"
 #include "framework/window.h"
+#include "framework/window_scroll_bars.h"
 #include "ui/document/row_painter.h"
 #include "ui/document/shown_rows.h"
-#include "ui/document/window_scroll_bars.h"
 
 namespace vexa {
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "framework/gdi.h"
+#include "framework/scroll_rules.h"
 #include "framework/window.h"
-#include "ui/document/scroll_rules.h"
 #include "ui/frame/tab_rules.h"
 
 namespace vexa {

@@ -1,4 +1,4 @@
-#include "ui/document/scroll_rules.h"
+#include "framework/scroll_rules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/document/window_scroll_bars.h"
+#include "framework/window_scroll_bars.h"
 
 #include <algorithm>
 

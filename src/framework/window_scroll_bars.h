@@ -5,8 +5,8 @@
 
 #include <optional>
 
+#include "framework/scroll_rules.h"
 #include "framework/window.h"
-#include "ui/document/scroll_rules.h"
 
 namespace vexa {
 
