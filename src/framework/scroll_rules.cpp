@@ -12,10 +12,10 @@ using Target = std::int32_t (*)(const ScrollState& state, std::int32_t track);
 
 // In the order of the system's numbers: line up and down, page up and down, thumb dropped and dragged, both ends.
 constexpr Target kTargets[] = {
-    [](const ScrollState& s, std::int32_t) { return s.position - 1; },
-    [](const ScrollState& s, std::int32_t) { return s.position + 1; },
-    [](const ScrollState& s, std::int32_t) { return s.position - std::max(s.page - 1, 1); },
-    [](const ScrollState& s, std::int32_t) { return s.position + std::max(s.page - 1, 1); },
+    [](const ScrollState& s, std::int32_t) { return s.position - s.step; },
+    [](const ScrollState& s, std::int32_t) { return s.position + s.step; },
+    [](const ScrollState& s, std::int32_t) { return s.position - std::max(s.page - s.step, s.step); },
+    [](const ScrollState& s, std::int32_t) { return s.position + std::max(s.page - s.step, s.step); },
     [](const ScrollState&, std::int32_t track) { return track; },
     [](const ScrollState&, std::int32_t track) { return track; },
     [](const ScrollState&, std::int32_t) { return 0; },
@@ -54,13 +54,13 @@ std::int32_t ScrollTarget(unsigned request, const ScrollState& state, std::int32
     return std::clamp(kTargets[request](state, track), 0, std::max(end, 0));
 }
 
-std::int32_t WheelSteps::add(std::int32_t delta, std::int32_t linesPerNotch) {
-    const std::int32_t steps = -delta * linesPerNotch;
+std::int32_t WheelSteps::add(std::int32_t delta, std::int32_t unitsPerNotch) {
+    const std::int32_t steps = -delta * unitsPerNotch;
     const bool turnsBack = (rest_ < 0 && steps > 0) || (rest_ > 0 && steps < 0);
     rest_ = steps + (turnsBack ? 0 : rest_);
-    const std::int32_t lines = rest_ / kNotch;
-    rest_ -= lines * kNotch;
-    return lines;
+    const std::int32_t units = rest_ / kNotch;
+    rest_ -= units * kNotch;
+    return units;
 }
 
 }  // namespace vexa

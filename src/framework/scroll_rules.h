@@ -5,11 +5,12 @@
 
 namespace vexa {
 
-// One scroll bar, in lines or columns.
+// One scroll bar, in units of its window: lines, columns or pixels.
 struct ScrollState {
-    std::int32_t last = 0;      // the last line or column that can be scrolled to
+    std::int32_t last = 0;      // the last unit that can be scrolled to
     std::int32_t page = 1;      // how many are seen at once
     std::int32_t position = 0;  // the first one seen
+    std::int32_t step = 1;      // how many a click on an arrow, or a line of a wheel, goes on
 
     bool operator==(const ScrollState&) const = default;
 };
@@ -26,15 +27,15 @@ bool ThumbMoves(const ScrollState& from, const ScrollState& to, std::int32_t pix
 // nothing.
 std::int32_t ScrollTarget(unsigned request, const ScrollState& state, std::int32_t track);
 
-// Turns the steps of a wheel, which can be smaller than a notch, into whole lines.
+// Turns the steps of a wheel, which can be smaller than a notch, into whole units.
 class WheelSteps {
   public:
-    // A notch is a delta of 120. Lines to scroll down (up below 0); what is left over counts with the next delta,
+    // A notch is a delta of 120. Units to scroll down (up below 0); what is left over counts with the next delta,
     // unless the wheel then turns the other way.
-    std::int32_t add(std::int32_t delta, std::int32_t linesPerNotch);
+    std::int32_t add(std::int32_t delta, std::int32_t unitsPerNotch);
 
   private:
-    std::int32_t rest_ = 0;  // in lines times the delta of a notch
+    std::int32_t rest_ = 0;  // in units times the delta of a notch
 };
 
 }  // namespace vexa

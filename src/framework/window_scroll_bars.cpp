@@ -10,7 +10,8 @@ void WindowScrollBars::show(HWND window, int bar, const ScrollState& wanted) {
     shown_[bar] = state;
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
-    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    if (bar == SB_VERT || horizontal_ == Horizontal::Always) info.fMask |= SIF_DISABLENOSCROLL;
     info.nMax = state.last;
     info.nPage = static_cast<UINT>(state.page);
     info.nPos = state.position;
@@ -38,11 +39,13 @@ int WindowScrollBars::barOf(const WheelMessage& turn) {
 std::int32_t WindowScrollBars::target(const WheelMessage& turn, const ScrollState& state) {
     UINT linesPerNotch = 3;
     SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &linesPerNotch, 0);
-    const auto most = static_cast<UINT>(state.page);  // also for the setting "one page a notch"
+    // A page at most, also for the setting "one page a notch".
+    const auto most = static_cast<UINT>(std::max(state.page / state.step, 1));
+    const auto perNotch = static_cast<std::int32_t>(std::min(linesPerNotch, most)) * state.step;
     const int delta = turn.axis == WheelAxis::Horizontal ? -turn.delta : turn.delta;
-    const auto lines = wheel_[barOf(turn)].add(delta, static_cast<std::int32_t>(std::min(linesPerNotch, most)));
+    const std::int32_t units = wheel_[barOf(turn)].add(delta, perNotch);
     const std::int32_t end = std::max({state.last - state.page + 1, state.position, 0});
-    return std::clamp(state.position + lines, 0, end);
+    return std::clamp(state.position + units, 0, end);
 }
 
 }  // namespace vexa

@@ -13,7 +13,6 @@ constexpr WindowClass kPaneClass{.name = "VexaTopic"};
 constexpr int kMargin = 8;  // pixels at the normal resolution, as are the others
 constexpr int kLineStep = 20;
 constexpr int kPopUpWidth = 420;
-constexpr int kWheelNotch = 120;
 constexpr int kHandCursor = 32649;  // of systems from Windows 2000 on
 
 int Height(const RECT& area) {
@@ -144,58 +143,44 @@ int TopicPane::pageHeight() const {
 
 // ---- scrolling ---------------------------------------------------------------------------------------------------
 
+ScrollState TopicPane::scrollState(int bar) const {
+    const int step = Scaled(kLineStep, DpiOf(window()));
+    if (bar == SB_VERT) return {layout_.scrolling.height - 1, pageHeight(), static_cast<std::int32_t>(scroll_.y), step};
+    const int page = std::max(1, static_cast<int>(clientArea().right) - 2 * margin());
+    const int width = std::max(layout_.scrolling.width, layout_.fixed.width);
+    return {width - 1, page, static_cast<std::int32_t>(scroll_.x), step};
+}
+
 // A position beyond the end becomes the last one.
 void TopicPane::scrollTo(int x, int y) {
-    const int right =
-        std::max(layout_.scrolling.width, layout_.fixed.width) - static_cast<int>(clientArea().right) + 2 * margin();
-    scroll_.x = std::clamp(x, 0, std::max(0, right));
-    scroll_.y = std::clamp(y, 0, std::max(0, layout_.scrolling.height - pageHeight()));
-    if (!isPopUp_) updateBars();
+    const auto lastOf = [this](int bar) {
+        const ScrollState state = scrollState(bar);
+        return std::max(0, state.last - state.page + 1);
+    };
+    scroll_ = {std::clamp(x, 0, lastOf(SB_HORZ)), std::clamp(y, 0, lastOf(SB_VERT))};
+    if (!isPopUp_) showScrollBars();
     host_.paneScrolled(*this, scroll_.y);
     InvalidateRect(window(), nullptr, FALSE);
 }
 
-void TopicPane::updateBars() {
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL | SIF_DISABLENOSCROLL;
-    info.nMax = std::max(0, layout_.scrolling.height - 1);
-    info.nPage = static_cast<UINT>(pageHeight());
-    info.nPos = scroll_.y;
-    SetScrollInfo(window(), SB_VERT, &info, TRUE);
-    info.fMask = SIF_ALL;
-    info.nMax = std::max(layout_.scrolling.width, layout_.fixed.width) - 1;
-    info.nPage = static_cast<UINT>(std::max(1, static_cast<int>(clientArea().right) - 2 * margin()));
-    info.nPos = scroll_.x;
-    SetScrollInfo(window(), SB_HORZ, &info, TRUE);
+void TopicPane::showScrollBars() {
+    for (const int bar : {SB_VERT, SB_HORZ})
+        scrollBars_.show(window(), bar, scrollState(bar));
+}
+
+void TopicPane::scrollBar(int bar, int position) {
+    bar == SB_VERT ? scrollTo(scroll_.x, position) : scrollTo(position, scroll_.y);
 }
 
 bool TopicPane::onScroll(int bar, UINT request) {
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
-    GetScrollInfo(window(), bar, &info);
-    const int line = Scaled(kLineStep, device_.dpi());
-    const int page = static_cast<int>(info.nPage);
-    const int steps[] = {-line, line, -page, page};
-    int position = info.nPos;
-    if (request <= SB_PAGEDOWN) position += steps[request];
-    if (request == SB_THUMBTRACK || request == SB_THUMBPOSITION) position = info.nTrackPos;
-    if (request == SB_TOP) position = 0;
-    if (request == SB_BOTTOM) position = info.nMax;
-    bar == SB_VERT ? scrollTo(scroll_.x, position) : scrollTo(position, scroll_.y);
+    scrollBar(bar, WindowScrollBars::target(window(), bar, request, scrollState(bar)));
     return true;
 }
 
 bool TopicPane::onWheel(const WheelMessage& turn) {
-    if (turn.axis != WheelAxis::Vertical || turn.control) return false;
-    UINT lines = 3;
-    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    const int notch =
-        lines == WHEEL_PAGESCROLL ? pageHeight() : static_cast<int>(lines) * Scaled(kLineStep, device_.dpi());
-    wheelRest_ += turn.delta * notch;
-    scrollBy(-wheelRest_ / kWheelNotch);
-    wheelRest_ %= kWheelNotch;
+    if (turn.control) return false;
+    const int bar = WindowScrollBars::barOf(turn);
+    scrollBar(bar, scrollBars_.target(turn, scrollState(bar)));
     return true;
 }
 

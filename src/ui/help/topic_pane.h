@@ -8,6 +8,7 @@
 
 #include "framework/gdi.h"
 #include "framework/window.h"
+#include "framework/window_scroll_bars.h"
 #include "quickhelp/topics/help_browser.h"
 #include "quickhelp/topics/topic_view.h"
 #include "ui/help/topic_device.h"
@@ -79,7 +80,9 @@ class TopicPane : public WindowCL {
     bool hasTopic() const { return shown_.file != nullptr; }
     void take(const topics::ShownTopic& topic);
     void layOut(int width);
-    void updateBars();
+    ScrollState scrollState(int bar) const;
+    void showScrollBars();
+    void scrollBar(int bar, int position);
     int margin() const;
     int fixedHeight() const;
     RECT scrollingArea() const;
@@ -118,6 +121,7 @@ class TopicPane : public WindowCL {
     std::vector<topics::LinkArea> fixedAreas_;
     std::vector<topics::LinkArea> scrollingAreas_;
     OffScreenBitmap picture_;
+    WindowScrollBars scrollBars_{WindowScrollBars::Horizontal::WhenNeeded};
     POINT scroll_ = {};
     topics::TextPosition anchor_, caret_;  // of the selection
     int focusedLink_ = -1;
@@ -125,7 +129,6 @@ class TopicPane : public WindowCL {
     POINT linkPlace_ = {};
     bool isSelecting_ = false;
     bool isPopUp_ = false;
-    int wheelRest_ = 0;
 };
 
 }  // namespace vexa

@@ -19,7 +19,8 @@ TEST(ScrollRules, RequestsMoveWithinTheText) {
     for (const test::Cells& row : test::RowsOf(kFiles, "scrolling")) {
         const auto request = std::ranges::find(kRequests, row.at(0)) - kRequests.begin();
         const auto number = [&](std::size_t cell) { return std::stoi(row.at(cell)); };
-        const ScrollState state{.last = number(1), .page = number(2), .position = number(3)};
+        const int step = row.size() > 6 ? number(6) : 1;
+        const ScrollState state{.last = number(1), .page = number(2), .position = number(3), .step = step};
         EXPECT_EQ(ScrollTarget(static_cast<unsigned>(request), state, number(4)), number(5))
             << row.at(0) << " from " << state.position << " of " << state.last;
     }
