@@ -35,38 +35,39 @@ PlainSearch::PlainSearch(std::string_view literal, LetterCase letterCase, Instru
 const char* PlainSearch::find(std::string_view text) const {
     if (text.size() < literal_.size()) return nullptr;
     if (literal_.empty()) return text.data();
-    const std::size_t places = text.size() - literal_.size() + 1;
-    constexpr std::size_t kFewPlaces = 4;
-    if (instructions_ == Instructions::Plain || places < kFewPlaces) return findPlain(text.data(), places);
-    return findSse2(text.data(), places);
+    const std::size_t count = text.size() - literal_.size() + 1;
+    constexpr std::size_t kFewPositions = 4;
+    if (instructions_ == Instructions::Plain || count < kFewPositions) return findPlain(text.data(), count);
+    return findSse2(text.data(), count);
 }
 
 // Whether the bytes between the first and the last are those of the literal, given that those two are.
-bool PlainSearch::equalsAt(const char* place) const {
+bool PlainSearch::equalsAt(const char* position) const {
     const std::size_t size = literal_.size();
     const char* literal = literal_.data();
     if (letterCase_ == LetterCase::Sensitive) {
         for (std::size_t i = 1; i + 1 < size; ++i)
-            if (place[i] != literal[i]) return false;
+            if (position[i] != literal[i]) return false;
     } else {
         for (std::size_t i = 1; i + 1 < size; ++i)
-            if (LowerAscii(place[i]) != literal[i]) return false;
+            if (LowerAscii(position[i]) != literal[i]) return false;
     }
     return true;
 }
 
-const char* PlainSearch::findPlain(const char* place, std::size_t places) const {
+const char* PlainSearch::findPlain(const char* position, std::size_t count) const {
     const std::size_t last = literal_.size() - 1;
-    for (const char* end = place + places; place != end; ++place) {
-        if ((*place | firstFold_[0]) == first_[0] && (place[last] | lastFold_[0]) == last_[0] && equalsAt(place))
-            return place;
+    for (const char* end = position + count; position != end; ++position) {
+        if ((*position | firstFold_[0]) == first_[0] && (position[last] | lastFold_[0]) == last_[0] &&
+            equalsAt(position))
+            return position;
     }
     return nullptr;
 }
 
 #ifdef VEXA_SSE2_TARGET
 
-// Compares the first and the last byte of the literal with those of 16 places at a time, and looks at the rest only
+// Compares the first and the last byte of the literal with those of 16 positions at a time, and looks at the rest only
 // where both are the same.
 class PlainSearch::Sse2 {
   public:
@@ -78,52 +79,53 @@ class PlainSearch::Sse2 {
           firstFold_(load<16>(search.firstFold_.data())),
           lastFold_(load<16>(search.lastFold_.data())) {}
 
-    VEXA_SSE2_TARGET const char* find(const char* text, std::size_t places) const {
-        if (places >= 16) return findInBlocks(text, text + places);
-        if (places >= 8) return findInHalves<8>(text, text + places);
-        return findInHalves<4>(text, text + places);
+    VEXA_SSE2_TARGET const char* find(const char* text, std::size_t count) const {
+        if (count >= 16) return findInBlocks(text, text + count);
+        if (count >= 8) return findInHalves<8>(text, text + count);
+        return findInHalves<4>(text, text + count);
     }
 
   private:
-    VEXA_SSE2_TARGET const char* findInBlocks(const char* place, const char* end) const {
-        for (; end - place >= 32; place += 32) {
-            const unsigned found = candidates(load<16>(place), load<16>(place + distance_)) |
-                                   candidates(load<16>(place + 16), load<16>(place + 16 + distance_)) << 16;
+    VEXA_SSE2_TARGET const char* findInBlocks(const char* position, const char* end) const {
+        for (; end - position >= 32; position += 32) {
+            const unsigned found = candidates(load<16>(position), load<16>(position + distance_)) |
+                                   candidates(load<16>(position + 16), load<16>(position + 16 + distance_)) << 16;
             if (found == 0) continue;
-            if (const char* match = firstMatch(place, found)) return match;
+            if (const char* match = firstMatch(position, found)) return match;
         }
-        if (end - place >= 16) {
-            if (const char* match = findInBlock(place)) return match;
-            place += 16;
+        if (end - position >= 16) {
+            if (const char* match = findInBlock(position)) return match;
+            position += 16;
         }
         // The last block overlaps the one before it.
-        return place == end ? nullptr : findInBlock(end - 16);
+        return position == end ? nullptr : findInBlock(end - 16);
     }
 
-    VEXA_SSE2_TARGET const char* findInBlock(const char* place) const {
-        const unsigned found = candidates(load<16>(place), load<16>(place + distance_));
-        return found == 0 ? nullptr : firstMatch(place, found);
+    VEXA_SSE2_TARGET const char* findInBlock(const char* position) const {
+        const unsigned found = candidates(load<16>(position), load<16>(position + distance_));
+        return found == 0 ? nullptr : firstMatch(position, found);
     }
 
-    // For Half to 2 * Half places: the first and the last Half of them, which may overlap.
+    // For Half to 2 * Half positions: the first and the last Half of them, which may overlap.
     template <int Half>
-    VEXA_SSE2_TARGET const char* findInHalves(const char* place, const char* end) const {
+    VEXA_SSE2_TARGET const char* findInHalves(const char* position, const char* end) const {
         const char* second = end - Half;
-        const unsigned found = candidates(join<Half>(place, second), join<Half>(place + distance_, second + distance_));
+        const unsigned found =
+            candidates(join<Half>(position, second), join<Half>(position + distance_, second + distance_));
         constexpr unsigned kHalfMask = (1u << Half) - 1;
-        if (const char* match = firstMatch(place, found & kHalfMask)) return match;
+        if (const char* match = firstMatch(position, found & kHalfMask)) return match;
         return firstMatch(second, found >> Half & kHalfMask);
     }
 
-    const char* firstMatch(const char* place, unsigned found) const {
+    const char* firstMatch(const char* position, unsigned found) const {
         for (; found != 0; found &= found - 1) {
-            const char* candidate = place + std::countr_zero(found);
+            const char* candidate = position + std::countr_zero(found);
             if (search_.equalsAt(candidate)) return candidate;
         }
         return nullptr;
     }
 
-    // A bit for every place whose first and last byte are the literal's.
+    // A bit for every position whose first and last byte are the literal's.
     VEXA_SSE2_TARGET unsigned candidates(__m128i first, __m128i last) const {
         const __m128i same = _mm_and_si128(_mm_cmpeq_epi8(_mm_or_si128(first, firstFold_), first_),
                                            _mm_cmpeq_epi8(_mm_or_si128(last, lastFold_), last_));
@@ -131,11 +133,11 @@ class PlainSearch::Sse2 {
     }
 
     template <int Size>
-    VEXA_SSE2_TARGET static __m128i load(const char* place) {
-        if constexpr (Size == 16) return _mm_loadu_si128(reinterpret_cast<const __m128i*>(place));
-        if constexpr (Size == 8) return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(place));
+    VEXA_SSE2_TARGET static __m128i load(const char* position) {
+        if constexpr (Size == 16) return _mm_loadu_si128(reinterpret_cast<const __m128i*>(position));
+        if constexpr (Size == 8) return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(position));
         int bytes;
-        std::memcpy(&bytes, place, sizeof bytes);
+        std::memcpy(&bytes, position, sizeof bytes);
         return _mm_cvtsi32_si128(bytes);
     }
 
@@ -149,14 +151,14 @@ class PlainSearch::Sse2 {
     __m128i first_, last_, firstFold_, lastFold_;
 };
 
-VEXA_SSE2_ENTRY const char* PlainSearch::findSse2(const char* text, std::size_t places) const {
-    return Sse2(*this).find(text, places);
+VEXA_SSE2_ENTRY const char* PlainSearch::findSse2(const char* text, std::size_t count) const {
+    return Sse2(*this).find(text, count);
 }
 
 #else
 
-const char* PlainSearch::findSse2(const char* text, std::size_t places) const {
-    return findPlain(text, places);
+const char* PlainSearch::findSse2(const char* text, std::size_t count) const {
+    return findPlain(text, count);
 }
 
 #endif

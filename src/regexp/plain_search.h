@@ -26,9 +26,9 @@ class PlainSearch {
   private:
     class Sse2;
 
-    bool equalsAt(const char* place) const;
-    const char* findPlain(const char* place, std::size_t places) const;
-    const char* findSse2(const char* text, std::size_t places) const;
+    bool equalsAt(const char* position) const;
+    const char* findPlain(const char* position, std::size_t count) const;
+    const char* findSse2(const char* text, std::size_t count) const;
 
     std::string literal_;  // folded when letter case is ignored
     LetterCase letterCase_ = LetterCase::Sensitive;

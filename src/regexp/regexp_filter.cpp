@@ -39,7 +39,7 @@ void AddAlternatives(unsigned row, const ByteTable& table, std::array<Byte, 16>&
 
 }  // namespace
 
-PlaceFilter::PlaceFilter(const std::vector<Alternative>& alternatives, Instructions most)
+PositionFilter::PositionFilter(const std::vector<Alternative>& alternatives, Instructions most)
     : mode_(alternatives.size() == 1 ? Mode::OneAlternative : Mode::SeveralAlternatives),
       instructions_(AvailableOf(most)) {
     const auto addRow = mode_ == Mode::OneAlternative ? AddRow : AddAlternatives;
@@ -51,41 +51,42 @@ PlaceFilter::PlaceFilter(const std::vector<Alternative>& alternatives, Instructi
     }
 }
 
-const char* PlaceFilter::find(const char* place, const char* end) const {
-    if (mode_ == Mode::Off) return place;
-    return instructions_ == Instructions::Ssse3 ? findSsse3(place, end) : findPlain(place, end);
+const char* PositionFilter::find(const char* position, const char* end) const {
+    if (mode_ == Mode::Off) return position;
+    return instructions_ == Instructions::Ssse3 ? findSsse3(position, end) : findPlain(position, end);
 }
 
-// Looks at three characters of each place, and at fewer at the end.
-const char* PlaceFilter::findPlain(const char* place, const char* end) const {
+// Looks at three characters of each position, and at fewer at the end.
+const char* PositionFilter::findPlain(const char* position, const char* end) const {
     const auto at = [](const ByteTable& table, const char* c) { return table[static_cast<Byte>(*c)]; };
-    Byte first = at(tables_[0], place);
-    for (; place + 1 < end; ++place) {
-        const Byte both = first & at(tables_[1], place + 1);
-        if (both != 0 && (both & at(tables_[2], place + 2)) != 0) return place;
-        first = at(tables_[0], place + 1);
+    Byte first = at(tables_[0], position);
+    for (; position + 1 < end; ++position) {
+        const Byte both = first & at(tables_[1], position + 1);
+        if (both != 0 && (both & at(tables_[2], position + 2)) != 0) return position;
+        first = at(tables_[0], position + 1);
     }
-    for (; place < end; ++place)
-        if ((at(tables_[0], place) & at(tables_[1], place + 1)) != 0) return place;
+    for (; position < end; ++position)
+        if ((at(tables_[0], position) & at(tables_[1], position + 1)) != 0) return position;
     return at(tables_[0], end) != 0 ? end : nullptr;
 }
 
 #ifdef VEXA_SSSE3
 
-// Sixteen places at a time.
-class PlaceFilter::Ssse3 {
+// Sixteen positions at a time.
+class PositionFilter::Ssse3 {
   public:
-    VEXA_SSSE3_TARGET explicit Ssse3(const PlaceFilter& filter) : several_(filter.mode_ == Mode::SeveralAlternatives) {
+    VEXA_SSSE3_TARGET explicit Ssse3(const PositionFilter& filter)
+        : several_(filter.mode_ == Mode::SeveralAlternatives) {
         for (std::size_t i = 0; i < kOffsets; ++i) {
             low_[i] = _mm_load_si128(reinterpret_cast<const __m128i*>(filter.halves_[i].low.data()));
             high_[i] = _mm_load_si128(reinterpret_cast<const __m128i*>(filter.halves_[i].high.data()));
         }
     }
 
-    // The places of the sixteen from this one on that pass, as bits. Eighteen characters are read.
-    VEXA_SSSE3_TARGET unsigned passing(const char* place) const {
+    // The positions of the sixteen from this one on that pass, as bits. Eighteen characters are read.
+    VEXA_SSSE3_TARGET unsigned passing(const char* position) const {
         const __m128i none = _mm_setzero_si128();
-        const __m128i first = found(0, place), second = found(1, place + 1), third = found(2, place + 2);
+        const __m128i first = found(0, position), second = found(1, position + 1), third = found(2, position + 2);
         const __m128i failed =
             several_ ? _mm_cmpeq_epi8(_mm_and_si128(_mm_and_si128(first, second), third), none)
                      : _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(first, none), _mm_cmpeq_epi8(second, none)),
@@ -94,8 +95,8 @@ class PlaceFilter::Ssse3 {
     }
 
   private:
-    VEXA_SSSE3_TARGET __m128i found(std::size_t offset, const char* place) const {
-        const __m128i text = _mm_loadu_si128(reinterpret_cast<const __m128i*>(place));
+    VEXA_SSSE3_TARGET __m128i found(std::size_t offset, const char* position) const {
+        const __m128i text = _mm_loadu_si128(reinterpret_cast<const __m128i*>(position));
         const __m128i nibble = _mm_set1_epi8(0x0F);
         return _mm_and_si128(_mm_shuffle_epi8(low_[offset], _mm_and_si128(text, nibble)),
                              _mm_shuffle_epi8(high_[offset], _mm_and_si128(_mm_srli_epi16(text, 4), nibble)));
@@ -106,23 +107,23 @@ class PlaceFilter::Ssse3 {
     __m128i high_[kOffsets];
 };
 
-VEXA_SSSE3_ENTRY const char* PlaceFilter::findSsse3(const char* place, const char* end) const {
+VEXA_SSSE3_ENTRY const char* PositionFilter::findSsse3(const char* position, const char* end) const {
     constexpr std::ptrdiff_t kRead = 18;
     const Ssse3 vectors(*this);
-    if (end + 1 - place < kRead) return findPlain(place, end);
+    if (end + 1 - position < kRead) return findPlain(position, end);
     const char* last = end + 1 - kRead;
-    for (;; place = std::min(place + 16, last)) {
-        const unsigned passing = vectors.passing(place);
-        if (passing != 0) return place + std::countr_zero(passing);
+    for (;; position = std::min(position + 16, last)) {
+        const unsigned passing = vectors.passing(position);
+        if (passing != 0) return position + std::countr_zero(passing);
         // The last sixteen overlap those before.
-        if (place == last) return findPlain(end - 1, end);
+        if (position == last) return findPlain(end - 1, end);
     }
 }
 
 #else
 
-const char* PlaceFilter::findSsse3(const char* place, const char* end) const {
-    return findPlain(place, end);
+const char* PositionFilter::findSsse3(const char* position, const char* end) const {
+    return findPlain(position, end);
 }
 
 #endif

@@ -1,4 +1,4 @@
-// Finds the places of a line where the next two or three characters may be those of a match.
+// Finds the positions of a line where the next two or three characters may be those of a match.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@
 namespace vexa::regexp {
 
 // May let pass what is no match, but never misses one.
-class PlaceFilter {
+class PositionFilter {
   public:
     static constexpr std::size_t kOffsets = 3;
     static constexpr int kMostAlternatives = 8;
@@ -20,14 +20,14 @@ class PlaceFilter {
     // the line is one of the characters, and the set of an offset that may lie after it is All.
     using Alternative = std::array<ByteSet, kOffsets>;
 
-    // Lets every place pass.
-    PlaceFilter() = default;
+    // Lets every position pass.
+    PositionFilter() = default;
     // Takes one to kMostAlternatives. Throws std::bad_alloc.
-    PlaceFilter(const std::vector<Alternative>& alternatives, Instructions most);
+    PositionFilter(const std::vector<Alternative>& alternatives, Instructions most);
 
     bool active() const { return mode_ != Mode::Off; }
-    // The first place that passes, the end included; null when none does. A NUL is at the end.
-    const char* find(const char* place, const char* end) const;
+    // The first position that passes, the end included; null when none does. A NUL is at the end.
+    const char* find(const char* position, const char* end) const;
 
   private:
     class Ssse3;
@@ -40,8 +40,8 @@ class PlaceFilter {
         alignas(16) std::array<Byte, 16> high{};
     };
 
-    const char* findPlain(const char* place, const char* end) const;
-    const char* findSsse3(const char* place, const char* end) const;
+    const char* findPlain(const char* position, const char* end) const;
+    const char* findSsse3(const char* position, const char* end) const;
 
     Mode mode_ = Mode::Off;
     Instructions instructions_ = Instructions::Plain;

@@ -14,10 +14,10 @@ namespace {
 
 class Finder {
   public:
-    // Matches begin at `from` or after it, and none before the place; for Start::Loop, no leading loop ends before the
-    // one after it.
-    Finder(const Plan& plan, const char* begin, const char* from, const char* end, const char* place)
-        : plan_(plan), from_(from), end_(end), place_(place), machine_(plan, begin) {}
+    // Matches begin at `from` or after it, and none before the position; for Start::Loop, no leading loop ends before
+    // the one after it.
+    Finder(const Plan& plan, const char* begin, const char* from, const char* end, const char* position)
+        : plan_(plan), from_(from), end_(end), position_(position), machine_(plan, begin) {}
 
     std::optional<Match> find() {
         if (!search() || matchEnd_ == nullptr) return std::nullopt;
@@ -27,7 +27,7 @@ class Finder {
   private:
     // These are true when the search is over: with a match, or because the machine stopped.
     bool search() {
-        if (plan_.anchored) return tryAt(place_);
+        if (plan_.anchored) return tryAt(position_);
         if (!plan_.hints) return searchEverywhere();
         switch (hints().start) {
             case Start::Literal:
@@ -44,24 +44,25 @@ class Finder {
 
     bool searchEverywhere() {
         const ByteSet& first = plan_.nodes[plan_.start].first;
-        for (const char* place = place_; place <= end_; ++place)
-            if (first.has(*place) && tryAt(place)) return true;
+        for (const char* position = position_; position <= end_; ++position)
+            if (first.has(*position) && tryAt(position)) return true;
         return false;
     }
 
     bool searchFiltered() {
-        for (const char* place = place_; place != nullptr; place = nextPassing(place))
-            if (tryAt(place)) return true;
+        for (const char* position = position_; position != nullptr; position = nextPassing(position))
+            if (tryAt(position)) return true;
         return false;
     }
 
-    const char* nextPassing(const char* place) const {
-        return place < end_ ? hints().filter.find(place + 1, end_) : nullptr;
+    const char* nextPassing(const char* position) const {
+        return position < end_ ? hints().filter.find(position + 1, end_) : nullptr;
     }
 
     bool searchLiteral() {
-        for (const char* place = place_; place != nullptr; place = hints().leading.find({place + 1, end_}))
-            if (tryAt(place)) return true;
+        for (const char* position = position_; position != nullptr;
+             position = hints().leading.find({position + 1, end_}))
+            if (tryAt(position)) return true;
         return false;
     }
 
@@ -70,58 +71,58 @@ class Finder {
     bool searchLoop() {
         const ByteTable& table = hints().loop.table;
         const PlanNode& loop = plan_.nodes[hints().loop.node];
-        const char* place = startOfLoop(place_, from_);
+        const char* position = startOfLoop(position_, from_);
         for (;;) {
-            while ((at(table, place) & (LeadingLoop::kFirst | LeadingLoop::kNul)) == 0)
-                ++place;
-            if ((at(table, place) & LeadingLoop::kFirst) == 0) return false;
-            const char* loopStart = place + hints().loop.width;
+            while ((at(table, position) & (LeadingLoop::kFirst | LeadingLoop::kNul)) == 0)
+                ++position;
+            if ((at(table, position) & LeadingLoop::kFirst) == 0) return false;
+            const char* loopStart = position + hints().loop.width;
             const char* loopEnd = loopStart;
             while ((at(table, loopEnd) & LeadingLoop::kRepeated) != 0)
                 ++loopEnd;
-            if (loopEnd - loopStart >= loop.minimum && tryLoop(place, loopEnd)) return true;
-            place = loopEnd - hints().loop.width;
-            if (*place++ == '\0') return false;
+            if (loopEnd - loopStart >= loop.minimum && tryLoop(position, loopEnd)) return true;
+            position = loopEnd - hints().loop.width;
+            if (*position++ == '\0') return false;
         }
     }
 
-    // The first place from which a match could take the leading loop over the place.
-    const char* startOfLoop(const char* place, const char* from) const {
-        if (!hints().filter.active()) return place;
-        while (place > from && (at(hints().loop.table, place - 1) & LeadingLoop::kRepeated) != 0)
-            --place;
-        return place - std::min<std::ptrdiff_t>(place - from, hints().loop.width);
+    // The first position from which a match could take the leading loop over the position.
+    const char* startOfLoop(const char* position, const char* from) const {
+        if (!hints().filter.active()) return position;
+        while (position > from && (at(hints().loop.table, position - 1) & LeadingLoop::kRepeated) != 0)
+            --position;
+        return position - std::min<std::ptrdiff_t>(position - from, hints().loop.width);
     }
 
-    bool tryLoop(const char* place, const char* loopEnd) {
+    bool tryLoop(const char* position, const char* loopEnd) {
         const PlanNode& loop = plan_.nodes[hints().loop.node];
-        if (!loop.possessive) return tryAt(place);
+        if (!loop.possessive) return tryAt(position);
         if (!plan_.nodes[loop.next].first.has(*loopEnd)) return false;
-        return hints().loop.direct ? tryFrom(loop.next, loopEnd, place) : tryAt(place);
+        return hints().loop.direct ? tryFrom(loop.next, loopEnd, position) : tryAt(position);
     }
 
-    static Byte at(const ByteTable& table, const char* place) { return table[static_cast<Byte>(*place)]; }
+    static Byte at(const ByteTable& table, const char* position) { return table[static_cast<Byte>(*position)]; }
 
-    bool tryAt(const char* place) { return tryFrom(plan_.start, place, place); }
+    bool tryAt(const char* position) { return tryFrom(plan_.start, position, position); }
 
-    // A match that starts at the place, whose part before the node's place has been found already.
-    bool tryFrom(NodeIndex node, const char* nodePlace, const char* place) {
-        start_ = place;
-        matchEnd_ = machine_.match(node, nodePlace);
+    // A match that starts at the position, whose part before the node's position has been found already.
+    bool tryFrom(NodeIndex node, const char* nodePosition, const char* position) {
+        start_ = position;
+        matchEnd_ = machine_.match(node, nodePosition);
         return matchEnd_ != nullptr || machine_.stopped();
     }
 
     const Plan& plan_;
     const char* from_;
     const char* end_;
-    const char* place_;
+    const char* position_;
     Machine machine_;
     const char* start_ = nullptr;
     const char* matchEnd_ = nullptr;
 };
 
-// The first place in the rest of a line that is worth a try; null for one that cannot match. Most lines end here.
-const char* FirstPlace(const Plan& plan, std::string_view rest) {
+// The first position in the rest of a line that is worth a try; null for one that cannot match. Most lines end here.
+const char* FirstPosition(const Plan& plan, std::string_view rest) {
     const char* begin = rest.data();
     if (plan.anchored || !plan.hints) return begin;
     const Hints& hints = *plan.hints;
@@ -133,16 +134,16 @@ const char* FirstPlace(const Plan& plan, std::string_view rest) {
 // Apart, so that no room is made for the machine in a line whose first character tells enough.
 [[gnu::noinline]] std::optional<Match> FindInRest(const Plan& plan, std::string_view line, std::size_t from) {
     const char* begin = line.data();
-    const char* place = FirstPlace(plan, line.substr(from));
-    if (place == nullptr) return std::nullopt;
+    const char* position = FirstPosition(plan, line.substr(from));
+    if (position == nullptr) return std::nullopt;
     const void* nul = std::memchr(begin, '\0', line.size());
     const char* end = nul != nullptr ? static_cast<const char*>(nul) : begin + line.size();
-    if (place > end) return std::nullopt;
+    if (position > end) return std::nullopt;
     if (static_cast<std::size_t>(end - begin) >= UINT32_MAX) {
         ReportRegExpError(kOutOfSpace);
         return std::nullopt;
     }
-    return Finder(plan, begin, begin + from, end, place).find();
+    return Finder(plan, begin, begin + from, end, position).find();
 }
 
 }  // namespace

@@ -30,15 +30,15 @@ class HintFinder {
     }
 
   private:
-    // A place in the pattern that lies a known number of characters after the start of a match.
-    struct Place {
+    // A position in the pattern that lies a known number of characters after the start of a match.
+    struct Position {
         NodeIndex node;
-        std::size_t inText = 0;  // characters of the node's literal before the place
+        std::size_t inText = 0;  // characters of the node's literal before the position
     };
 
     const PlanNode& node(NodeIndex index) const { return plan_.nodes[index]; }
 
-    // The first node from here on that is not one of those that match the empty string at certain places.
+    // The first node from here on that is not one of those that match the empty string at certain positions.
     NodeIndex skipAssertions(NodeIndex index) const {
         for (;; index = node(index).next) {
             switch (node(index).step) {
@@ -99,7 +99,7 @@ class HintFinder {
         ByteSet last = loop.repeated;
         if (loop.minimum == 0) last |= node(plan_.start).first;
         const ByteSet next = withLineEnds(node(loop.next).first);
-        hints_.filter = PlaceFilter({{withLineEnds(last), next, ByteSet::All()}}, plan_.tuning.most);
+        hints_.filter = PositionFilter({{withLineEnds(last), next, ByteSet::All()}}, plan_.tuning.most);
     }
 
     void filterStarts() {
@@ -107,24 +107,24 @@ class HintFinder {
         NodeIndex index = plan_.start;
         while (node(index).step == Step::Save)
             index = node(index).next;
-        std::vector<PlaceFilter::Alternative> alternatives;
+        std::vector<PositionFilter::Alternative> alternatives;
         for (NodeIndex i = index; node(i).step == Step::Choice; i = node(i).next) {
             alternatives.push_back(beginning(node(i).operand));
             if (node(i).lastChoice) break;
         }
-        if (alternatives.empty() || alternatives.size() > PlaceFilter::kMostAlternatives)
+        if (alternatives.empty() || alternatives.size() > PositionFilter::kMostAlternatives)
             alternatives = {beginning(index)};
-        hints_.filter = PlaceFilter(alternatives, plan_.tuning.most);
+        hints_.filter = PositionFilter(alternatives, plan_.tuning.most);
     }
 
     // The sets of the first characters from a node on, as far as all matches have the same lengths.
-    PlaceFilter::Alternative beginning(NodeIndex from) const {
-        PlaceFilter::Alternative sets;
-        Place place{from};
+    PositionFilter::Alternative beginning(NodeIndex from) const {
+        PositionFilter::Alternative sets;
+        Position position{from};
         bool known = true;
         for (ByteSet& set : sets) {
-            set = known ? withLineEnds(possibleAt(place)) : ByteSet::All();
-            known = known && advance(place);
+            set = known ? withLineEnds(possibleAt(position)) : ByteSet::All();
+            known = known && advance(position);
         }
         return sets;
     }
@@ -138,18 +138,18 @@ class HintFinder {
         return set;
     }
 
-    ByteSet possibleAt(const Place& place) const {
-        if (place.inText == 0) return node(place.node).first;
-        return SetOf(node(place.node).text.substr(place.inText, 1), plan_.letterCase);
+    ByteSet possibleAt(const Position& position) const {
+        if (position.inText == 0) return node(position.node).first;
+        return SetOf(node(position.node).text.substr(position.inText, 1), plan_.letterCase);
     }
 
     // False where matches of different lengths are possible.
-    bool advance(Place& place) const {
-        if (place.inText == 0) place.node = skipAssertions(place.node);
-        const PlanNode& current = node(place.node);
-        if (current.step == Step::Literal && ++place.inText < current.text.size()) return true;
+    bool advance(Position& position) const {
+        if (position.inText == 0) position.node = skipAssertions(position.node);
+        const PlanNode& current = node(position.node);
+        if (current.step == Step::Literal && ++position.inText < current.text.size()) return true;
         if (current.step != Step::Literal && current.step != Step::Set) return false;
-        place = {current.next};
+        position = {current.next};
         return true;
     }
 

@@ -1,4 +1,4 @@
-// What every match of a program must look like, so that most lines and most places in a line need no matching.
+// What every match of a program must look like, so that most lines and most positions in a line need no matching.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ struct Plan;
 
 using NodeIndex = std::uint16_t;
 
-// How the places are found at which a match is tried.
+// How the positions are found at which a match is tried.
 enum class Start : std::uint8_t {
     Filtered,  // where the filter lets one pass
     Literal,   // where the leading literal is
@@ -37,9 +37,9 @@ struct Hints {
     PlainSearch required;  // the longest literal in every match, unless it is the leading one; may be empty
     PlainSearch leading;   // the literal with which every match begins
     LeadingLoop loop;
-    // Start::Filtered: lets the places pass where a match may begin. Start::Loop: those before which the loop may have
-    // run to its end, with the loop's last character first.
-    PlaceFilter filter;
+    // Start::Filtered: lets the positions pass where a match may begin. Start::Loop: those before which the loop may
+    // have run to its end, with the loop's last character first.
+    PositionFilter filter;
 };
 
 // What the hints are to be used on: one line, or a text of many, in which a line also ends before CR or LF. In the

@@ -14,44 +14,44 @@ namespace vexa::regexp {
 Machine::Machine(const Plan& plan, const char* subject)
     : plan_(plan), subject_(subject), budget_(plan.tuning.stepsBeforeMemo) {}
 
-const char* Machine::match(NodeIndex index, const char* place) {
+const char* Machine::match(NodeIndex index, const char* position) {
     used_ = 0;
     for (;;) {
         const PlanNode& current = node(index);
-        if (current.memo != PlanNode::kNoMemo && current.step != Step::Loop && !enter(current, place)) {
-            place = nullptr;
+        if (current.memo != PlanNode::kNoMemo && current.step != Step::Loop && !enter(current, position)) {
+            position = nullptr;
         } else {
             switch (current.step) {
                 case Step::End:
-                    return place;
+                    return position;
                 case Step::LineStart:
-                    place = place == subject_ ? place : nullptr;
+                    position = position == subject_ ? position : nullptr;
                     break;
                 case Step::LineEnd:
-                    place = *place == '\0' ? place : nullptr;
+                    position = *position == '\0' ? position : nullptr;
                     break;
                 case Step::Set:
-                    place = current.first.has(*place) ? place + 1 : nullptr;
+                    position = current.first.has(*position) ? position + 1 : nullptr;
                     break;
                 case Step::Literal:
-                    place = skipLiteral(current, place);
+                    position = skipLiteral(current, position);
                     break;
                 case Step::WordStart:
-                    place = isWordStart(place) ? place : nullptr;
+                    position = isWordStart(position) ? position : nullptr;
                     break;
                 case Step::WordEnd:
-                    place = kWordCharacters.has(*place) ? nullptr : place;
+                    position = kWordCharacters.has(*position) ? nullptr : position;
                     break;
                 case Step::Save:
-                    place = push({offset(place), 0, index}) ? place : nullptr;
+                    position = push({offset(position), 0, index}) ? position : nullptr;
                     break;
                 case Step::Loop:
-                    place = enterLoop(index, place);
+                    position = enterLoop(index, position);
                     break;
                 case Step::Choice:
-                    index = enterChoice(index, place);
+                    index = enterChoice(index, position);
                     if (index != kNone) continue;
-                    place = nullptr;
+                    position = nullptr;
                     break;
                 case Step::Broken:
                     stop(current.text.data());
@@ -59,7 +59,7 @@ const char* Machine::match(NodeIndex index, const char* place) {
             }
         }
         index = current.next;
-        if (place == nullptr && !resume(index, place)) return nullptr;
+        if (position == nullptr && !resume(index, position)) return nullptr;
     }
 }
 
@@ -68,63 +68,63 @@ Machine::Slots Machine::saved() const {
     Slots slots{};
     for (std::size_t i = used_; i-- > 0;) {
         const PlanNode& save = node(frames_[i].node);
-        if (save.step == Step::Save && slots[save.slot] == nullptr) slots[save.slot] = subject_ + frames_[i].position;
+        if (save.step == Step::Save && slots[save.slot] == nullptr) slots[save.slot] = subject_ + frames_[i].offset;
     }
     return slots;
 }
 
-const char* Machine::skipLiteral(const PlanNode& literal, const char* place) const {
+const char* Machine::skipLiteral(const PlanNode& literal, const char* position) const {
     if (plan_.letterCase == LetterCase::Sensitive) {
         for (const char c : literal.text)
-            if (*place++ != c) return nullptr;
+            if (*position++ != c) return nullptr;
     } else {
         for (const char c : literal.text)
-            if (LowerAscii(*place++) != LowerAscii(c)) return nullptr;
+            if (LowerAscii(*position++) != LowerAscii(c)) return nullptr;
     }
-    return place;
+    return position;
 }
 
-bool Machine::isWordStart(const char* place) const {
-    return kWordCharacters.has(*place) && (place == subject_ || !kWordCharacters.has(place[-1]));
+bool Machine::isWordStart(const char* position) const {
+    return kWordCharacters.has(*position) && (position == subject_ || !kWordCharacters.has(position[-1]));
 }
 
-// The first alternative, from this one on, that may match at the place.
-NodeIndex Machine::viableChoice(NodeIndex choice, const char* place) const {
-    while (!node(node(choice).operand).first.has(*place)) {
+// The first alternative, from this one on, that may match at the position.
+NodeIndex Machine::viableChoice(NodeIndex choice, const char* position) const {
+    while (!node(node(choice).operand).first.has(*position)) {
         if (node(choice).lastChoice) return kNone;
         choice = node(choice).next;
     }
     return choice;
 }
 
-NodeIndex Machine::enterChoice(NodeIndex choice, const char* place) {
-    const NodeIndex viable = viableChoice(choice, place);
+NodeIndex Machine::enterChoice(NodeIndex choice, const char* position) {
+    const NodeIndex viable = viableChoice(choice, position);
     if (viable == kNone) return kNone;
     if (!node(viable).lastChoice) {
-        const NodeIndex other = viableChoice(node(viable).next, place);
-        if (other != kNone && !push({offset(place), 0, other})) return kNone;
+        const NodeIndex other = viableChoice(node(viable).next, position);
+        if (other != kNone && !push({offset(position), 0, other})) return kNone;
     }
     return node(viable).operand;
 }
 
-const char* Machine::enterLoop(NodeIndex index, const char* place) {
+const char* Machine::enterLoop(NodeIndex index, const char* position) {
     const PlanNode& loop = node(index);
     if (loop.foulOperand) ReportRegExpError(kInternalFoulup);
-    if (memo_) return rememberLoop(index, place);
-    const char* end = place;
+    if (memo_) return rememberLoop(index, position);
+    const char* end = position;
     while (loop.repeated.has(*end))
         ++end;
-    charge(1 + (end - place) / kCharactersPerStep);
-    if (end - place < loop.minimum) return nullptr;
-    return tryRepetitions(index, loop.possessive ? end : place + loop.minimum, end);
+    charge(1 + (end - position) / kCharactersPerStep);
+    if (end - position < loop.minimum) return nullptr;
+    return tryRepetitions(index, loop.possessive ? end : position + loop.minimum, end);
 }
 
 // All loops that begin within a run of its characters have the same last end, so the ends that have been tried reach
 // from any of them up to that one, and only those before them are new.
-const char* Machine::rememberLoop(NodeIndex index, const char* place) {
+const char* Machine::rememberLoop(NodeIndex index, const char* position) {
     const PlanNode& loop = node(index);
-    if (loop.minimum > 0 && !loop.repeated.has(*place)) return nullptr;
-    const char* lowest = place + loop.minimum;
+    if (loop.minimum > 0 && !loop.repeated.has(*position)) return nullptr;
+    const char* lowest = position + loop.minimum;
     if (!mark(loop, lowest)) return nullptr;
     const char* end = lowest;
     while (loop.repeated.has(*end) && mark(loop, end + 1))
@@ -132,30 +132,31 @@ const char* Machine::rememberLoop(NodeIndex index, const char* place) {
     return tryRepetitions(index, loop.possessive ? end : lowest, end);
 }
 
-// Goes back from the end to the first place where what follows the loop may match; the places before stay to be tried.
-const char* Machine::tryRepetitions(NodeIndex index, const char* lowest, const char* place) {
+// Goes back from the end to the first position where what follows the loop may match; the positions before stay to be
+// tried.
+const char* Machine::tryRepetitions(NodeIndex index, const char* lowest, const char* position) {
     const ByteSet& following = node(node(index).next).first;
-    while (!following.has(*place)) {
-        if (place == lowest) return nullptr;
-        --place;
+    while (!following.has(*position)) {
+        if (position == lowest) return nullptr;
+        --position;
     }
-    if (place != lowest && !push({offset(place) - 1, offset(lowest), index})) return nullptr;
-    return place;
+    if (position != lowest && !push({offset(position) - 1, offset(lowest), index})) return nullptr;
+    return position;
 }
 
 // Goes back to what was left to be tried last. False when nothing was.
-bool Machine::resume(NodeIndex& next, const char*& place) {
+bool Machine::resume(NodeIndex& next, const char*& position) {
     while (used_ > 0 && !stopped_) {
         const Frame frame = frames_[--used_];
         const PlanNode& left = node(frame.node);
-        place = subject_ + frame.position;
+        position = subject_ + frame.offset;
         if (left.step == Step::Choice) {
-            next = enterChoice(frame.node, place);
+            next = enterChoice(frame.node, position);
             if (next != kNone) return true;
         } else if (left.step == Step::Loop) {
             next = left.next;
-            place = tryRepetitions(frame.node, subject_ + frame.lowest, place);
-            if (place != nullptr) return true;
+            position = tryRepetitions(frame.node, subject_ + frame.lowest, position);
+            if (position != nullptr) return true;
         }
     }
     return false;
@@ -181,9 +182,9 @@ bool Machine::grow() {
     return true;
 }
 
-// False when there is no point in trying the node at the place.
-bool Machine::enter(const PlanNode& entered, const char* place) {
-    if (memo_) return mark(entered, place);
+// False when there is no point in trying the node at the position.
+bool Machine::enter(const PlanNode& entered, const char* position) {
+    if (memo_) return mark(entered, position);
     charge(1);
     return !stopped_;
 }
@@ -198,11 +199,11 @@ void Machine::charge(std::ptrdiff_t steps) {
     if (!memo_) stop(kOutOfSpace);
 }
 
-// Notes the place in the node's row. False when it was noted before.
-bool Machine::mark(const PlanNode& entered, const char* place) {
-    const std::size_t position = offset(place);
-    std::uint32_t& word = memo_[static_cast<std::size_t>(entered.memo) * wordsPerRow_ + position / 32];
-    const std::uint32_t bit = 1u << (position % 32);
+// Notes the position in the node's row. False when it was noted before.
+bool Machine::mark(const PlanNode& entered, const char* position) {
+    const std::size_t character = offset(position);
+    std::uint32_t& word = memo_[static_cast<std::size_t>(entered.memo) * wordsPerRow_ + character / 32];
+    const std::uint32_t bit = 1u << (character % 32);
     const bool fresh = (word & bit) == 0;
     word |= bit;
     return fresh;

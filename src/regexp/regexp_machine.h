@@ -1,4 +1,4 @@
-// Runs a plan at one place of a subject after the other, by backtracking that cannot hang.
+// Runs a plan at one position of a subject after the other, by backtracking that cannot hang.
 //
 // Whether a match from a node at a position fails does not depend on how one got there. So when an execution has used
 // up a small budget of steps, the machine begins to remember which nodes have been entered at which positions, and does
@@ -25,8 +25,8 @@ class Machine {
     // The subject ends with a NUL.
     Machine(const Plan& plan, const char* subject);
 
-    // The end of the match that begins at the place, starting from the node; null when there is none.
-    const char* match(NodeIndex start, const char* place);
+    // The end of the match that begins at the position, starting from the node; null when there is none.
+    const char* match(NodeIndex start, const char* position);
     // True when the machine met a damaged node or ran out of memory, which it has reported: nothing matches then.
     bool stopped() const { return stopped_; }
     // The positions kept on the way to the last match.
@@ -36,7 +36,7 @@ class Machine {
     // What to go back to: a Choice to go on with, repetitions of a Loop down to the lowest, or a kept position of a
     // Save.
     struct Frame {
-        std::uint32_t position;
+        std::uint32_t offset;
         std::uint32_t lowest;
         NodeIndex node;
     };
@@ -51,22 +51,22 @@ class Machine {
     static constexpr std::size_t kMemoLimit = std::size_t{1} << 28;  // bytes
 
     const PlanNode& node(NodeIndex index) const { return plan_.nodes[index]; }
-    std::uint32_t offset(const char* place) const { return static_cast<std::uint32_t>(place - subject_); }
+    std::uint32_t offset(const char* position) const { return static_cast<std::uint32_t>(position - subject_); }
 
-    const char* skipLiteral(const PlanNode& literal, const char* place) const;
-    bool isWordStart(const char* place) const;
-    NodeIndex viableChoice(NodeIndex choice, const char* place) const;
-    NodeIndex enterChoice(NodeIndex choice, const char* place);
-    const char* enterLoop(NodeIndex index, const char* place);
-    const char* rememberLoop(NodeIndex index, const char* place);
-    const char* tryRepetitions(NodeIndex index, const char* lowest, const char* place);
-    bool resume(NodeIndex& next, const char*& place);
+    const char* skipLiteral(const PlanNode& literal, const char* position) const;
+    bool isWordStart(const char* position) const;
+    NodeIndex viableChoice(NodeIndex choice, const char* position) const;
+    NodeIndex enterChoice(NodeIndex choice, const char* position);
+    const char* enterLoop(NodeIndex index, const char* position);
+    const char* rememberLoop(NodeIndex index, const char* position);
+    const char* tryRepetitions(NodeIndex index, const char* lowest, const char* position);
+    bool resume(NodeIndex& next, const char*& position);
 
     bool push(const Frame& frame);
     bool grow();
-    bool enter(const PlanNode& node, const char* place);
+    bool enter(const PlanNode& node, const char* position);
     void charge(std::ptrdiff_t steps);
-    bool mark(const PlanNode& node, const char* place);
+    bool mark(const PlanNode& node, const char* position);
     void stop(const char* message);
 
     const Plan& plan_;

@@ -97,7 +97,7 @@ bool Plan::hasLinksBack() const {
     return found;
 }
 
-// A node that is entered from one place only is tried at most once at a position if that holds for the place it is
+// A node that is entered from one node only is tried at most once at a position if that holds for the node it is
 // entered from, so memory is spent on the others. A loop remembers where its continuation has been tried. In a program
 // from elsewhere links may be of any kind, so all nodes count.
 void Plan::numberMemoRows() {
