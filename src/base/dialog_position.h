@@ -1,4 +1,4 @@
-// Where dialogs reopen: the place of a dialog's top-left corner relative to its owner's, kept in the settings file
+// Where dialogs reopen: the position of a dialog's top-left corner relative to its owner's, kept in the settings file
 // (section "Dialog%d", keys "XPos" and "YPos").
 #pragma once
 
@@ -17,8 +17,8 @@ struct ScreenPoint {
     bool operator==(const ScreenPoint&) const = default;
 };
 
-// Where to put the dialog's corner, never left of or above the screen's origin; none to leave it at its default place,
-// which also stands for a kept offset of 0 on either axis.
+// Where to put the dialog's corner, never left of or above the screen's origin; none to leave it at its default
+// position, which also stands for a kept offset of 0 on either axis.
 std::optional<ScreenPoint> RestoreDialogPosition(const ConfigStore& store, int dialog, ScreenPoint owner);
 
 void SaveDialogPosition(ConfigStore& store, int dialog, ScreenPoint owner, ScreenPoint corner);

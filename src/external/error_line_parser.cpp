@@ -65,11 +65,11 @@ ErrorLevel ErrorLineParser::levelOf(std::string_view line) {
 void ErrorLineParser::Parse(std::string_view documentName, std::string_view line) {
     fileName_.clear();
     level_ = levelOf(line);
-    if (level_ != ErrorLevel::None) findPlace(documentName, line);
+    if (level_ != ErrorLevel::None) findPosition(documentName, line);
 }
 
 // A line with a number but no file name is about the document; one with neither is no error line after all.
-void ErrorLineParser::findPlace(std::string_view documentName, std::string_view line) {
+void ErrorLineParser::findPosition(std::string_view documentName, std::string_view line) {
     FindLineNumber(line);
     external_ = false;
     if (ScanIgnoringCase(line, documentName)) {

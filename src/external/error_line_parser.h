@@ -44,7 +44,7 @@ class ErrorLineParser {
     static constexpr std::size_t kFileNameLimit = 255;
 
     ErrorLevel levelOf(std::string_view line);
-    void findPlace(std::string_view documentName, std::string_view line);
+    void findPosition(std::string_view documentName, std::string_view line);
     bool matches(RegExp& pattern, std::string_view line);
 
     const PlainSearch errorWord_;

@@ -12,15 +12,15 @@ HINSTANCE Program() {
     return GetModuleHandleA(nullptr);
 }
 
-RECT PlaceOf(HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    return place;
+RECT AreaOf(HWND window) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    return area;
 }
 
 POINT CornerOf(HWND window) {
-    const RECT place = PlaceOf(window);
-    return {place.left, place.top};
+    const RECT area = AreaOf(window);
+    return {area.left, area.top};
 }
 
 // A corner kept from a monitor that is gone would put the dialog where nobody finds it.
@@ -110,7 +110,7 @@ INT_PTR DialogFrameCL::receive(UINT number, WPARAM wParam, LPARAM lParam) {
             onActivate(LOWORD(wParam) != WA_INACTIVE);
             return FALSE;
         case WM_DESTROY:
-            keepPlace();
+            keepPosition();
             return FALSE;
         case WM_NCDESTROY:
             SetWindowLongPtrA(window_, DWLP_USER, 0);
@@ -150,16 +150,16 @@ void DialogFrameCL::command(int id, UINT notification) {
     onControl(id, notification);
 }
 
-// ---- place -------------------------------------------------------------------------------------------------------
+// ---- position ----------------------------------------------------------------------------------------------------
 
 void DialogFrameCL::placeAtOpening() {
-    const RECT owner = PlaceOf(GetWindow(window_, GW_OWNER));
+    const RECT owner = AreaOf(GetWindow(window_, GW_OWNER));
     const std::optional<POINT> kept = openingCorner({owner.left, owner.top});
-    const POINT corner = kept && IsOnAMonitor(*kept) ? *kept : CentredOver(owner, PlaceOf(window_));
+    const POINT corner = kept && IsOnAMonitor(*kept) ? *kept : CentredOver(owner, AreaOf(window_));
     SetWindowPos(window_, nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void DialogFrameCL::keepPlace() {
+void DialogFrameCL::keepPosition() {
     keepCorner(CornerOf(GetWindow(window_, GW_OWNER)), CornerOf(window_));
 }
 

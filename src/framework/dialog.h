@@ -81,7 +81,7 @@ class DialogFrameCL {
     void command(int id, UINT notification);
     void placeAtOpening();
     void unmarkOtherCombos();
-    void keepPlace();
+    void keepPosition();
 
     const int resource_;
     HWND window_ = nullptr;

@@ -20,10 +20,10 @@ bool MDIchildCL::onMdiActivate(bool active) {
     return false;
 }
 
-bool MDIchildCL::onContextMenu(std::optional<POINT> screenPlace) {
-    if (!screenPlace || IsIconic(window()) || !isOnTitle(*screenPlace)) return false;
+bool MDIchildCL::onContextMenu(std::optional<POINT> screenPosition) {
+    if (!screenPosition || IsIconic(window()) || !isOnTitle(*screenPosition)) return false;
     frame_.activate(*this);
-    return frame_.showTitleMenu(*screenPlace);
+    return frame_.showTitleMenu(*screenPosition);
 }
 
 bool MDIchildCL::onClose() {

@@ -22,7 +22,7 @@ class MDIchildCL : public WindowCL {
 
     LRESULT defaultProcedure(const Message& message) override;
     bool onMdiActivate(bool active) override;
-    bool onContextMenu(std::optional<POINT> screenPlace) override;
+    bool onContextMenu(std::optional<POINT> screenPosition) override;
     bool onClose() override;
     void onGone() override;
 

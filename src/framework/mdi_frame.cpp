@@ -34,10 +34,10 @@ bool MDIframeCL::translate(MSG& message) {
     return AppFrameCL::translate(message) || (client_ && TranslateMDISysAccel(client_, &message));
 }
 
-bool MDIframeCL::onContextMenu(std::optional<POINT> screenPlace) {
+bool MDIframeCL::onContextMenu(std::optional<POINT> screenPosition) {
     const MDIchildCL* active = activeChild();
-    return screenPlace && active && IsZoomed(active->window()) && isOnTitle(*screenPlace) &&
-           showTitleMenu(*screenPlace);
+    return screenPosition && active && IsZoomed(active->window()) && isOnTitle(*screenPosition) &&
+           showTitleMenu(*screenPosition);
 }
 
 MDIchildCL* MDIframeCL::activeChild() const {

@@ -42,7 +42,7 @@ class MDIframeCL : public AppFrameCL {
     bool closeChild(MDIchildCL& child);
     // Shows the menu of the active child's title, which the frame's title has while the child is maximised. False for a
     // child that has none of its own.
-    virtual bool showTitleMenu(POINT /*screenPlace*/) { return false; }
+    virtual bool showTitleMenu(POINT /*screenPosition*/) { return false; }
     // Lets go of a child whose window has been destroyed.
     void forget(const MDIchildCL& child);
 
@@ -50,7 +50,7 @@ class MDIframeCL : public AppFrameCL {
     friend class MDIchildCL;
 
     bool onClose() override;
-    bool onContextMenu(std::optional<POINT> screenPlace) override;
+    bool onContextMenu(std::optional<POINT> screenPosition) override;
 
     // The menu at whose end the child windows are listed.
     bool openClient(HMENU windowMenu);

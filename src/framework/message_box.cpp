@@ -31,10 +31,10 @@ class BoxOverOwner {
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
     static void putOver(HWND owner, HWND box) {
-        RECT ownerPlace{};
-        RECT boxPlace{};
-        if (IsIconic(owner) || !GetWindowRect(owner, &ownerPlace) || !GetWindowRect(box, &boxPlace)) return;
-        const POINT corner = CentredOver(ownerPlace, boxPlace);
+        RECT ownerArea{};
+        RECT boxArea{};
+        if (IsIconic(owner) || !GetWindowRect(owner, &ownerArea) || !GetWindowRect(box, &boxArea)) return;
+        const POINT corner = CentredOver(ownerArea, boxArea);
         SetWindowPos(box, nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 

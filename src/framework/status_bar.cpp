@@ -22,7 +22,7 @@ constexpr int kTextLeading = 3;  // above and below a text
 }  // namespace
 
 bool StatusPaneCL::open(HWND parent) {
-    return create(kPaneClass, {.style = WS_CHILD | WS_VISIBLE, .place = {0, 0, 0, 0}, .parent = parent});
+    return create(kPaneClass, {.style = WS_CHILD | WS_VISIBLE, .area = {0, 0, 0, 0}, .parent = parent});
 }
 
 void StatusPaneCL::show(const std::string& text, bool highlighted) {
@@ -71,7 +71,7 @@ void StatusPaneCL::draw(HDC dc, RECT area) const {
 }
 
 bool StatusBarCL::open(HWND parent) {
-    return create(kBarClass, {.style = WS_CHILD | WS_CLIPCHILDREN, .place = {0, 0, 0, 0}, .parent = parent});
+    return create(kBarClass, {.style = WS_CHILD | WS_CLIPCHILDREN, .area = {0, 0, 0, 0}, .parent = parent});
 }
 
 bool StatusBarCL::onCreate() {

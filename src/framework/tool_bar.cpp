@@ -41,7 +41,7 @@ ToolBarCL::~ToolBarCL() {
 }
 
 bool ToolBarCL::open(HWND parent) {
-    return create(kToolBarClass, {.style = WS_CHILD | WS_CLIPCHILDREN, .place = {0, 0, 0, 0}, .parent = parent});
+    return create(kToolBarClass, {.style = WS_CHILD | WS_CLIPCHILDREN, .area = {0, 0, 0, 0}, .parent = parent});
 }
 
 bool ToolBarCL::onCreate() {

@@ -40,14 +40,14 @@ bool WindowCL::Register(const WindowClass& windowClass) {
 
 bool WindowCL::create(const WindowClass& windowClass, const WindowShape& shape) {
     if (!Register(windowClass)) return false;
-    const RECT& place = shape.place;
+    const RECT& area = shape.area;
     const bool isMdiChild = shape.extendedStyle & WS_EX_MDICHILD;
     if (isMdiChild) {
-        return CreateMDIWindowA(windowClass.name, shape.title, shape.style, place.left, place.top, place.right,
-                                place.bottom, shape.parent, Program(), reinterpret_cast<LPARAM>(this)) != nullptr;
+        return CreateMDIWindowA(windowClass.name, shape.title, shape.style, area.left, area.top, area.right,
+                                area.bottom, shape.parent, Program(), reinterpret_cast<LPARAM>(this)) != nullptr;
     }
-    return CreateWindowExA(shape.extendedStyle, windowClass.name, shape.title, shape.style, place.left, place.top,
-                           place.right, place.bottom, shape.parent, nullptr, Program(), this) != nullptr;
+    return CreateWindowExA(shape.extendedStyle, windowClass.name, shape.title, shape.style, area.left, area.top,
+                           area.right, area.bottom, shape.parent, nullptr, Program(), this) != nullptr;
 }
 
 void WindowCL::destroy() {
@@ -137,8 +137,8 @@ RECT WindowCL::clientArea() const {
     return area;
 }
 
-bool WindowCL::isOnTitle(POINT screenPlace) const {
-    return SendMessageA(window_, WM_NCHITTEST, 0, MAKELPARAM(screenPlace.x, screenPlace.y)) == HTCAPTION;
+bool WindowCL::isOnTitle(POINT screenPosition) const {
+    return SendMessageA(window_, WM_NCHITTEST, 0, MAKELPARAM(screenPosition.x, screenPosition.y)) == HTCAPTION;
 }
 
 }  // namespace vexa

@@ -28,7 +28,7 @@ struct WindowShape {
     const char* title = "";
     DWORD style = 0;
     DWORD extendedStyle = 0;
-    RECT place = {CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT};  // left, top, width, height
+    RECT area = {CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT};  // left, top, width, height
     HWND parent = nullptr;
 };
 
@@ -44,7 +44,7 @@ struct KeyMessage {
 
 // A mouse button that went down, in pixels of the client area.
 struct MouseButtonMessage {
-    POINT place = {};
+    POINT position = {};
     bool shift = false;
     bool alt = false;
     bool isDouble = false;  // the second press of a double click
@@ -80,7 +80,7 @@ class WindowCL {
     void place(const RECT& area);
     RECT clientArea() const;
     // Whether a point of the screen is on the window's title.
-    bool isOnTitle(POINT screenPlace) const;
+    bool isOnTitle(POINT screenPosition) const;
 
   protected:
     // False when the system refuses to make the window.
@@ -116,11 +116,11 @@ class WindowCL {
     virtual bool onSystemCharacter(unsigned char /*character*/) { return false; }
 
     virtual bool onMousePress(const MouseButtonMessage& /*press*/) { return false; }
-    virtual bool onMouseMove(POINT /*place*/) { return false; }
-    virtual bool onMouseRelease(POINT /*place*/) { return false; }  // after a move to that place
+    virtual bool onMouseMove(POINT /*position*/) { return false; }
+    virtual bool onMouseRelease(POINT /*position*/) { return false; }  // after a move to there
     virtual bool onCaptureLost() { return false; }
     virtual bool onWheel(const WheelMessage& /*turn*/) { return false; }
-    virtual bool onContextMenu(std::optional<POINT> /*screenPlace*/) { return false; }
+    virtual bool onContextMenu(std::optional<POINT> /*screenPosition*/) { return false; }
     virtual bool onScroll(int /*bar*/, UINT /*request*/) { return false; }
     virtual bool onTimer(UINT_PTR /*timer*/) { return false; }
 

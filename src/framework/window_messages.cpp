@@ -32,12 +32,13 @@ KeyMessage ReadKey(const Message& message) {
     return key;
 }
 
-POINT ReadPlace(const Message& message) {
+POINT ReadPosition(const Message& message) {
     return {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
 }
 
 MouseButtonMessage ReadButton(const Message& message) {
-    return {ReadPlace(message), (message.wParam & MK_SHIFT) != 0, IsDown(VK_MENU), message.number == WM_LBUTTONDBLCLK};
+    return {ReadPosition(message), (message.wParam & MK_SHIFT) != 0, IsDown(VK_MENU),
+            message.number == WM_LBUTTONDBLCLK};
 }
 
 WheelMessage ReadWheel(const Message& message, WheelAxis axis) {
@@ -46,9 +47,9 @@ WheelMessage ReadWheel(const Message& message, WheelAxis axis) {
 }
 
 // The keyboard's menu key has no position: both coordinates are -1.
-std::optional<POINT> ReadMenuPlace(const Message& message) {
+std::optional<POINT> ReadMenuPosition(const Message& message) {
     if (message.lParam == -1) return std::nullopt;
-    return ReadPlace(message);
+    return ReadPosition(message);
 }
 
 // The names of files that the user has dropped, each at most 255 characters; the system's own copy is freed.
@@ -105,8 +106,8 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_MOVE, [](WindowCL& w, Message&) { return w.onMove(), false; }},
     {kDpiChangedMessage,
      [](WindowCL& w, Message& m) {
-         const auto* const place = static_cast<const RECT*>(Pointed(m, sizeof(RECT)));
-         return place && w.onDpiChanged(*place);
+         const auto* const area = static_cast<const RECT*>(Pointed(m, sizeof(RECT)));
+         return area && w.onDpiChanged(*area);
      }},
     {WM_SETTINGCHANGE, [](WindowCL& w, Message&) { return w.onSettingChange(), false; }},
     {WM_PAINT, [](WindowCL& w, Message&) { return w.paint(); }},
@@ -131,17 +132,17 @@ const MessageRoutes::Route MessageRoutes::kRoutes[] = {
     {WM_SYSCHAR, [](WindowCL& w, Message& m) { return w.onSystemCharacter(static_cast<unsigned char>(m.wParam)); }},
     {WM_LBUTTONDOWN, [](WindowCL& w, Message& m) { return w.onMousePress(ReadButton(m)); }},
     {WM_LBUTTONDBLCLK, [](WindowCL& w, Message& m) { return w.onMousePress(ReadButton(m)); }},
-    {WM_MOUSEMOVE, [](WindowCL& w, Message& m) { return w.onMouseMove(ReadPlace(m)); }},
+    {WM_MOUSEMOVE, [](WindowCL& w, Message& m) { return w.onMouseMove(ReadPosition(m)); }},
     {WM_LBUTTONUP,
      [](WindowCL& w, Message& m) {
          // A quick mouse is let go where no move has told of.
-         w.onMouseMove(ReadPlace(m));
-         return w.onMouseRelease(ReadPlace(m));
+         w.onMouseMove(ReadPosition(m));
+         return w.onMouseRelease(ReadPosition(m));
      }},
     {WM_CAPTURECHANGED, [](WindowCL& w, Message&) { return w.onCaptureLost(); }},
     {WM_MOUSEWHEEL, [](WindowCL& w, Message& m) { return w.onWheel(ReadWheel(m, WheelAxis::Vertical)); }},
     {kHorizontalWheelMessage, [](WindowCL& w, Message& m) { return w.onWheel(ReadWheel(m, WheelAxis::Horizontal)); }},
-    {WM_CONTEXTMENU, [](WindowCL& w, Message& m) { return w.onContextMenu(ReadMenuPlace(m)); }},
+    {WM_CONTEXTMENU, [](WindowCL& w, Message& m) { return w.onContextMenu(ReadMenuPosition(m)); }},
     {WM_VSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_VERT, LOWORD(m.wParam)); }},
     {WM_HSCROLL, [](WindowCL& w, Message& m) { return w.onScroll(SB_HORZ, LOWORD(m.wParam)); }},
     {WM_TIMER, [](WindowCL& w, Message& m) { return w.onTimer(m.wParam); }},

@@ -32,11 +32,11 @@ std::string MenuText(const std::string& path) {
 void RecentFiles::LoadRecentFiles(const ConfigStore& store, bool restoreFiles, bool isLong) {
     shown_.clear();
     paths_ = std::vector<std::string>(isLong ? kLongest : kSlots);
-    std::size_t place = 0;
+    std::size_t index = 0;
     for (std::size_t slot = 0; slot < paths_.size(); ++slot) {
-        paths_[place] = store.ReadString(kSection, KeyOf(slot), "", kPathSize);
-        const bool leavesGap = isLong && paths_[place].empty();
-        if (!leavesGap) ++place;
+        paths_[index] = store.ReadString(kSection, KeyOf(slot), "", kPathSize);
+        const bool leavesGap = isLong && paths_[index].empty();
+        if (!leavesGap) ++index;
     }
     for (std::size_t slot = 0; slot < paths_.size(); ++slot) {
         if (restoreFiles && !paths_[slot].empty()) shown_.push_back(slot);
@@ -73,12 +73,12 @@ void RecentFiles::recordInSlot(const std::string& path) {
 
 // The files before its former place, or all, move one down.
 void RecentFiles::recordFirst(const std::string& path) {
-    std::size_t place = 0;
-    while (place < kLongest - 1 && !paths_[place].empty() && !EqualIgnoringCase(paths_[place], path))
-        ++place;
-    if (place >= shown_.size()) shown_.push_back(shown_.size());
-    for (; place > 0; --place)
-        paths_[place].swap(paths_[place - 1]);
+    std::size_t index = 0;
+    while (index < kLongest - 1 && !paths_[index].empty() && !EqualIgnoringCase(paths_[index], path))
+        ++index;
+    if (index >= shown_.size()) shown_.push_back(shown_.size());
+    for (; index > 0; --index)
+        paths_[index].swap(paths_[index - 1]);
     paths_[0] = path;
 }
 

@@ -33,12 +33,12 @@ std::string CommandLineOf(const std::vector<std::string>& names) {
 }
 
 // Places of the mouse are given to the system in 65536ths of the screen.
-INPUT MouseInput(POINT screenPlace, DWORD flags, DWORD time = 0) {
+INPUT MouseInput(POINT screenPosition, DWORD flags, DWORD time = 0) {
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.time = time;
-    input.mi.dx = MulDiv(screenPlace.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = MulDiv(screenPlace.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    input.mi.dx = MulDiv(screenPosition.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    input.mi.dy = MulDiv(screenPosition.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
     input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
     return input;
 }
@@ -287,73 +287,73 @@ HWND Editor::capture() const {
     return info.hwndCapture;
 }
 
-void Editor::moveMouse(POINT place, DWORD flags, DWORD time) const {
-    ClientToScreen(activePane(), &place);
-    INPUT input = MouseInput(place, flags, time);
+void Editor::moveMouse(POINT position, DWORD flags, DWORD time) const {
+    ClientToScreen(activePane(), &position);
+    INPUT input = MouseInput(position, flags, time);
     SendInput(1, &input, sizeof input);
 }
 
-bool Editor::pointUntil(POINT place, const std::function<bool()>& condition) const {
+bool Editor::pointUntil(POINT position, const std::function<bool()>& condition) const {
     return WaitUntil([&] {
-        if (!isAt(place)) moveMouse(place, 0);
+        if (!isAt(position)) moveMouse(position, 0);
         return condition();
     });
 }
 
-bool Editor::isAt(POINT place) const {
+bool Editor::isAt(POINT position) const {
     POINT now{};
     GetCursorPos(&now);
     ScreenToClient(activePane(), &now);
-    return now.x == place.x && now.y == place.y;
+    return now.x == position.x && now.y == position.y;
 }
 
-void Editor::rest(POINT place) const {
+void Editor::rest(POINT position) const {
     constexpr int kLooks = 3;
     int looks = 0;
     settle();
-    moveMouse(place, 0);
-    pointUntil(place, [&] {
+    moveMouse(position, 0);
+    pointUntil(position, [&] {
         AwaitDisplaysNews();
-        looks = isAt(place) ? looks + 1 : 0;
+        looks = isAt(position) ? looks + 1 : 0;
         return looks == kLooks;
     });
 }
 
-void Editor::click(POINT place) const {
-    drag({place});
+void Editor::click(POINT position) const {
+    drag({position});
     // A press of another button in between: the next click at this place is never the second of a double one.
-    moveMouse(place, MOUSEEVENTF_MIDDLEDOWN);
-    moveMouse(place, MOUSEEVENTF_MIDDLEUP);
+    moveMouse(position, MOUSEEVENTF_MIDDLEDOWN);
+    moveMouse(position, MOUSEEVENTF_MIDDLEUP);
 }
 
-void Editor::clickTimes(POINT place, int times) const {
-    rest(place);
+void Editor::clickTimes(POINT position, int times) const {
+    rest(position);
     const DWORD now = GetTickCount();
     for (int i = 0; i < times; ++i) {
-        moveMouse(place, MOUSEEVENTF_LEFTDOWN, now);
-        moveMouse(place, MOUSEEVENTF_LEFTUP, now);
+        moveMouse(position, MOUSEEVENTF_LEFTDOWN, now);
+        moveMouse(position, MOUSEEVENTF_LEFTUP, now);
     }
 }
 
-void Editor::doubleClick(POINT place) const {
-    clickTimes(place, 2);
+void Editor::doubleClick(POINT position) const {
+    clickTimes(position, 2);
 }
 
-void Editor::tripleClick(POINT place) const {
-    clickTimes(place, 3);
+void Editor::tripleClick(POINT position) const {
+    clickTimes(position, 3);
 }
 
-void Editor::rightClick(POINT place) const {
-    rest(place);
-    moveMouse(place, MOUSEEVENTF_RIGHTDOWN);
-    moveMouse(place, MOUSEEVENTF_RIGHTUP);
+void Editor::rightClick(POINT position) const {
+    rest(position);
+    moveMouse(position, MOUSEEVENTF_RIGHTDOWN);
+    moveMouse(position, MOUSEEVENTF_RIGHTUP);
 }
 
 bool Editor::drag(const std::vector<POINT>& places, const std::function<bool()>& condition) const {
     rest(places.front());
     moveMouse(places.front(), MOUSEEVENTF_LEFTDOWN);
-    for (const POINT place : places)
-        moveMouse(place, 0);
+    for (const POINT position : places)
+        moveMouse(position, 0);
     rest(places.back());
     const bool holds = !condition || pointUntil(places.back(), condition);
     moveMouse(places.back(), MOUSEEVENTF_LEFTUP);

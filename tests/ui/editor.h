@@ -91,12 +91,12 @@ class Editor {
     bool answers() const;
     void kill() { program_.kill(); }
     // Presses the left button at a place of the active pane, in pixels, and lets it go at the last of the places.
-    void click(POINT place) const;
-    void doubleClick(POINT place) const;
-    void tripleClick(POINT place) const;
-    void rightClick(POINT place) const;
+    void click(POINT position) const;
+    void doubleClick(POINT position) const;
+    void tripleClick(POINT position) const;
+    void rightClick(POINT position) const;
     // Moves the mouse to a place of the active pane, and back there while it waits until the condition holds.
-    bool pointUntil(POINT place, const std::function<bool()>& condition) const;
+    bool pointUntil(POINT position, const std::function<bool()>& condition) const;
     // The button is held at the last place until the condition holds; false when it never does.
     bool drag(const std::vector<POINT>& places, const std::function<bool()>& condition = nullptr) const;
     // All in one go: the system would else believe the keyboard of the display, where no key is down.
@@ -123,14 +123,14 @@ class Editor {
     // come late.
     void settle() const;
     // Moves the mouse to a place of the active pane where it stays.
-    void rest(POINT place) const;
-    bool isAt(POINT place) const;
+    void rest(POINT position) const;
+    bool isAt(POINT position) const;
     // The window that has caught the mouse; null when none has.
     HWND capture() const;
     // A place of the active pane; the flags say which button goes up or down there, and when, for none now.
-    void moveMouse(POINT place, DWORD flags, DWORD time = 0) const;
+    void moveMouse(POINT position, DWORD flags, DWORD time = 0) const;
     // At one time, so that no machine is too slow for a double click.
-    void clickTimes(POINT place, int times) const;
+    void clickTimes(POINT position, int times) const;
 
     StartedProgram program_;
     HWND frame_ = nullptr;

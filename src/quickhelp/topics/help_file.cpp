@@ -65,18 +65,18 @@ HelpFile::HelpFile(std::unique_ptr<HelpContainer> container, HelpSystem system)
 }
 
 std::uint32_t HelpFile::offsetAt(const TopicLink& link, std::uint32_t characters) const {
-    return system_.isFirstVersion() ? link.place : static_cast<std::uint32_t>(link.block) * 0x8000 + characters;
+    return system_.isFirstVersion() ? link.position : static_cast<std::uint32_t>(link.block) * 0x8000 + characters;
 }
 
 // Records lead forward, so that this ends. The last one is a header without a topic, which marks the end.
 void HelpFile::findTopics() {
     CharacterCount count;
     bool endsInHeader = false;
-    std::optional<std::uint32_t> place = TopicLinks::kFirstPlace;
-    while (place) {
-        const auto link = links_.at(*place);
+    std::optional<std::uint32_t> position = TopicLinks::kFirstPosition;
+    while (position) {
+        const auto link = links_.at(*position);
         if (!link) {
-            place = links_.firstBehind(*place);
+            position = links_.firstBehind(*position);
             continue;
         }
         count.enter(*link);
@@ -84,9 +84,9 @@ void HelpFile::findTopics() {
         if (link->isText()) {
             count.characters += CharactersOf(link->type, links_.content(*link, kBytesForCharacters));
         } else {
-            topics_.push_back({link->place, offsetAt(*link, count.characters)});
+            topics_.push_back({link->position, offsetAt(*link, count.characters)});
         }
-        place = link->next < 0 ? std::nullopt : std::optional(static_cast<std::uint32_t>(link->next));
+        position = link->next < 0 ? std::nullopt : std::optional(static_cast<std::uint32_t>(link->next));
     }
     if (endsInHeader && !topics_.empty()) topics_.pop_back();
 }
@@ -140,7 +140,7 @@ std::string HelpFile::textOf(const TopicLink& link, std::string_view content) co
     return isShortened ? phrases_.expand(stored, limit) : std::string(stored.substr(0, limit));
 }
 
-void HelpFile::readHeader(const TopicLink& link, Topic& topic, std::uint32_t& scrollPlace) const {
+void HelpFile::readHeader(const TopicLink& link, Topic& topic, std::uint32_t& scrollPosition) const {
     const std::string_view content = links_.content(link);
     ByteReader in(FormatOf(link, content));
     in.skip(4);
@@ -155,7 +155,7 @@ void HelpFile::readHeader(const TopicLink& link, Topic& topic, std::uint32_t& sc
     in.skip(4);
     const bool isFixed = in.u32() != kNone;
     const std::uint32_t scroll = in.u32();
-    scrollPlace = in.failed() || !isFixed ? 0 : scroll;
+    scrollPosition = in.failed() || !isFixed ? 0 : scroll;
     const std::string text = textOf(link, content);
     ByteReader titles(text);
     topic.title = titles.text();
@@ -167,10 +167,10 @@ Topic HelpFile::topic(std::size_t number) const {
     Topic topic;
     const TopicStart start = topics_[number];
     topic.offset = start.offset;
-    auto link = links_.at(start.place);
+    auto link = links_.at(start.position);
     if (!link) return topic;
-    std::uint32_t scrollPlace = 0;
-    readHeader(*link, topic, scrollPlace);
+    std::uint32_t scrollPosition = 0;
+    readHeader(*link, topic, scrollPosition);
     CharacterCount count = {link->block, start.offset & 0x7FFF};
     std::size_t textSize = 0;
     while (link->next >= 0) {
@@ -178,7 +178,7 @@ Topic HelpFile::topic(std::size_t number) const {
         topic.isDamaged |= !link;
         if (!link || !link->isText() || textSize > kLongestTopic) break;
         count.enter(*link);
-        if (link->place == scrollPlace) topic.fixedParts = topic.parts.size();
+        if (link->position == scrollPosition) topic.fixedParts = topic.parts.size();
         const std::string content(links_.content(*link));
         const std::string text = textOf(*link, content);
         const std::string_view format = FormatOf(*link, content);
@@ -186,7 +186,7 @@ Topic HelpFile::topic(std::size_t number) const {
         count.characters += CharactersOf(link->type, format);
         textSize += text.size();
     }
-    if (scrollPlace == kNone) topic.fixedParts = topic.parts.size();
+    if (scrollPosition == kNone) topic.fixedParts = topic.parts.size();
     addPictureLinks(topic);
     return topic;
 }

@@ -51,7 +51,7 @@ class HelpFile {
 
   private:
     struct TopicStart {
-        std::uint32_t place;
+        std::uint32_t position;
         std::uint32_t offset;
     };
     HelpFile(std::unique_ptr<HelpContainer> container, HelpSystem system);
@@ -59,7 +59,7 @@ class HelpFile {
     std::uint32_t offsetAt(const TopicLink& link, std::uint32_t characters) const;
     std::string textOf(const TopicLink& link, std::string_view content) const;
     void addPictureLinks(Topic& topic) const;
-    void readHeader(const TopicLink& link, Topic& topic, std::uint32_t& scrollPlace) const;
+    void readHeader(const TopicLink& link, Topic& topic, std::uint32_t& scrollPosition) const;
 
     std::unique_ptr<HelpContainer> container_;
     HelpSystem system_;

@@ -21,13 +21,13 @@ TopicLinks::TopicLinks(std::string_view file, const HelpSystem& system)
       isPacked_(!system.isFirstVersion() && (system.flags == kPacked || system.flags == kPackedSmall)),
       isFirstVersion_(system.isFirstVersion()) {}
 
-TopicLinks::Spot TopicLinks::spotOf(std::uint32_t place) const {
-    if (place < kBlockHeader) return {SIZE_MAX, 0};
+TopicLinks::Spot TopicLinks::spotOf(std::uint32_t position) const {
+    if (position < kBlockHeader) return {SIZE_MAX, 0};
     if (isFirstVersion_) {
-        const std::size_t inBlock = place % blockSize_;
-        return {inBlock < kBlockHeader ? SIZE_MAX : place / blockSize_, inBlock - kBlockHeader};
+        const std::size_t inBlock = position % blockSize_;
+        return {inBlock < kBlockHeader ? SIZE_MAX : position / blockSize_, inBlock - kBlockHeader};
     }
-    const std::uint32_t behindHeader = place - static_cast<std::uint32_t>(kBlockHeader);
+    const std::uint32_t behindHeader = position - static_cast<std::uint32_t>(kBlockHeader);
     return {behindHeader / kLargestBlock, behindHeader % kLargestBlock};
 }
 
@@ -59,11 +59,11 @@ std::string_view TopicLinks::gather(Spot spot, std::int64_t count) const {
     return gathered_;
 }
 
-std::optional<TopicLink> TopicLinks::at(std::uint32_t place) const {
-    const Spot spot = spotOf(place);
+std::optional<TopicLink> TopicLinks::at(std::uint32_t position) const {
+    const Spot spot = spotOf(position);
     ByteReader in(gather(spot, kHeaderSize));
     TopicLink link;
-    link.place = place;
+    link.position = position;
     link.block = spot.block;
     link.size = in.i32();
     link.textSize = in.i32();
@@ -73,20 +73,20 @@ std::optional<TopicLink> TopicLinks::at(std::uint32_t place) const {
     link.type = static_cast<LinkType>(in.u8());
     const bool isSound = link.formatSize >= kHeaderSize && link.size >= link.formatSize && link.size <= kLongestLink;
     if (in.failed() || !isSound || link.textSize < 0) return std::nullopt;
-    link.next = isFirstVersion_ ? place + next : next;
-    if (link.next <= place || spotOf(static_cast<std::uint32_t>(link.next)).block >= blockCount()) link.next = -1;
+    link.next = isFirstVersion_ ? position + next : next;
+    if (link.next <= position || spotOf(static_cast<std::uint32_t>(link.next)).block >= blockCount()) link.next = -1;
     return link;
 }
 
 std::string_view TopicLinks::content(const TopicLink& link, std::int64_t limit) const {
-    const Spot spot = spotOf(link.place);
+    const Spot spot = spotOf(link.position);
     std::string_view bytes = gather(spot, std::min(link.size, limit + kHeaderSize));
     bytes.remove_prefix(std::min<std::size_t>(kHeaderSize, bytes.size()));
     return bytes;
 }
 
-std::optional<std::uint32_t> TopicLinks::firstBehind(std::uint32_t place) const {
-    const std::size_t damaged = spotOf(place).block;
+std::optional<std::uint32_t> TopicLinks::firstBehind(std::uint32_t position) const {
+    const std::size_t damaged = spotOf(position).block;
     for (std::size_t block = damaged + 1; damaged != SIZE_MAX && block < blockCount(); ++block) {
         ByteReader in(file_.substr(block * blockSize_));
         in.skip(4);

@@ -4,8 +4,8 @@
 #include "framework/dialog_fields.h"
 #include "framework/menu.h"
 #include "framework/screen.h"
+#include "ui/dialogs/dialog_corner.h"
 #include "ui/dialogs/dialog_keys.h"
-#include "ui/dialogs/dialog_place.h"
 #include "ui/resources/dialog_controls.h"
 
 namespace vexa {

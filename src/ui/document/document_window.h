@@ -29,7 +29,7 @@ class DocumentHost {
     virtual void questionFollows(DocumentWindow& window) = 0;
     // The window is going to be closed.
     virtual void documentCloses(const DocumentWindow& window) = 0;
-    virtual void showContextMenu(POINT screenPlace) = 0;
+    virtual void showContextMenu(POINT screenPosition) = 0;
 };
 
 extern const WindowClass kDocumentWindowClass;
@@ -45,8 +45,8 @@ class DocumentWindow : public TextWindow, private PaneHost, private MarginHost {
     EditView& view() { return view_; }
     const EditView& view() const { return view_; }
     // Where columns of a line are on the screen, as far as they are in sight.
-    RECT screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
-        return pane_.screenPlaceOf(line, from, to);
+    RECT screenAreaOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
+        return pane_.screenAreaOf(line, from, to);
     }
     // The document's name, marked while it has changes that are not saved, and the directory behind it: where there is
     // room for the beginning alone, as in tiled windows, that tells more.
@@ -82,8 +82,8 @@ class DocumentWindow : public TextWindow, private PaneHost, private MarginHost {
     void commandFailed() override { recover(); }
     void keyUsed(const KeyEvent& event) override { host_.keyUsed(event); }
     void zoom(std::int32_t steps) override { host_.zoom(steps); }
-    void showContextMenu(POINT screenPlace) override { host_.showContextMenu(screenPlace); }
-    void marginPressed(POINT screenPlace, bool shift) override { pane_.startMarkingLines(screenPlace, shift); }
+    void showContextMenu(POINT screenPosition) override { host_.showContextMenu(screenPosition); }
+    void marginPressed(POINT screenPosition, bool shift) override { pane_.startMarkingLines(screenPosition, shift); }
     void marginWheel(const WheelMessage& turn) override { pane_.onWheel(turn); }
 
     DocumentHost& host_;

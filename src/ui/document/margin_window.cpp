@@ -11,7 +11,7 @@ constexpr WindowClass kMarginClass{.name = "MDImarginCL"};
 }  // namespace
 
 bool MDImarginCL::open(HWND parent) {
-    return create(kMarginClass, {.style = WS_CHILD | WS_VISIBLE, .place = {0, 0, 0, 0}, .parent = parent});
+    return create(kMarginClass, {.style = WS_CHILD | WS_VISIBLE, .area = {0, 0, 0, 0}, .parent = parent});
 }
 
 // From the left: a bookmark's digit, the number, the mark of a changed line, a gap.
@@ -86,9 +86,9 @@ void MDImarginCL::drawBookmark(HDC dc, char digit) {
 // ---- mouse -------------------------------------------------------------------------------------------------------
 
 bool MDImarginCL::onMousePress(const MouseButtonMessage& press) {
-    POINT place = press.place;
-    ClientToScreen(window(), &place);
-    host_.marginPressed(place, press.shift);
+    POINT position = press.position;
+    ClientToScreen(window(), &position);
+    host_.marginPressed(position, press.shift);
     return true;
 }
 

@@ -15,7 +15,7 @@ class MarginHost {
   public:
     virtual ~MarginHost() = default;
     // The user has pressed the mouse beside a line, at a point of the screen.
-    virtual void marginPressed(POINT screenPlace, bool shift) = 0;
+    virtual void marginPressed(POINT screenPosition, bool shift) = 0;
     virtual void marginWheel(const WheelMessage& turn) = 0;
 };
 

@@ -44,20 +44,20 @@ void PaneWindowCL::refreshRows() {
     showRows(isSideways ? 0 : moved, [this](std::int32_t row) { return view_.render(row); });
 }
 
-POINT PaneWindowCL::caretPlace() const {
+POINT PaneWindowCL::caretPosition() const {
     const std::optional<Cell> cell = view_.caret();
     return cell ? POINT{cell->column * painter_.cellWidth(), cell->row * painter_.cellHeight()} : kOutOfSight;
 }
 
-RECT PaneWindowCL::screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
+RECT PaneWindowCL::screenAreaOf(LineIndex line, DisplayColumn from, DisplayColumn to) const {
     const LONG top = (line - view_.topLine()) * painter_.cellHeight();
     const RECT cells = {(from - view_.leftColumn()) * painter_.cellWidth(), top,
                         (to - view_.leftColumn()) * painter_.cellWidth(), top + painter_.cellHeight()};
     const RECT client = clientArea();
-    RECT place{};
-    IntersectRect(&place, &cells, &client);
-    MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
-    return place;
+    RECT area{};
+    IntersectRect(&area, &cells, &client);
+    MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&area), 2);
+    return area;
 }
 
 // A bar between two characters where typing inserts, a block over the character that typing replaces.
@@ -70,8 +70,8 @@ void PaneWindowCL::refreshCaret() {
         ShowCaret(window());
         caretSize_ = size;
     }
-    const POINT place = caretPlace();
-    SetCaretPos(place.x, place.y);
+    const POINT position = caretPosition();
+    SetCaretPos(position.x, position.y);
 }
 
 bool PaneWindowCL::onFocusGained() {
@@ -133,19 +133,19 @@ bool PaneWindowCL::onSystemCharacter(unsigned char /*character*/) {
 // ---- mouse -------------------------------------------------------------------------------------------------------
 
 // The boundary between two characters that is nearest, or the character itself where the caret covers one.
-Cell PaneWindowCL::cellAt(POINT place) const {
+Cell PaneWindowCL::cellAt(POINT position) const {
     const int width = painter_.cellWidth();
     const int height = painter_.cellHeight();
-    const LONG x = place.x + (view_.overwrites() ? 0 : width / 2);
+    const LONG x = position.x + (view_.overwrites() ? 0 : width / 2);
     const auto cells = [](LONG pixels, int cell) {
         return static_cast<std::int32_t>(pixels >= 0 ? pixels / cell : (pixels + 1) / cell - 1);
     };
-    return {cells(place.y, height), cells(x, width)};
+    return {cells(position.y, height), cells(x, width)};
 }
 
 bool PaneWindowCL::onMousePress(const MouseButtonMessage& press) {
     dropsAltRelease_ = press.alt;
-    startDrag(press.place, press.shift, kindOf(press));
+    startDrag(press.position, press.shift, kindOf(press));
     return true;
 }
 
@@ -153,18 +153,18 @@ MousePress PaneWindowCL::kindOf(const MouseButtonMessage& press) {
     const ClickLimits limits = {GetDoubleClickTime(), GetSystemMetrics(SM_CXDOUBLECLK),
                                 GetSystemMetrics(SM_CYDOUBLECLK)};
     const auto now = static_cast<std::uint32_t>(GetMessageTime());
-    const bool isThird = tripleClick_.isThird({press.isDouble, press.place.x, press.place.y, now}, limits);
+    const bool isThird = tripleClick_.isThird({press.isDouble, press.position.x, press.position.y, now}, limits);
     if (press.alt) return MousePress::Column;
     if (isThird) return MousePress::Lines;
     return press.isDouble ? MousePress::Word : MousePress::Stream;
 }
 
-void PaneWindowCL::startMarkingLines(POINT screenPlace, bool extend) {
-    ScreenToClient(window(), &screenPlace);
-    startDrag(screenPlace, extend, MousePress::Lines);
+void PaneWindowCL::startMarkingLines(POINT screenPosition, bool extend) {
+    ScreenToClient(window(), &screenPosition);
+    startDrag(screenPosition, extend, MousePress::Lines);
 }
 
-void PaneWindowCL::startDrag(POINT place, bool extend, MousePress how) {
+void PaneWindowCL::startDrag(POINT position, bool extend, MousePress how) {
     constexpr UINT kScrollInterval = 50;  // milliseconds between two steps while the mouse is held outside
     SetFocus(window());
     host_.userActs();
@@ -172,8 +172,8 @@ void PaneWindowCL::startDrag(POINT place, bool extend, MousePress how) {
     SetCapture(window());
     SetTimer(window(), 1, kScrollInterval, nullptr);
     isDragging_ = true;
-    dragPlace_ = place;
-    view_.press(cellAt(place), extend, how);
+    dragPosition_ = position;
+    view_.press(cellAt(position), extend, how);
     refresh();
 }
 
@@ -182,12 +182,12 @@ bool PaneWindowCL::onSystemKeyUp(UINT key) {
     return key == VK_MENU && std::exchange(dropsAltRelease_, false);
 }
 
-bool PaneWindowCL::onMouseMove(POINT place) {
+bool PaneWindowCL::onMouseMove(POINT position) {
     // The system also reports mice that have not moved.
-    const bool hasMoved = place.x != dragPlace_.x || place.y != dragPlace_.y;
+    const bool hasMoved = position.x != dragPosition_.x || position.y != dragPosition_.y;
     if (!isDragging_ || !hasMoved) return false;
-    dragPlace_ = place;
-    view_.drag(cellAt(place));
+    dragPosition_ = position;
+    view_.drag(cellAt(position));
     refresh();
     return true;
 }
@@ -195,15 +195,15 @@ bool PaneWindowCL::onMouseMove(POINT place) {
 // Lines that are marked beside the pane scroll only when the mouse is above or below it.
 bool PaneWindowCL::onTimer(UINT_PTR /*timer*/) {
     RECT client = clientArea();
-    const POINT place = {std::max<LONG>(dragPlace_.x, 0), dragPlace_.y};
-    const bool isInside = PtInRect(&client, view_.isMarkingLines() ? place : dragPlace_);
+    const POINT position = {std::max<LONG>(dragPosition_.x, 0), dragPosition_.y};
+    const bool isInside = PtInRect(&client, view_.isMarkingLines() ? position : dragPosition_);
     if (!isDragging_ || isInside) return true;
-    view_.drag(cellAt(dragPlace_));
+    view_.drag(cellAt(dragPosition_));
     refresh();
     return true;
 }
 
-bool PaneWindowCL::onMouseRelease(POINT /*place*/) {
+bool PaneWindowCL::onMouseRelease(POINT /*position*/) {
     endDrag();
     return true;
 }
@@ -222,22 +222,22 @@ void PaneWindowCL::endDrag() {
 }
 
 // The commands of the menu work where it was asked for: at the mouse, unless that is over what is marked.
-bool PaneWindowCL::onContextMenu(std::optional<POINT> screenPlace) {
+bool PaneWindowCL::onContextMenu(std::optional<POINT> screenPosition) {
     host_.userActs();
-    if (screenPlace) {
-        POINT place = *screenPlace;
-        ScreenToClient(window(), &place);
-        if (!view_.isMarked(cellAt(place))) {
+    if (screenPosition) {
+        POINT position = *screenPosition;
+        ScreenToClient(window(), &position);
+        if (!view_.isMarked(cellAt(position))) {
             host_.mousePressed();
-            view_.press(cellAt(place), false);
+            view_.press(cellAt(position), false);
             view_.release();
             refresh();
         }
-        host_.showContextMenu(*screenPlace);
+        host_.showContextMenu(*screenPosition);
     } else {
-        POINT place = view_.caret() ? caretPlace() : POINT{};
-        ClientToScreen(window(), &place);
-        host_.showContextMenu(place);
+        POINT position = view_.caret() ? caretPosition() : POINT{};
+        ClientToScreen(window(), &position);
+        host_.showContextMenu(position);
     }
     return true;
 }

@@ -32,11 +32,11 @@ class PaneWindowCL : public RowPane {
     void refresh() override;
     const RowPainter& painter() const { return painter_; }
     // Where columns of a line are on the screen, as far as they are in sight.
-    RECT screenPlaceOf(LineIndex line, DisplayColumn from, DisplayColumn to) const;
+    RECT screenAreaOf(LineIndex line, DisplayColumn from, DisplayColumn to) const;
     // Takes over the colours in force, and whether there are any but those of plain text.
     void refreshColours();
     // Follows the mouse, whose button was pressed at a point of the screen beside the pane, and marks lines.
-    void startMarkingLines(POINT screenPlace, bool extend);
+    void startMarkingLines(POINT screenPosition, bool extend);
 
   protected:
     bool onFocusGained() override;
@@ -47,21 +47,21 @@ class PaneWindowCL : public RowPane {
     bool onSystemKeyUp(UINT key) override;
     bool onSystemCharacter(unsigned char character) override;
     bool onMousePress(const MouseButtonMessage& press) override;
-    bool onMouseMove(POINT place) override;
-    bool onMouseRelease(POINT place) override;
+    bool onMouseMove(POINT position) override;
+    bool onMouseRelease(POINT position) override;
     bool onCaptureLost() override;
     bool onTimer(UINT_PTR timer) override;
-    bool onContextMenu(std::optional<POINT> screenPlace) override;
+    bool onContextMenu(std::optional<POINT> screenPosition) override;
 
   private:
     void fit() override;
     void refreshRows();
     void refreshCaret();
-    void startDrag(POINT place, bool extend, MousePress how);
+    void startDrag(POINT position, bool extend, MousePress how);
     void endDrag();
     MousePress kindOf(const MouseButtonMessage& press);
-    Cell cellAt(POINT place) const;
-    POINT caretPlace() const;
+    Cell cellAt(POINT position) const;
+    POINT caretPosition() const;
     ScrollState scrollState(int bar) const override;
     void moveTo(int bar, std::int32_t position) override;
 
@@ -72,7 +72,7 @@ class PaneWindowCL : public RowPane {
     LineIndex shownTop_;  // where the rows begin
     DisplayColumn shownLeft_;
     SIZE caretSize_ = {};  // none while the window has not the focus
-    POINT dragPlace_ = {};
+    POINT dragPosition_ = {};
     bool isDragging_ = false;
     bool dropsAltRelease_ = false;
 };

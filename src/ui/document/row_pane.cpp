@@ -13,7 +13,7 @@ std::int32_t CellsIn(LONG pixels, int cell) {
 
 bool RowPane::open(const WindowClass& windowClass, HWND parent) {
     return create(windowClass,
-                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {0, 0, 0, 0}, .parent = parent});
+                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .area = {0, 0, 0, 0}, .parent = parent});
 }
 
 bool RowPane::onCreate() {

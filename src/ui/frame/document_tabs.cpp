@@ -43,8 +43,8 @@ void DocumentTabs::refresh() {
 
 bool DocumentTabs::useMessage(const MSG& message) {
     if (message.message != WM_MOUSEWHEEL) return useKey(message);
-    const POINT place{static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
-    const bool isOverTabs = message.hwnd != strip_.window() && WindowFromPoint(place) == strip_.window();
+    const POINT position{static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
+    const bool isOverTabs = message.hwnd != strip_.window() && WindowFromPoint(position) == strip_.window();
     if (isOverTabs) strip_.turnWheel(static_cast<short>(HIWORD(message.wParam)));
     return isOverTabs;
 }

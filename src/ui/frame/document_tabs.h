@@ -31,7 +31,7 @@ class DocumentTabs : private TabHost {
     void chooseTab(std::size_t index) override;
     void closeTab(std::size_t index) override;
     void moveTab(std::size_t from, std::size_t to) override;
-    void showTabMenu(POINT screenPlace) override { frame_.showTitleMenu(screenPlace); }
+    void showTabMenu(POINT screenPosition) override { frame_.showTitleMenu(screenPosition); }
 
     MDIframeCL& frame_;
     TabStripCL strip_;

@@ -21,8 +21,8 @@ BoxAnswer AnswerOf(int button, BoxButtons buttons) {
 
 // The pointer has not moved, but what lies under it may want another shape again.
 void RefreshPointer() {
-    POINT place;
-    if (GetCursorPos(&place)) SetCursorPos(place.x, place.y);
+    POINT position;
+    if (GetCursorPos(&position)) SetCursorPos(position.x, position.y);
 }
 
 }  // namespace

@@ -98,7 +98,7 @@ void SearchCommands::search(const Search& search) {
     const ListWindow* list = documents_.activeList();
     notices_.clearStatus();
     search({active ? &active->view() : nullptr, list ? &list->rows() : nullptr});
-    if (list && dialog_) dialog_->keepClearOf(list->screenPlaceOfSelection());
+    if (list && dialog_) dialog_->keepClearOf(list->screenAreaOfSelection());
     if (!active) return;
     active->refresh();
     showMatchBesideDialog(*active);
@@ -108,7 +108,7 @@ void SearchCommands::showMatchBesideDialog(const DocumentWindow& active) {
     const SearchOptions& options = application_.searchOptions;
     if (!dialog_ || !options.matchPending() || options.lastMatch.isNone()) return;
     const LastMatch& match = options.lastMatch;
-    dialog_->keepClearOf(active.screenPlaceOf(match.line, match.displayStart, match.displayEnd));
+    dialog_->keepClearOf(active.screenAreaOf(match.line, match.displayStart, match.displayEnd));
 }
 
 }  // namespace vexa

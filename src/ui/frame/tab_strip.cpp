@@ -57,7 +57,7 @@ TOOLINFOA ToolOf(HWND strip) {
 }  // namespace
 
 bool TabStripCL::open(HWND parent) {
-    return create(kStripClass, {.style = WS_CHILD, .place = {0, 0, 0, 0}, .parent = parent});
+    return create(kStripClass, {.style = WS_CHILD, .area = {0, 0, 0, 0}, .parent = parent});
 }
 
 bool TabStripCL::onCreate() {
@@ -148,7 +148,7 @@ void TabStripCL::drawTab(HDC dc, std::size_t index, int bottom) const {
 // ---- the mouse ---------------------------------------------------------------------------------------------------
 
 bool TabStripCL::onMousePress(const MouseButtonMessage& press) {
-    const auto index = layout_.at(press.place.x);
+    const auto index = layout_.at(press.position.x);
     if (!index) return true;
     SetCapture(window());
     dragged_ = index;
@@ -156,17 +156,17 @@ bool TabStripCL::onMousePress(const MouseButtonMessage& press) {
     return true;
 }
 
-bool TabStripCL::onMouseMove(POINT place) {
+bool TabStripCL::onMouseMove(POINT position) {
     if (!dragged_) {
-        showTipOf(layout_.at(place.x));
-    } else if (const auto target = layout_.dropAt(place.x, *dragged_)) {
+        showTipOf(layout_.at(position.x));
+    } else if (const auto target = layout_.dropAt(position.x, *dragged_)) {
         host_.moveTab(*dragged_, *target);
         dragged_ = target;
     }
     return true;
 }
 
-bool TabStripCL::onMouseRelease(POINT /*place*/) {
+bool TabStripCL::onMouseRelease(POINT /*position*/) {
     if (dragged_) ReleaseCapture();
     return true;
 }
@@ -187,14 +187,14 @@ void TabStripCL::turnWheel(int delta) {
     InvalidateRect(window(), nullptr, FALSE);
 }
 
-bool TabStripCL::onContextMenu(std::optional<POINT> screenPlace) {
-    if (!screenPlace) return false;
-    POINT place = *screenPlace;
-    ScreenToClient(window(), &place);
-    const auto index = layout_.at(place.x);
+bool TabStripCL::onContextMenu(std::optional<POINT> screenPosition) {
+    if (!screenPosition) return false;
+    POINT position = *screenPosition;
+    ScreenToClient(window(), &position);
+    const auto index = layout_.at(position.x);
     if (!index) return true;
     host_.chooseTab(*index);
-    host_.showTabMenu(*screenPlace);
+    host_.showTabMenu(*screenPosition);
     return true;
 }
 

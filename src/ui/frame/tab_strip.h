@@ -26,7 +26,7 @@ class TabHost {
     virtual void chooseTab(std::size_t index) = 0;
     virtual void closeTab(std::size_t index) = 0;
     virtual void moveTab(std::size_t from, std::size_t to) = 0;
-    virtual void showTabMenu(POINT screenPlace) = 0;
+    virtual void showTabMenu(POINT screenPosition) = 0;
 };
 
 class TabStripCL : public WindowCL {
@@ -48,11 +48,11 @@ class TabStripCL : public WindowCL {
     bool onPaint(HDC dc, const RECT& update) override;
     bool onEraseBackground(HDC /*dc*/) override { return true; }
     bool onMousePress(const MouseButtonMessage& press) override;
-    bool onMouseMove(POINT place) override;
-    bool onMouseRelease(POINT place) override;
+    bool onMouseMove(POINT position) override;
+    bool onMouseRelease(POINT position) override;
     bool onCaptureLost() override;
     bool onWheel(const WheelMessage& turn) override;
-    bool onContextMenu(std::optional<POINT> screenPlace) override;
+    bool onContextMenu(std::optional<POINT> screenPosition) override;
     bool onOther(Message& message) override;
 
   private:

@@ -222,15 +222,15 @@ void VexaFrame::documentCloses(const DocumentWindow& window) {
     outside_.documentCloses(window.document());
 }
 
-bool VexaFrame::showTitleMenu(POINT screenPlace) {
+bool VexaFrame::showTitleMenu(POINT screenPosition) {
     const bool isOfDocument = takesCommands() && documents_.active();
-    if (isOfDocument) showMenu(TitleMenuItems(), screenPlace);
+    if (isOfDocument) showMenu(TitleMenuItems(), screenPosition);
     return isOfDocument;
 }
 
-void VexaFrame::showMenu(const std::vector<MenuItem>& items, POINT screenPlace) {
+void VexaFrame::showMenu(const std::vector<MenuItem>& items, POINT screenPosition) {
     const MenuHandle menu = MakePopupMenu(items);
-    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, screenPlace.x, screenPlace.y, 0, window(), nullptr);
+    TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, screenPosition.x, screenPosition.y, 0, window(), nullptr);
 }
 
 }  // namespace vexa

@@ -80,9 +80,9 @@ class VexaFrame : public MDIframeCL, private DocumentHost {
     bool mayCloseDocument(DocumentWindow& window) override { return documents_.mayClose(window); }
     void questionFollows(DocumentWindow& window) override;
     void documentCloses(const DocumentWindow& window) override;
-    void showContextMenu(POINT screenPlace) override { showMenu(ContextMenuItems(), screenPlace); }
-    bool showTitleMenu(POINT screenPlace) override;
-    void showMenu(const std::vector<MenuItem>& items, POINT screenPlace);
+    void showContextMenu(POINT screenPosition) override { showMenu(ContextMenuItems(), screenPosition); }
+    bool showTitleMenu(POINT screenPosition) override;
+    void showMenu(const std::vector<MenuItem>& items, POINT screenPosition);
 
     Application& application_;
     MessageLoop loop_;

@@ -14,9 +14,9 @@ ScreenRect ToScreenRect(const RECT& area) {
 }
 
 ScreenRect PlaceOnScreen(HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    return ToScreenRect(place);
+    RECT area{};
+    GetWindowRect(window, &area);
+    return ToScreenRect(area);
 }
 
 // The ways in which a program can be started, as the frame's states.
@@ -37,8 +37,8 @@ void WindowPlacement::restore(const ConfigStore& store, bool restoreSize, int sh
     for (const RECT& area : WorkAreas())
         areas.push_back(ToScreenRect(area));
     placement_.normal = KeptOnScreen(placement_.normal, areas);
-    const ScreenRect& place = placement_.normal;
-    MoveWindow(frame, place.x, place.y, place.width, place.height, FALSE);
+    const ScreenRect& area = placement_.normal;
+    MoveWindow(frame, area.x, area.y, area.width, area.height, FALSE);
     isShown_ = true;
     ShowWindow(frame, static_cast<int>(placement_.state));
 }

@@ -7,7 +7,7 @@
 #include "framework/dpi.h"
 #include "quickhelp/linked_help_file.h"
 #include "ui/help/help.h"
-#include "ui/help/help_window_place.h"
+#include "ui/help/help_window_placement.h"
 #include "ui/help/viewer_dialogs.h"
 #include "ui/resources/resource.h"
 
@@ -105,7 +105,7 @@ void HelpWindow::carryOut(BrowserOutcome outcome) {
             showTopic();
             break;
         case BrowserOutcome::PopUp:
-            popUp_.openPopUp(window(), browser_.popUp(), pane_.linkPlace());
+            popUp_.openPopUp(window(), browser_.popUp(), pane_.linkPosition());
             break;
         case BrowserOutcome::Index:
         case BrowserOutcome::Choice:
@@ -153,7 +153,7 @@ void HelpWindow::followLink(TopicPane& pane, const topics::Link& link) {
 bool HelpWindow::openWindow() {
     if (window()) return true;
     if (!create(kHelpClass, {.title = "", .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN})) return false;
-    place(LoadHelpWindowPlace(store_, DpiOf(window())));
+    place(LoadHelpWindowPlacement(store_, DpiOf(window())));
     show(true);
     return true;
 }
@@ -168,7 +168,7 @@ bool HelpWindow::onCreate() {
 
 void HelpWindow::onDestroy() {
     closePopUp();
-    SaveHelpWindowPlace(store_, window());
+    SaveHelpWindowPlacement(store_, window());
 }
 
 bool HelpWindow::onSize(UINT kind) {

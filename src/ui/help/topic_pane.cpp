@@ -57,23 +57,22 @@ struct TopicPaneKeys {
 // ---- opening and layout ------------------------------------------------------------------------------------------
 
 bool TopicPane::open(HWND parent) {
-    return create(kPaneClass,
-                  {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .place = {}, .parent = parent});
+    return create(kPaneClass, {.style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, .area = {}, .parent = parent});
 }
 
-bool TopicPane::openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPlace) {
+bool TopicPane::openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPosition) {
     isPopUp_ = true;
-    if (!window() && !create(kPaneClass, {.style = WS_POPUP | WS_BORDER, .place = {}, .parent = owner})) return false;
+    if (!window() && !create(kPaneClass, {.style = WS_POPUP | WS_BORDER, .area = {}, .parent = owner})) return false;
     take(topic);
-    const RECT screen = WorkAreaNear({screenPlace.x, screenPlace.y, screenPlace.x + 1, screenPlace.y + 1});
+    const RECT screen = WorkAreaNear({screenPosition.x, screenPosition.y, screenPosition.x + 1, screenPosition.y + 1});
     const int dpi = DpiOf(window());
     layOut(std::min(Scaled(kPopUpWidth, dpi), static_cast<int>(screen.right - screen.left) / 2));
     const int edges = 2 * margin() + 2;
     const int width = std::max(RightOf(layout_.fixed), RightOf(layout_.scrolling)) + edges;
     const int height = std::min(fixedHeight() + layout_.scrolling.height + edges, Height(screen) * 2 / 3);
-    const LONG left = std::clamp<LONG>(screenPlace.x, screen.left, std::max(screen.left, screen.right - width));
-    const bool fitsBelow = screenPlace.y + height <= screen.bottom;
-    const LONG top = fitsBelow ? screenPlace.y : std::max<LONG>(screen.top, screen.bottom - height);
+    const LONG left = std::clamp<LONG>(screenPosition.x, screen.left, std::max(screen.left, screen.right - width));
+    const bool fitsBelow = screenPosition.y + height <= screen.bottom;
+    const LONG top = fitsBelow ? screenPosition.y : std::max<LONG>(screen.top, screen.bottom - height);
     SetWindowPos(window(), HWND_TOP, left, top, width, height, SWP_SHOWWINDOW);
     SetFocus(window());
     return true;
@@ -263,27 +262,27 @@ void TopicPane::drawPart(HDC dc, const Part& part, const RECT& visible) {
 
 // ---- mouse -------------------------------------------------------------------------------------------------------
 
-TopicPane::Part TopicPane::partAt(POINT place) {
-    return place.y < scrollingArea().top ? fixedPart() : scrollingPart();
+TopicPane::Part TopicPane::partAt(POINT position) {
+    return position.y < scrollingArea().top ? fixedPart() : scrollingPart();
 }
 
-std::optional<int> TopicPane::linkAt(POINT place) {
-    const Part part = partAt(place);
-    return topics::LinkAt(*part.areas, static_cast<int>(place.x - part.origin.x),
-                          static_cast<int>(place.y - part.origin.y));
+std::optional<int> TopicPane::linkAt(POINT position) {
+    const Part part = partAt(position);
+    return topics::LinkAt(*part.areas, static_cast<int>(position.x - part.origin.x),
+                          static_cast<int>(position.y - part.origin.y));
 }
 
-topics::TextPosition TopicPane::positionAt(POINT place) {
-    const Part part = partAt(place);
-    return topics::PositionAt(*part.region, source(), static_cast<int>(place.x - part.origin.x),
-                              static_cast<int>(place.y - part.origin.y));
+topics::TextPosition TopicPane::positionAt(POINT position) {
+    const Part part = partAt(position);
+    return topics::PositionAt(*part.region, source(), static_cast<int>(position.x - part.origin.x),
+                              static_cast<int>(position.y - part.origin.y));
 }
 
 bool TopicPane::onSetCursor(UINT hitTest) {
-    POINT place{};
-    if (hitTest != HTCLIENT || !hasTopic() || !GetCursorPos(&place)) return false;
-    ScreenToClient(window(), &place);
-    const HCURSOR hand = linkAt(place) ? LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)) : nullptr;
+    POINT position{};
+    if (hitTest != HTCLIENT || !hasTopic() || !GetCursorPos(&position)) return false;
+    ScreenToClient(window(), &position);
+    const HCURSOR hand = linkAt(position) ? LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)) : nullptr;
     SetCursor(hand ? hand : LoadCursorA(nullptr, IDC_ARROW));
     return true;
 }
@@ -292,24 +291,24 @@ bool TopicPane::onMousePress(const MouseButtonMessage& press) {
     if (!hasTopic()) return true;
     SetFocus(window());
     host_.panePressed(*this);
-    pressedLink_ = linkAt(press.place);
-    const topics::TextPosition position = positionAt(press.place);
+    pressedLink_ = linkAt(press.position);
+    const topics::TextPosition position = positionAt(press.position);
     select(press.shift ? anchor_ : position, position);
     isSelecting_ = true;
     SetCapture(window());
     return true;
 }
 
-bool TopicPane::onMouseMove(POINT place) {
-    if (isSelecting_) select(anchor_, positionAt(place));
+bool TopicPane::onMouseMove(POINT position) {
+    if (isSelecting_) select(anchor_, positionAt(position));
     return isSelecting_;
 }
 
-bool TopicPane::onMouseRelease(POINT place) {
+bool TopicPane::onMouseRelease(POINT position) {
     if (!isSelecting_) return false;
     ReleaseCapture();
     const std::optional<int> pressed = std::exchange(pressedLink_, std::nullopt);
-    const bool isClick = pressed && linkAt(place) == pressed && anchor_ == caret_;
+    const bool isClick = pressed && linkAt(position) == pressed && anchor_ == caret_;
     if (isClick) followLink(*pressed);
     return true;
 }
@@ -378,8 +377,8 @@ void TopicPane::followLink(int number) {
     for (const Part& part : {fixedPart(), scrollingPart()}) {
         const auto area = std::ranges::find(*part.areas, number, &topics::LinkArea::link);
         if (area == part.areas->end()) continue;
-        linkPlace_ = {part.origin.x + area->box.left, part.origin.y + area->box.bottom};
-        ClientToScreen(window(), &linkPlace_);
+        linkPosition_ = {part.origin.x + area->box.left, part.origin.y + area->box.bottom};
+        ClientToScreen(window(), &linkPosition_);
     }
     const std::shared_ptr<const topics::Topic> topic = shown_.topic;
     host_.followLink(*this, topic->links[static_cast<std::size_t>(number)]);

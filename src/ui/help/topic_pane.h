@@ -37,7 +37,7 @@ class TopicPane : public WindowCL {
 
     bool open(HWND parent);
     // Opens beside a point of the screen, as large as its topic needs.
-    bool openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPlace);
+    bool openPopUp(HWND owner, const topics::ShownTopic& topic, POINT screenPosition);
     void closePopUp() { destroy(); }
     // Where it was scrolled to before, or at the paragraph that the topic was asked for.
     void show(const topics::ShownTopic& topic);
@@ -48,7 +48,7 @@ class TopicPane : public WindowCL {
     // Selects the next occurrence of a text after the selection; false when there is none.
     bool findNext(const std::string& text);
     // On the screen, below the link that was followed last.
-    POINT linkPlace() const { return linkPlace_; }
+    POINT linkPosition() const { return linkPosition_; }
 
   protected:
     bool onSize(UINT kind) override;
@@ -61,8 +61,8 @@ class TopicPane : public WindowCL {
     bool onCharacter(unsigned char, UINT) override { return true; }
     bool onSystemCharacter(unsigned char character) override { return host_.useMnemonic(character); }
     bool onMousePress(const MouseButtonMessage& press) override;
-    bool onMouseMove(POINT place) override;
-    bool onMouseRelease(POINT place) override;
+    bool onMouseMove(POINT position) override;
+    bool onMouseRelease(POINT position) override;
     bool onCaptureLost() override;
     bool onWheel(const WheelMessage& turn) override;
     bool onScroll(int bar, UINT request) override;
@@ -86,13 +86,13 @@ class TopicPane : public WindowCL {
     int margin() const;
     int fixedHeight() const;
     RECT scrollingArea() const;
-    Part partAt(POINT place);
+    Part partAt(POINT position);
     Part fixedPart();
     Part scrollingPart();
     void draw(HDC dc);
     void drawPart(HDC dc, const Part& part, const RECT& visible);
-    std::optional<int> linkAt(POINT place);
-    topics::TextPosition positionAt(POINT place);
+    std::optional<int> linkAt(POINT position);
+    topics::TextPosition positionAt(POINT position);
     void select(topics::TextPosition from, topics::TextPosition to);
     void scrollTo(int x, int y);
     void scrollBy(int y) { scrollTo(scroll_.x, scroll_.y + y); }
@@ -126,7 +126,7 @@ class TopicPane : public WindowCL {
     topics::TextPosition anchor_, caret_;  // of the selection
     int focusedLink_ = -1;
     std::optional<int> pressedLink_;
-    POINT linkPlace_ = {};
+    POINT linkPosition_ = {};
     bool isSelecting_ = false;
     bool isPopUp_ = false;
 };

@@ -104,7 +104,7 @@ std::optional<std::size_t> ListPane::rowAt(POINT position) const {
 bool ListPane::onMousePress(const MouseButtonMessage& press) {
     SetFocus(window());
     host_.userActs();
-    const auto row = rowAt(press.place);
+    const auto row = rowAt(press.position);
     if (!row) return true;
     selectAndShow(*row, press.shift);
     if (press.isDouble) {
@@ -115,19 +115,19 @@ bool ListPane::onMousePress(const MouseButtonMessage& press) {
     return true;
 }
 
-bool ListPane::onMouseMove(POINT place) {
+bool ListPane::onMouseMove(POINT position) {
     if (GetCapture() != window()) return false;
-    const auto row = rowAt({place.x, std::max<LONG>(place.y, 0)});
+    const auto row = rowAt({position.x, std::max<LONG>(position.y, 0)});
     if (row && row != list_.selectedRow()) selectAndShow(*row, true);
     return true;
 }
 
-bool ListPane::onMouseRelease(POINT /*place*/) {
+bool ListPane::onMouseRelease(POINT /*position*/) {
     if (GetCapture() == window()) ReleaseCapture();
     return true;
 }
 
-RECT ListPane::screenPlaceOfSelection() const {
+RECT ListPane::screenAreaOfSelection() const {
     const auto row = static_cast<LONG>(list_.selectedRow().value_or(0));
     const LONG height = painter_.cellHeight();
     POINT corner{0, std::clamp<LONG>(row - top_, 0, rowsInWindow()) * height};
@@ -143,7 +143,7 @@ bool ListPane::onContextMenu(std::optional<POINT> screenPosition) {
         const auto row = rowAt(position);
         if (row && !selection().holds(*row)) selectAndShow(*row, false);
     }
-    const RECT selected = screenPlaceOfSelection();
+    const RECT selected = screenAreaOfSelection();
     host_.showContextMenu(screenPosition ? *screenPosition : POINT{selected.left, selected.top});
     return true;
 }

@@ -22,14 +22,14 @@ class ListPane : public RowPane {
     void showSelection();
     RowSpan selection() const { return selection_.span(list_.selectedRow()); }
     // Where the selected row is on the screen.
-    RECT screenPlaceOfSelection() const;
+    RECT screenAreaOfSelection() const;
 
     bool onKey(const KeyMessage& key) override;
 
   protected:
     bool onMousePress(const MouseButtonMessage& press) override;
-    bool onMouseMove(POINT place) override;
-    bool onMouseRelease(POINT place) override;
+    bool onMouseMove(POINT position) override;
+    bool onMouseRelease(POINT position) override;
     bool onContextMenu(std::optional<POINT> screenPosition) override;
 
   private:

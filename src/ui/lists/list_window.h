@@ -30,7 +30,7 @@ class ListWindow : public TextWindow, private RowPaneHost {
     ListWindow* asList() override { return this; }
     ListRows& rows() const { return rows_; }
     RowSpan selection() const { return pane_.selection(); }
-    RECT screenPlaceOfSelection() const { return pane_.screenPlaceOfSelection(); }
+    RECT screenAreaOfSelection() const { return pane_.screenAreaOfSelection(); }
     // The selected rows go to the clipboard as lines of text.
     void copy();
     void copyAll();

@@ -1,4 +1,4 @@
-#include "ui/dialogs/dialog_place.h"
+#include "ui/dialogs/dialog_corner.h"
 
 #include <algorithm>
 #include <iterator>

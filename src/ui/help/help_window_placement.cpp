@@ -1,4 +1,4 @@
-#include "ui/help/help_window_place.h"
+#include "ui/help/help_window_placement.h"
 
 #include <algorithm>
 #include <vector>
@@ -13,8 +13,8 @@ namespace {
 constexpr const char* kSection = "Help Window";
 constexpr ScreenRect kFirst{80, 60, 760, 560};  // at the normal resolution; shows the manual's widest picture
 
-RECT RectOf(const ScreenRect& place) {
-    return {place.x, place.y, place.x + place.width, place.y + place.height};
+RECT RectOf(const ScreenRect& area) {
+    return {area.x, area.y, area.x + area.width, area.y + area.height};
 }
 
 ScreenRect ScreenRectOf(const RECT& area) {
@@ -22,11 +22,11 @@ ScreenRect ScreenRectOf(const RECT& area) {
             static_cast<std::int32_t>(area.right - area.left), static_cast<std::int32_t>(area.bottom - area.top)};
 }
 
-ScreenRect RoomNear(const ScreenRect& place) {
-    return ScreenRectOf(WorkAreaNear(RectOf(place)));
+ScreenRect RoomNear(const ScreenRect& area) {
+    return ScreenRectOf(WorkAreaNear(RectOf(area)));
 }
 
-ScreenRect FirstPlace(int dpi) {
+ScreenRect FirstArea(int dpi) {
     const ScreenRect room = RoomNear(kFirst);
     return {kFirst.x, kFirst.y, std::min(Scaled(kFirst.width, dpi), room.width - 2 * kFirst.x),
             std::min(Scaled(kFirst.height, dpi), room.height - 2 * kFirst.y)};
@@ -34,27 +34,27 @@ ScreenRect FirstPlace(int dpi) {
 
 }  // namespace
 
-RECT LoadHelpWindowPlace(const ConfigStore& store, int dpi) {
+RECT LoadHelpWindowPlacement(const ConfigStore& store, int dpi) {
     const auto number = [&store](const char* key, std::int32_t fallback) {
         return store.ReadInt(kSection, key, fallback);
     };
-    const ScreenRect first = FirstPlace(dpi);
-    ScreenRect place{number("x", first.x), number("y", first.y), number("cx", first.width), number("cy", first.height)};
-    if (place.width <= 0 || place.height <= 0) place = first;
-    const ScreenRect areas[] = {RoomNear(place)};
-    return RectOf(KeptOnScreen(place, areas));
+    const ScreenRect first = FirstArea(dpi);
+    ScreenRect area{number("x", first.x), number("y", first.y), number("cx", first.width), number("cy", first.height)};
+    if (area.width <= 0 || area.height <= 0) area = first;
+    const ScreenRect areas[] = {RoomNear(area)};
+    return RectOf(KeptOnScreen(area, areas));
 }
 
-void SaveHelpWindowPlace(ConfigStore& store, HWND window) {
+void SaveHelpWindowPlacement(ConfigStore& store, HWND window) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof(placement);
     if (!GetWindowPlacement(window, &placement)) return;
-    const ScreenRect place = ScreenRectOf(placement.rcNormalPosition);
+    const ScreenRect area = ScreenRectOf(placement.rcNormalPosition);
     const ConfigStore::Batch batch(store);
-    store.WriteInt(kSection, "x", place.x);
-    store.WriteInt(kSection, "y", place.y);
-    store.WriteInt(kSection, "cx", place.width);
-    store.WriteInt(kSection, "cy", place.height);
+    store.WriteInt(kSection, "x", area.x);
+    store.WriteInt(kSection, "y", area.y);
+    store.WriteInt(kSection, "cx", area.width);
+    store.WriteInt(kSection, "cy", area.height);
 }
 
 }  // namespace vexa

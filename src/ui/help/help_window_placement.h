@@ -9,8 +9,8 @@ namespace vexa {
 
 // The rectangle to open the window with, on a screen that is there now. Without a usable one in the settings it is that
 // of the first time, at the resolution.
-RECT LoadHelpWindowPlace(const ConfigStore& store, int dpi);
+RECT LoadHelpWindowPlacement(const ConfigStore& store, int dpi);
 // The rectangle of the window when it is neither minimised nor maximised.
-void SaveHelpWindowPlace(ConfigStore& store, HWND window);
+void SaveHelpWindowPlacement(ConfigStore& store, HWND window);
 
 }  // namespace vexa
