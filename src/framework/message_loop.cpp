@@ -1,5 +1,7 @@
 #include "framework/message_loop.h"
 
+#include <utility>
+
 #include "framework/frame.h"
 
 namespace vexa {
@@ -10,6 +12,8 @@ bool TakeMessage(MSG& message, UINT first, UINT last) {
 }
 
 int MessageLoop::run() {
+    running_ = this;
+    const HHOOK hook = SetWindowsHookExA(WH_MSGFILTER, &OnDialogMessage, nullptr, GetCurrentThreadId());
     MSG message{};
     for (;;) {
         idle();
@@ -19,6 +23,7 @@ int MessageLoop::run() {
         // lost.
         if (got > 0) process(message);
     }
+    UnhookWindowsHookEx(hook);
     return static_cast<int>(message.wParam);
 }
 
@@ -44,11 +49,25 @@ void MessageLoop::processKey(MSG& message) {
 }
 
 void MessageLoop::process(MSG& message) {
-    if (frame_.translate(message)) return;
-    const bool isForDialog = modelessDialog_ && IsWindow(modelessDialog_);
-    if (isForDialog && IsDialogMessageA(modelessDialog_, &message)) return;
+    if (use(message)) return;
     TranslateMessage(&message);
     DispatchMessageA(&message);
+}
+
+bool MessageLoop::use(MSG& message) {
+    const bool wasUsing = std::exchange(isUsing_, true);
+    const bool isUsed =
+        frame_.translate(message) || (IsWindow(modelessDialog_) && IsDialogMessageA(modelessDialog_, &message));
+    isUsing_ = wasUsing;
+    return isUsed;
+}
+
+// A modal dialog takes the messages of the whole program, and asks this of each before it. Where the frame can be used
+// beside one, its keys are to do what they always do. The dialog beside the frame asks too, of what is in use already.
+LRESULT CALLBACK MessageLoop::OnDialogMessage(int code, WPARAM wParam, LPARAM lParam) noexcept {
+    const bool isNew = code == MSGF_DIALOGBOX && !running_->isUsing_;
+    if (isNew && running_->use(*reinterpret_cast<MSG*>(lParam))) return TRUE;
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 }  // namespace vexa

@@ -30,9 +30,14 @@ class MessageLoop {
     // Lets the frame work until a message comes or nothing is left to do.
     void idle();
     void process(MSG& message);
+    // True for a command key of the frame, and for what belongs to the dialog beside it.
+    bool use(MSG& message);
+    static LRESULT CALLBACK OnDialogMessage(int code, WPARAM wParam, LPARAM lParam) noexcept;
 
+    inline static MessageLoop* running_ = nullptr;
     AppFrameCL& frame_;
     HWND modelessDialog_ = nullptr;
+    bool isUsing_ = false;
 };
 
 }  // namespace vexa
