@@ -5,8 +5,10 @@
 namespace vexa {
 namespace {
 
-bool AsksForFile(CommandNeed need) {
-    return need != CommandNeed::Nothing && need != CommandNeed::Window;
+// A window without a document passes over editing commands without a word.
+bool AsksForFile(CommandNeed need, bool hasWindow) {
+    return need == CommandNeed::Document || need == CommandNeed::AnyDocument ||
+           (need == CommandNeed::EditArea && !hasWindow);
 }
 
 }  // namespace
@@ -43,7 +45,7 @@ bool CommandDispatcher::Dispatch(CommandId id, CommandOrigin origin) {
         return true;
     }
     const CommandRow* row = FindCommand(id);
-    const bool fileIsMissing = row && registrationOf(id) && AsksForFile(row->need) && !isMet_(CommandNeed::Window);
+    const bool fileIsMissing = row && registrationOf(id) && AsksForFile(row->need, isMet_(CommandNeed::Window));
     if (fileIsMissing) notices_.status(LoadText(TextId::NeedsOpenFile), true, true);
     return false;
 }

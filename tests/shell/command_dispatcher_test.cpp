@@ -44,7 +44,9 @@ TEST_F(CommandDispatcherTest, MissingDocumentIsToldAndNothingRuns) {
         const test::StatusNotice told{"Action can only be performed on an open file!", true, true};
         EXPECT_EQ(notices.statuses.back(), told);
     }
-    EXPECT_EQ(notices.statuses.size(), 2u);
+    hasWindow = true;  // a list, say
+    EXPECT_FALSE(dispatcher.Dispatch(CommandId::FileSave));
+    EXPECT_EQ(notices.statuses.size(), 3u);
     EXPECT_TRUE(ran.empty());
 }
 
