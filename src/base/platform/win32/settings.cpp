@@ -22,11 +22,13 @@ bool IsWritable(const std::string& file) {
 class ReadableFile {
   public:
     explicit ReadableFile(const std::string& file) : file_(OpenFile(file, OpenMode::Read)) {
-        for (int tries = 1; file_ == kNoFile && tries < kTries && PathExists(file); ++tries) {
+        static std::string awaitedInVain;
+        for (int tries = file == awaitedInVain ? kTries : 1; !isFree(file) && tries < kTries; ++tries) {
             Sleep(kPause);
             file_ = OpenFile(file, OpenMode::Read);
         }
-        isKnown_ = file_ != kNoFile || !PathExists(file);
+        isKnown_ = isFree(file);
+        awaitedInVain = isKnown_ ? "" : file;
     }
     ~ReadableFile() {
         if (file_ != kNoFile) CloseFile(file_);
@@ -38,7 +40,10 @@ class ReadableFile {
     bool isKnown() const { return isKnown_; }
 
   private:
-    // Another program that has the file open is usually done with it in a moment.
+    bool isFree(const std::string& file) const { return file_ != kNoFile || !PathExists(file); }
+
+    // Another program that has the file open is usually done with it in a moment. If not, it is waited for once and not
+    // again for each value.
     static constexpr int kTries = 10;
     static constexpr DWORD kPause = 20;  // milliseconds
 
