@@ -40,6 +40,8 @@ class MDIframeCL : public AppFrameCL {
     void closeChildren(const std::vector<MDIchildCL*>& order);
     // Closes a child if it agrees.
     bool closeChild(MDIchildCL& child);
+    // Children that have agreed are being closed.
+    bool isClosingChildren() const { return isClosingChildren_; }
     // Shows the menu of the active child's title, which the frame's title has while the child is maximised. False for a
     // child that has none of its own.
     virtual bool showTitleMenu(POINT /*screenPosition*/) { return false; }

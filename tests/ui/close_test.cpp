@@ -75,5 +75,15 @@ TEST_F(CloseTest, EndThatIsAskedForWhileWindowsCloseComesAfterThem) {
     EXPECT_TRUE(editor.ends());
 }
 
+TEST_F(CloseTest, EndOfTheSessionIsAgreedToWhileWindowsClose) {
+    std::vector<std::string> names;
+    for (char name = 'A'; name <= 'Z'; ++name)
+        folder.put(names.emplace_back(1, name), "");
+    const Editor editor(folder, names);
+    editor.command(CommandId::CloseAll);
+    while (!ChildrenOf(editor.frame(), "MDIchildCL").empty())
+        EXPECT_TRUE(SendMessageA(editor.frame(), WM_QUERYENDSESSION, 0, 0));
+}
+
 }  // namespace
 }  // namespace vexa::test

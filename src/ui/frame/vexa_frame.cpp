@@ -78,7 +78,9 @@ void VexaFrame::onDestroy() {
     MDIframeCL::onDestroy();
 }
 
+// Whoever is closing the windows has asked all questions, and an exit has the session in hand.
 bool VexaFrame::onQueryEndSession(bool& agreed) {
+    if (isClosingChildren()) return true;
     session_.prepareEnd();
     unsaved_.keepAll();  // the system does not wait for the user's answers for ever
     agreed = takesCommands() && mayCloseChildren();
@@ -89,7 +91,7 @@ bool VexaFrame::onQueryEndSession(bool& agreed) {
 // Nothing that is not saved by now can be; the next start offers it.
 void VexaFrame::onEndSession(bool ends) {
     if (ends) unsaved_.keepAll();
-    session_.end(ends);
+    if (ends || !isClosingChildren()) session_.end(ends);
 }
 
 // ---- the system --------------------------------------------------------------------------------------------------
