@@ -137,6 +137,7 @@ void DialogFrameCL::unmarkOtherCombos() {
     }
 }
 
+// What another program presses behind a box would end the dialog that the box belongs to.
 void DialogFrameCL::command(int id, UINT notification) {
     struct Button {
         int id;
@@ -145,7 +146,9 @@ void DialogFrameCL::command(int id, UINT notification) {
     static constexpr Button kButtons[] = {
         {IDOK, &DialogFrameCL::onAccept}, {IDCANCEL, &DialogFrameCL::onCancel}, {IDHELP, &DialogFrameCL::onHelp}};
     for (const Button& button : kButtons) {
-        if (button.id == id) return (this->*button.press)();
+        if (button.id != id) continue;
+        if (IsWindowEnabled(window_)) (this->*button.press)();
+        return;
     }
     onControl(id, notification);
 }
