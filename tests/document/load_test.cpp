@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "base/strings.h"
 #include "document/document_session.h"
 #include "document/text/file_identity.h"
+#include "document/text/line_end_search.h"
 #include "document/text/text_document.h"
 #include "support/test_disk.h"
 
@@ -27,6 +29,18 @@ class Load : public testing::Test, protected test::DocumentSession {
     using Lines = std::vector<std::string>;
     test::TestDisk disk_;
 };
+
+TEST(LineEndSearch, FindsWhatALookAtEachByteFinds) {
+    std::mt19937 random(5);
+    for (unsigned i = 0; i < 4000; ++i) {
+        const auto sought = i % 2 ? LineEndSearch::Sought::Lf : LineEndSearch::Sought::LfAndCr;
+        std::string text(random() % 300, 'x');
+        for (auto ends = random() % 3; ends > 0 && !text.empty(); --ends)
+            text[random() % text.size()] = "\n\r\v\x8A"[random() % 4];
+        const std::size_t first = std::min(text.find_first_of(i % 2 ? "\n" : "\n\r"), text.size());
+        ASSERT_EQ(LineEndSearch(sought, i % 3 ? Instructions::Sse2 : Instructions::Plain).find(text), first) << i;
+    }
+}
 
 TEST_F(Load, LineEndsOfTextAreLfAndCrLf) {
     ASSERT_TRUE(load("one\r\ntwo\nthree"));

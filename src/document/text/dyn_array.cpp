@@ -103,11 +103,13 @@ bool DynArray::makeRoom(std::int32_t i) {
     return grow(static_cast<std::int32_t>(wanted));
 }
 
-// Makes slots below count real, as vacant ones.
-bool DynArray::reach(std::int32_t count) try {
-    if (count <= slots_.size()) return true;
+// Makes slots below i real, as vacant ones, and room for one more.
+bool DynArray::reach(std::int32_t i) try {
+    const std::int32_t missing = i - slots_.size();
+    if (missing < 0) return true;
     unchanged_.keep(slots_.size(), 0);
-    slots_.append(count - slots_.size(), &vacant_);
+    slots_.reserve(missing + 1);
+    if (missing > 0) slots_.append(missing, &vacant_);
     return true;
 } catch (const std::bad_alloc&) {
     Report(kNoMemory);
@@ -131,12 +133,16 @@ bool DynArray::put(LinePtr line, std::int32_t i) {
         Report(kPutOutOfRange);
         return false;
     }
-    if (!reach(i + 1)) return false;
+    if (!reach(i)) return false;
     noteMovedFrom(i);
-    noteChanged(i);
-    TextLine* const old = occupied(i);
-    slots_[i] = keep(std::move(line));
-    if (old) LineDeleter()(old);
+    if (i == slots_.size()) {
+        slots_.insert(i, keep(std::move(line)));
+    } else {
+        noteChanged(i);
+        TextLine* const old = occupied(i);
+        slots_[i] = keep(std::move(line));
+        if (old) LineDeleter()(old);
+    }
     trim();
     return true;
 }

@@ -116,7 +116,7 @@ class DynArray {
   private:
     bool makeRoom(std::int32_t i);
     bool grow(std::int32_t capacity);
-    bool reach(std::int32_t count);
+    bool reach(std::int32_t i);
     LinePtr take(std::int32_t i);
     TextLine* keep(LinePtr line);
     void trim();

@@ -1,7 +1,5 @@
 #include "document/text/line_end.h"
 
-#include <algorithm>
-
 namespace vexa {
 
 std::string_view BytesOf(LineEnd end) {
@@ -14,19 +12,18 @@ std::string_view NameOf(LineEnd end) {
     return kNames[static_cast<std::size_t>(end)];
 }
 
-CutLine LineCutter::next() {
-    const std::size_t feed = lengthBefore('\n', feed_);
-    const std::size_t carriageReturn = lengthBefore('\r', carriageReturn_);
-    if (feed < carriageReturn) return {feed, LineEnd::Lf};
-    if (feed == carriageReturn) return {feed, LineEnd::None};
-    const bool isFeed = feed < rest_.size();
-    return {carriageReturn, isFeed && carriageReturn + 1 == feed ? LineEnd::CrLf : LineEnd::Cr};
-}
+LineCutter::LineCutter(std::string_view bytes, LinesEndWith ends)
+    : rest_(bytes),
+      search_(ends == LinesEndWith::AnyEnd ? LineEndSearch::Sought::LfAndCr : LineEndSearch::Sought::Lf),
+      ends_(ends) {}
 
-// Up to the next such character, or to the bytes' end. It is looked for again only once the line before it is taken.
-std::size_t LineCutter::lengthBefore(char end, const char*& next) const {
-    if (next == nullptr || next < rest_.data()) next = rest_.data() + std::min(rest_.find(end), rest_.size());
-    return static_cast<std::size_t>(next - rest_.data());
+CutLine LineCutter::next(std::size_t within) const {
+    const std::string_view seen = rest_.substr(0, within);
+    const std::size_t length = search_.find(seen);
+    if (length == seen.size()) return {rest_.size(), LineEnd::None};
+    if (seen[length] == '\r') return {length, rest_.substr(length + 1).starts_with('\n') ? LineEnd::CrLf : LineEnd::Cr};
+    const bool isCrLf = ends_ == LinesEndWith::LfOrCrLf && length > 0 && seen[length - 1] == '\r';
+    return isCrLf ? CutLine{length - 1, LineEnd::CrLf} : CutLine{length, LineEnd::Lf};
 }
 
 std::string_view LineCutter::take(const CutLine& line) {

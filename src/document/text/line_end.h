@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "document/text/line_end_search.h"
+
 namespace vexa {
 
 // None is said of a line that the user has only come to, and of a last line without an end. Any other line without one
@@ -25,23 +27,23 @@ struct CutLine {
     LineEnd end;
 };
 
-// Cuts bytes into lines that keep their ends. A CR alone ends a line, too; at the bytes' end it may be the half of a
-// CR LF. Every byte is looked at a fixed number of times, whatever ends the lines.
+// What ends the lines of a file: a CR before an LF may belong to the line, and a CR alone may end one.
+enum class LinesEndWith { Lf, LfOrCrLf, AnyEnd };
+
+// Cuts bytes into lines. Where any end is one, a CR at the bytes' end may be the half of a CR LF.
 class LineCutter {
   public:
-    explicit LineCutter(std::string_view bytes) : rest_(bytes) {}
+    LineCutter(std::string_view bytes, LinesEndWith ends);
     bool isAtEnd() const { return rest_.empty(); }
-    // The next line; the rest of the bytes without an end when there is none any more.
-    CutLine next();
+    // The next line; the rest of the bytes without an end when there is none any more, or not among so many bytes.
+    CutLine next(std::size_t within = std::string_view::npos) const;
     // Goes past it.
     std::string_view take(const CutLine& line);
 
   private:
-    std::size_t lengthBefore(char end, const char*& next) const;
-
     std::string_view rest_;
-    const char* feed_ = nullptr;            // the next LF, as last looked for; where the bytes end when there is none
-    const char* carriageReturn_ = nullptr;  // the next CR likewise
+    LineEndSearch search_;
+    LinesEndWith ends_;
 };
 
 // How the lines of a document that keeps their ends do end, as last looked at.
@@ -54,6 +56,7 @@ struct LineEndStyle {
 class LineEndTally {
   public:
     void add(LineEnd end) { ++counts_[static_cast<std::size_t>(end)]; }
+    bool has(LineEnd end) const { return counts_[static_cast<std::size_t>(end)] > 0; }
     // Where no line has an end, the common one is as given.
     LineEndStyle style(LineEnd otherwise) const;
 

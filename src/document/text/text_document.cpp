@@ -77,7 +77,7 @@ bool TextDocument::load(const FileRules& rules) {
         return false;
     }
     lines_.takeGrown();
-    takeLineEnds(loader.tally());
+    takeLineEnds(rules_.keepsLineEnds ? loader.tally() : LineEndTally());
     loaded_ = true;
     disk_.facts = facts;
     disk_.changesUnedited = disk_.kind != ContentsKind::Text && changesWhenWritten();

@@ -44,6 +44,7 @@ bool TextLoader::read(File& file) {
     document_.lines().setGrowBy(kLoadGrowth);
     const bool complete = mayBeWhole() && readLines();
     document_.lines().setGrowBy(growBy);
+    document_.disk_.lineEnds = {tally_.has(LineEnd::CrLf), tally_.has(LineEnd::Lf)};
     if (complete && document_.linesWrapped_)
         document_.notices().box(LoadText(TextId::LinesWrapped), TextId::ProgramCaption, BoxButtons::Ok);
     return complete;
@@ -106,7 +107,7 @@ bool TextLoader::refill() {
         endOfFile_ = *count == 0;
         noteRead(*count);
     }
-    cutter_ = LineCutter({next_, available()});
+    cutter_ = LineCutter({next_, available()}, endsOfLines());
     return true;
 }
 
@@ -119,38 +120,26 @@ void TextLoader::noteRead(std::size_t count) {
     end_ += count;
 }
 
-// Among bytes, a CR before the line end belongs to the line.
-void TextLoader::noteLineEnd(Cut cut) {
-    if (cut.end == LineEnd::None) return;
-    const bool isCrLf = cut.end == LineEnd::CrLf || (bytes_ && cut.length > 0 && next_[cut.length - 1] == '\r');
-    (isCrLf ? document_.disk_.lineEnds.crLf : document_.disk_.lineEnds.lf) = true;
-}
-
 // What goes to the end of what has been read may go on after it, and a CR there may belong to an LF.
 bool TextLoader::mayGoOn(Cut cut) const {
     return cut.size() == available() && !cut.tooLong && !endOfFile_;
 }
 
-TextLoader::Cut TextLoader::nextCut() {
-    if (!rules_.keepsLineEnds) return limitedCut();
-    const CutLine line = cutter_.next();
-    return {line.length, line.end, false};
+LinesEndWith TextLoader::endsOfLines() const {
+    if (rules_.keepsLineEnds) return LinesEndWith::AnyEnd;
+    return bytes_ ? LinesEndWith::Lf : LinesEndWith::LfOrCrLf;
 }
 
-TextLoader::Cut TextLoader::limitedCut() const {
+TextLoader::Cut TextLoader::nextCut() const {
     const std::size_t limit = rules_.limits.lineRead;
-    const std::size_t window = std::min(available(), limit + 1);
-    const char* feed = static_cast<const char*>(std::memchr(next_, '\n', window));
-    std::size_t length = feed ? static_cast<std::size_t>(feed - next_) : available();
-    const bool crBefore = feed && !bytes_ && length > 0 && next_[length - 1] == '\r';
-    if (crBefore) --length;
-    if (length >= limit) return {limit, LineEnd::None, true};
-    if (!feed) return {length, LineEnd::None, false};
-    return {length, crBefore ? LineEnd::CrLf : LineEnd::Lf, length + 1 >= limit};
+    const CutLine line = cutter_.next(limit + 1);
+    if (line.length >= limit) return {limit, LineEnd::None, true};
+    return {line.length, line.end, line.end != LineEnd::None && line.length + 1 >= limit};
 }
 
 void TextLoader::storeCut(Cut cut) {
-    noteLineEnd(cut);
+    const bool isCrLf = cut.end == LineEnd::Lf && cut.length > 0 && next_[cut.length - 1] == '\r';
+    tally_.add(isCrLf ? LineEnd::CrLf : cut.end);
     if (cut.tooLong) {
         storeSplit(cut);
         return;
@@ -158,12 +147,9 @@ void TextLoader::storeCut(Cut cut) {
     char* text = next_;
     next_ += cut.size();
     text[cut.length] = '\0';
+    cutter_.take({cut.length, cut.end});
     LinePtr line(arena_.makeLine(text, cut.length));
-    if (rules_.keepsLineEnds) {
-        cutter_.take({cut.length, cut.end});
-        line->setEnd(cut.end);
-        tally_.add(cut.end);
-    }
+    if (rules_.keepsLineEnds) line->setEnd(cut.end);
     store(std::move(line));
 }
 
@@ -177,6 +163,7 @@ void TextLoader::storeSplit(Cut cut) {
     copy[split] = '\0';
     std::memmove(next_ + split + LengthOf(cut.end), next_ + split, cut.length - split);
     next_ += split + LengthOf(cut.end);
+    cutter_.take({split, cut.end});
     store(LinePtr(arena_.makeLine(copy, split)));
 }
 

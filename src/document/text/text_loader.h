@@ -41,9 +41,8 @@ class TextLoader {
     bool readLines();
     bool refill();
     bool mayGoOn(Cut cut) const;
-    Cut nextCut();
-    Cut limitedCut() const;
-    void noteLineEnd(Cut cut);
+    LinesEndWith endsOfLines() const;
+    Cut nextCut() const;
     void noteRead(std::size_t count);
     void storeCut(Cut cut);
     void storeSplit(Cut cut);
@@ -57,8 +56,8 @@ class TextLoader {
     File* file_ = nullptr;
     char* next_ = nullptr;  // the unread part of the present block
     char* end_ = nullptr;
-    LineCutter cutter_{{}};  // of that part
-    LineEndTally tally_;
+    LineCutter cutter_{{}, LinesEndWith::Lf};  // of that part
+    LineEndTally tally_;                       // of the lines' ends as the file has them
     std::uint64_t bytesRead_ = 0;
     Checksum checksum_;
     bool endOfFile_ = false;

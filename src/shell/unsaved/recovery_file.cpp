@@ -39,7 +39,7 @@ LineViews LinesBeforeLf(std::string_view rest) {
 
 LineViews LinesWithEnds(std::string_view text) {
     LineViews lines;
-    LineCutter cutter(text);
+    LineCutter cutter(text, LinesEndWith::AnyEnd);
     do {
         const CutLine line = cutter.next();
         lines.push_back({cutter.take(line), line.end});
