@@ -55,13 +55,13 @@ std::size_t TextLine::capacity() const {
     return stored;
 }
 
-// The text, to be written to, with room for that many characters and a NUL.
-char* TextLine::makeRoom(std::size_t length) {
+// The text, to be written to, with room for that many characters and a NUL. The reserve is for a first text of its own.
+char* TextLine::makeRoom(std::size_t length, std::size_t reserve) {
     effect.isCurrent = false;
     isChanged_ = 1;
     isMeasured_ = 0;
     if (ownsText_ && length <= capacity()) return const_cast<char*>(text_);
-    const std::size_t first = std::max<std::size_t>(length, length_) + kReserve;
+    const std::size_t first = std::max<std::size_t>(length, length_) + reserve;
     char* text = NewText(ownsText_ ? std::max(first, capacity() * 2) : first);
     std::memcpy(text, text_, length_ + 1);
     if (ownsText_) delete[] BlockOf(text_);
@@ -103,7 +103,7 @@ void TextLine::replaceRun(CharColumn column, std::int32_t count, std::string_vie
     const std::size_t at = Offset(column);
     const std::size_t after = at + static_cast<std::size_t>(count);
     const std::size_t length = length_ - static_cast<std::size_t>(count) + inserted.size();
-    char* text = makeRoom(length);
+    char* text = makeRoom(length, 0);
     std::memmove(text + at + inserted.size(), text + after, length_ + 1 - after);
     std::memcpy(text + at, inserted.data(), inserted.size());
     length_ = static_cast<std::uint32_t>(length);

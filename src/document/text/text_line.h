@@ -12,15 +12,15 @@
 
 namespace vexa {
 
-// A line's text is either borrowed from the block that its file was read into, or, from its first change on, its own
-// with room to type into. Most lines are never changed, and a reserve that is never made costs neither time nor memory.
-// The text may hold any bytes and is always followed by a NUL.
+// A line's text is either borrowed from the block that its file was read into, or, from its first change on, its own,
+// with room to type into once a character has been typed or deleted. Most lines are never changed, and a reserve that
+// is never made costs neither time nor memory. The text may hold any bytes and is always followed by a NUL.
 class TextLine {
   public:
     // Says that the text and the record belong to a LineArena.
     struct InArena {};
 
-    // The room that a line's own text has beyond its first contents, in bytes.
+    // The room to type into that a line's own text has beyond its first contents, in bytes.
     static constexpr std::size_t kReserve = 302;
 
     TextLine() = default;
@@ -43,7 +43,8 @@ class TextLine {
     char erase(CharColumn column);
     char replace(CharColumn column, char c);
     void append(std::string_view text);
-    // Replaces `count` characters by a text, which must not be this line's own.
+    // Replaces `count` characters by a text, which must not be this line's own. Makes no room to type into: many lines
+    // may be changed at once.
     void replaceRun(CharColumn column, std::int32_t count, std::string_view text);
     void truncate(CharColumn column);
 
@@ -67,7 +68,7 @@ class TextLine {
 
   private:
     friend struct LineDeleter;
-    char* makeRoom(std::size_t length);
+    char* makeRoom(std::size_t length, std::size_t reserve = kReserve);
     std::size_t capacity() const;
 
     const char* text_ = "";
