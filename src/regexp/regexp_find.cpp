@@ -131,11 +131,10 @@ const char* FirstPosition(const Plan& plan, std::string_view rest) {
     return hints.filter.find(begin, begin + rest.size());
 }
 
-// Apart, so that no room is made for the machine in a line whose first character tells enough.
-[[gnu::noinline]] std::optional<Match> FindInRest(const Plan& plan, std::string_view line, std::size_t from) {
+// Apart, so that no room is made for the machine in a line that cannot match.
+[[gnu::noinline]] std::optional<Match> FindFrom(const Plan& plan, std::string_view line, std::size_t from,
+                                                const char* position) {
     const char* begin = line.data();
-    const char* position = FirstPosition(plan, line.substr(from));
-    if (position == nullptr) return std::nullopt;
     const void* nul = std::memchr(begin, '\0', line.size());
     const char* end = nul != nullptr ? static_cast<const char*>(nul) : begin + line.size();
     if (position > end) return std::nullopt;
@@ -151,7 +150,8 @@ const char* FirstPosition(const Plan& plan, std::string_view rest) {
 std::optional<Match> FindMatch(const Plan& plan, std::string_view line, std::size_t from) {
     if (from > line.size()) return std::nullopt;
     if (plan.anchored && (from > 0 || !plan.nodes[plan.start].first.has(line.data()[0]))) return std::nullopt;
-    return FindInRest(plan, line, from);
+    const char* position = FirstPosition(plan, line.substr(from));
+    return position == nullptr ? std::nullopt : FindFrom(plan, line, from, position);
 }
 
 }  // namespace vexa::regexp

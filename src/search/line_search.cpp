@@ -39,11 +39,12 @@ LineSearch::LineSearch(const SearchOptions& options, std::string_view delimiters
     } else {
         plain_ = PlainSearch(text_, letterCase_);
     }
+    isNowhere_ = text_.empty() || (regular_ && program_ == nullptr);
 }
 
 std::optional<LineMatch> LineSearch::find(std::string_view text, CharColumn from) {
     const auto start = static_cast<std::size_t>(from.value);
-    if (isNowhere() || start > text.size()) return std::nullopt;
+    if (isNowhere_ || start > text.size()) return std::nullopt;
     LineMatch match;
     const std::size_t begin = seesWholeLine_ ? 0 : start;
     const std::string_view subject = text.substr(begin);

@@ -38,7 +38,7 @@ class LineSearch {
     LineSearch(const SearchOptions& options, std::string_view delimiters);
     void setDelimiters(std::string_view delimiters) { delimiters_ = delimiters; }
 
-    bool isNowhere() const { return text_.empty() || (regular_ && program_ == nullptr); }
+    bool isNowhere() const { return isNowhere_; }
     // The lines after a line whose text must follow it, each after a "\n", for the find text to be found in it.
     std::int32_t furtherLines() const { return furtherLines_; }
     // What is to be put in for the match that was found last, whose text must still be there.
@@ -67,6 +67,7 @@ class LineSearch {
     const bool wholeWord_;
     const bool seesWholeLine_;  // also where the search begins in its middle
     const LetterCase letterCase_;
+    bool isNowhere_ = false;
     std::int32_t furtherLines_ = 0;
     PlainSearch plain_;
     // The engine itself rather than a RegexMatcher, which looks its pattern up for each line. Matches have the same
