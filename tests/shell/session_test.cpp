@@ -87,7 +87,9 @@ TEST_F(Session, ALongListHasTheFileClosedLastAtItsTop) {
     setHistory("MenuFile:1", "C:\\Old");
     RecentFiles recent;
     recent.LoadRecentFiles(store_, true, true);
-    for (const char c : std::string("ABCDEFGHIJKLMNOP"))
+    recent.RecordRecentFile("C:\\A");
+    EXPECT_EQ(recent.menuRows(), (Rows{{k210, "C:\\A"}, {k211, "C:\\Old"}})) << "which leaves no gap";
+    for (const char c : std::string("BCDEFGHIJKLMNOP"))
         recent.RecordRecentFile(std::string("C:\\") + c);
     recent.RecordRecentFile("c:\\n");
     recent.SaveRecentFiles(store_);
