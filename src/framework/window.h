@@ -117,7 +117,8 @@ class WindowCL {
 
     virtual bool onMousePress(const MouseButtonMessage& /*press*/) { return false; }
     virtual bool onMouseMove(POINT /*position*/) { return false; }
-    virtual bool onMouseRelease(POINT /*position*/) { return false; }  // after a move to there
+    // onMouseMove() has had the same position.
+    virtual bool onMouseRelease(POINT /*position*/) { return false; }
     virtual bool onCaptureLost() { return false; }
     virtual bool onWheel(const WheelMessage& /*turn*/) { return false; }
     virtual bool onContextMenu(std::optional<POINT> /*screenPosition*/) { return false; }

@@ -67,7 +67,7 @@ class LineSearch {
     const bool wholeWord_;
     const bool seesWholeLine_;  // also where the search begins in its middle
     const LetterCase letterCase_;
-    bool isNowhere_ = false;
+    bool isNowhere_ = false;  // worked out once, as each line asks for it
     std::int32_t furtherLines_ = 0;
     PlainSearch plain_;
     // The engine itself rather than a RegexMatcher, which looks its pattern up for each line. Matches have the same

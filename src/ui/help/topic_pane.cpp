@@ -152,11 +152,8 @@ ScrollState TopicPane::scrollState(int bar) const {
 
 // A position beyond the end becomes the last one.
 void TopicPane::scrollTo(int x, int y) {
-    const auto lastOf = [this](int bar) {
-        const ScrollState state = scrollState(bar);
-        return std::max(0, state.last - state.page + 1);
-    };
-    scroll_ = {std::clamp(x, 0, lastOf(SB_HORZ)), std::clamp(y, 0, lastOf(SB_VERT))};
+    const auto endOf = [this](int bar) { return ScrollTarget(SB_BOTTOM, scrollState(bar), 0); };
+    scroll_ = {std::clamp(x, 0, endOf(SB_HORZ)), std::clamp(y, 0, endOf(SB_VERT))};
     if (!isPopUp_) showScrollBars();
     host_.paneScrolled(*this, scroll_.y);
     InvalidateRect(window(), nullptr, FALSE);
